@@ -1,0 +1,27 @@
+# The constants of the build, their shapes checked, configured into model/BuildConstants.h.
+function(wzt_constant name default pattern help)
+    set(${name} "${default}" CACHE STRING "${help}")
+    if(NOT "${${name}}" MATCHES "^(${pattern})$")
+        message(FATAL_ERROR "${name} is \"${${name}}\": ${help} (${pattern})")
+    endif()
+endfunction()
+
+set(host "[a-z0-9]([a-z0-9-]*[a-z0-9])?(\\.[a-z0-9]([a-z0-9-]*[a-z0-9])?)*")
+wzt_constant(WZT_APPLICATION_ID "example.wzt.Companion" "[A-Za-z][A-Za-z0-9_]*(\\.[A-Za-z][A-Za-z0-9_]*)+"
+    "reverse-DNS name of the application")
+wzt_constant(WZT_SERVICE_HOST "service.wzt.example" "${host}" "host name of the web service")
+wzt_constant(WZT_VENDOR_PREFIX "example.wzt" "[a-z0-9]+(\\.[a-z0-9]+)*"
+    "reverse-DNS prefix of the package identifiers, without a full stop at its end")
+wzt_constant(WZT_PUBLIC_REPOSITORY_URL "https://repo.wzt.example" "https://${host}"
+    "public package repository: host only, no path, no trailing slash")
+wzt_constant(WZT_SUPPORTER_REPOSITORY_URL "https://supporter.wzt.example/repo/" "https://${host}/repo/"
+    "supporter package repository: path /repo/ with its trailing slash")
+wzt_constant(WZT_CYDIA_SHARE_ENDPOINT "https://share.wzt.example/api/share" "https://${host}/api/share"
+    "share endpoint: path /api/share")
+wzt_constant(WZT_CHAT_INVITATION_URL "https://chat.wzt.example/invite/wzt" "https://${host}/[A-Za-z0-9/_-]+"
+    "invitation link to the chat")
+
+# Only a build that talks to the local sandbox service has these two.
+option(WZT_SANDBOX_BUILD "talk to the local sandbox service and trust nothing else" OFF)
+set(WZT_SANDBOX_PORT "8443" CACHE STRING "port of the local sandbox service")
+set(WZT_SANDBOX_DIRECTORY "${CMAKE_BINARY_DIR}/sandbox-state" CACHE STRING "state of the local sandbox service")

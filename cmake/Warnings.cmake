@@ -1,0 +1,11 @@
+# Flags that every target of this project is compiled with.
+function(wzt_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+        -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough
+        -Wswitch-enum -Werror)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER
+        QT_NO_FOREACH QT_NO_JAVA_STYLE_ITERATORS)
+endfunction()

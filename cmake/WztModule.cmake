@@ -1,0 +1,69 @@
+include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
+
+# What every target has in common: warnings, and includes written from the root of the sources.
+function(wzt_common target)
+    wzt_warnings(${target})
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+endfunction()
+
+# A folder without drawings: wzt_library(wzt_model SOURCES ... PUBLIC libs PRIVATE libs)
+function(wzt_library target)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${target} STATIC ${ARG_SOURCES})
+    wzt_common(${target})
+    target_link_libraries(${target} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+endfunction()
+
+# A folder that draws: one static library that is one QML module as well.
+#   wzt_module(wzt_screens URI Screens SOURCES ... QML ... SINGLETONS ... ASSETS ...
+#              IMPORTS UIKit PUBLIC libs PRIVATE libs)
+# QML files are found at qrc:/qt/qml/<URI>/<file name>, assets at :/qt/qml/<URI>/<file name>.
+function(wzt_module target)
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;ASSETS;IMPORTS;PUBLIC;PRIVATE" ${ARGN})
+    foreach(file IN LISTS ARG_QML ARG_SINGLETONS ARG_ASSETS)
+        get_filename_component(name ${file} NAME)
+        set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${name})
+    endforeach()
+    if(ARG_SINGLETONS)
+        set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    endif()
+    qt_add_library(${target} STATIC)
+    # Without DEPENDENCIES nothing would be compiled ahead of time, silently.
+    qt_add_qml_module(${target}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        DEPENDENCIES QtQuick ${ARG_IMPORTS}
+        IMPORTS ${ARG_IMPORTS}
+        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${ARG_URI}
+        IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
+        SOURCES ${ARG_SOURCES}
+        QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
+        RESOURCES ${ARG_ASSETS})
+    wzt_common(${target})
+    # The generated type registration includes headers by their bare names.
+    foreach(file IN LISTS ARG_SOURCES)
+        get_filename_component(folder ${file} DIRECTORY)
+        list(APPEND folders ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    target_include_directories(${target} PRIVATE ${folders})
+    target_link_libraries(${target} PUBLIC Qt6::Core Qt6::Gui Qt6::Qml ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+endfunction()
+
+# One test program: wzt_test(test_model SOURCES ... LIBS ...), run by CTest on its own HOME.
+function(wzt_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    wzt_common(${name})
+    target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
+    set(home ${CMAKE_BINARY_DIR}/home/${name})
+    file(MAKE_DIRECTORY ${home}/runtime)
+    file(CHMOD ${home}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 60
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1"
+        ENVIRONMENT_MODIFICATION "DBUS_SESSION_BUS_ADDRESS=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_CACHE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;http_proxy=unset:;https_proxy=unset:;HTTP_PROXY=unset:;HTTPS_PROXY=unset:;ALL_PROXY=unset:;all_proxy=unset:")
+endfunction()
