@@ -48,7 +48,7 @@ public:
     /// Returns true when this process is the one, and where there is no session bus.
     /// `opened` is called for every list of URLs that a later start hands over, empty for
     /// a mere activation.
-    [[nodiscard]] virtual bool becomeOnlyInstance(const QStringList &urls,
-                                                  std::function<void(const QStringList &)> opened)
-        = 0;
+    [[nodiscard]] virtual bool
+    becomeOnlyInstance(const QStringList &urls,
+                       std::function<void(const QStringList &)> opened) = 0;
 };

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIColor.h"
+
+/// What a view draws beside its background. Lengths in points.
+struct CALayer {
+    Q_GADGET
+    QML_VALUE_TYPE(caLayer)
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius)
+    Q_PROPERTY(double borderWidth MEMBER borderWidth)
+    Q_PROPERTY(UIColor borderColor MEMBER borderColor)
+    Q_PROPERTY(bool masksToBounds MEMBER masksToBounds)
+
+public:
+    enum class CornerCurve { Circular, Continuous };
+    Q_ENUM(CornerCurve)
+
+    double cornerRadius = 0;
+    double borderWidth = 0;
+    UIColor borderColor;
+    bool masksToBounds = false;
+    CornerCurve cornerCurve = CornerCurve::Circular;
+
+    bool operator==(const CALayer &) const = default;
+};

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIAlertAction.h"
+#include "platform/uikit/UITextField.h"
+#include "platform/uikit/UIViewController.h"
+
+#include <QQmlListProperty>
+
+/// An alert: title, message, text fields one below the other, and actions. Any action dismisses
+/// it, animated; the action's handler runs when the alert has gone, and not at all when the alert
+/// is taken away otherwise. A handler must not hold its own alert strongly.
+class UIAlertController : public UIViewController {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by a screen")
+    Q_CLASSINFO("view", "UIKit/UIAlertControllerView.qml")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString message READ message CONSTANT)
+    Q_PROPERTY(QQmlListProperty<UIAlertAction> actions READ actionList CONSTANT)
+    Q_PROPERTY(QQmlListProperty<UITextField> textFields READ textFieldList CONSTANT)
+
+public:
+    /// `message` is empty for an alert without one.
+    UIAlertController(const QString &title, const QString &message);
+    ~UIAlertController() override;
+
+    [[nodiscard]] QString title() const { return m_title; }
+    [[nodiscard]] QString message() const { return m_message; }
+
+    void addAction(const QString &title, UIAlertAction::Style style,
+                   UIAlertAction::Handler handler = {});
+    /// `configure` sets the new field up.
+    void addTextFieldWithConfigurationHandler(const std::function<void(UITextField &)> &configure);
+
+    /// In the order they were added.
+    [[nodiscard]] const std::vector<std::unique_ptr<UIAlertAction>> &actions() const
+    {
+        return m_actions;
+    }
+    [[nodiscard]] const std::vector<std::unique_ptr<UITextField>> &textFields() const
+    {
+        return m_textFields;
+    }
+
+    /// What the button of that action does. A second trigger does nothing.
+    Q_INVOKABLE void trigger(UIAlertAction *action);
+    /// Return: the only action, or else the first of the default style. In a field before the last
+    /// one Return moves to the next field instead.
+    Q_INVOKABLE void triggerDefault();
+    /// Escape: the action of the cancel style, if there is one.
+    Q_INVOKABLE void triggerCancel();
+
+    [[nodiscard]] UITransitionStack::Cover cover() const override;
+    void viewWillAppear(bool animated) override;
+
+private:
+    [[nodiscard]] QQmlListProperty<UIAlertAction> actionList();
+    [[nodiscard]] QQmlListProperty<UITextField> textFieldList();
+    void fieldReturned(UIControl *sender);
+
+    QString m_title;
+    QString m_message;
+    std::vector<std::unique_ptr<UIAlertAction>> m_actions;
+    std::vector<std::unique_ptr<UITextField>> m_textFields;
+    bool m_triggered = false;
+};

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIControl.h"
+#include "platform/uikit/UIFont.h"
+
+/// A plain button: a title that dims while a finger is on it.
+class UIButton : public UIControl {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by a screen")
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(UIColor titleColor READ titleColor NOTIFY changed)
+    Q_PROPERTY(UIFont titleFont READ titleFont NOTIFY changed)
+
+public:
+    [[nodiscard]] QString title() const { return m_title; }
+    void setTitle(const QString &title) { assign(m_title, title); }
+
+    [[nodiscard]] UIColor titleColor() const { return m_titleColor; }
+    void setTitleColor(const UIColor &color) { assign(m_titleColor, color); }
+
+    /// 18 points unless set.
+    [[nodiscard]] UIFont titleFont() const { return m_titleFont; }
+    void setTitleFont(const UIFont &font) { assign(m_titleFont, font); }
+
+    [[nodiscard]] QString accessibilityLabel() const override;
+
+private:
+    QString m_title;
+    UIColor m_titleColor = UIColor::systemBlueColor();
+    UIFont m_titleFont = UIFont::systemFontOfSize(18);
+};

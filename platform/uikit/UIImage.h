@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QtQmlIntegration>
+
+/// A picture of the build, known by its asset name ("wztLogo"). Default-constructed: no picture.
+class UIImage {
+    Q_GADGET
+    QML_VALUE_TYPE(uiImage)
+    Q_PROPERTY(QString name READ name)
+
+public:
+    UIImage() = default;
+
+    /// The picture of that name; no picture when the build has none of it.
+    [[nodiscard]] static UIImage imageNamed(const QString &name);
+
+    [[nodiscard]] QString name() const { return m_name; }
+    /// Where the picture's SVG lies; empty for no picture.
+    [[nodiscard]] static QString pathOfImageNamed(const QString &name);
+
+    bool operator==(const UIImage &) const = default;
+
+private:
+    explicit UIImage(const QString &name) : m_name(name) { }
+
+    QString m_name;
+};

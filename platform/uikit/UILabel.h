@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIFont.h"
+#include "platform/uikit/UIView.h"
+
+/// Text on one line, ended by an ellipsis where it does not fit. Without text it has no height.
+class UILabel : public UIView {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by a screen")
+    Q_PROPERTY(QString text READ text NOTIFY changed)
+    Q_PROPERTY(UIFont font READ font NOTIFY changed)
+    Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
+
+public:
+    [[nodiscard]] QString text() const { return m_text; }
+    void setText(const QString &text) { assign(m_text, text); }
+
+    [[nodiscard]] UIFont font() const { return m_font; }
+    void setFont(const UIFont &font) { assign(m_font, font); }
+
+    [[nodiscard]] UIColor textColor() const { return m_textColor; }
+    void setTextColor(const UIColor &color) { assign(m_textColor, color); }
+
+    [[nodiscard]] QString accessibilityLabel() const override;
+
+private:
+    QString m_text;
+    UIFont m_font;
+    UIColor m_textColor = UIColor::labelColor();
+};

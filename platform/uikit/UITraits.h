@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIColor.h"
+#include "platform/uikit/UIHost.h"
+
+#include <QtQmlIntegration>
+
+#include <optional>
+
+class QJSEngine;
+class QQmlEngine;
+
+/// The traits that everything drawn follows, live. What is overridden holds; the rest is what the
+/// desktop says. QML knows the one object of the application as `Traits`.
+class UITraits : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(Traits)
+    QML_SINGLETON
+    Q_PROPERTY(bool dark READ isDark NOTIFY changed)
+    Q_PROPERTY(double textScale READ textScale NOTIFY changed)
+    Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+
+public:
+    static UITraits *create(QQmlEngine *engine, QJSEngine *scriptEngine);
+
+    [[nodiscard]] UIUserInterfaceStyle userInterfaceStyle() const { return effective().style; }
+    [[nodiscard]] bool isDark() const { return userInterfaceStyle() == UIUserInterfaceStyle::Dark; }
+    /// Factor on every text size, 1.0 for none.
+    [[nodiscard]] double textScale() const { return effective().textScale; }
+    [[nodiscard]] bool reduceMotion() const { return effective().reduceMotion; }
+
+    /// What the desktop says.
+    void setDesktopAppearance(const UIAppearance &appearance);
+    /// Holds over the desktop until it is taken back with nullopt.
+    void setOverride(const std::optional<UIAppearance> &appearance);
+
+    /// The platform's version that the application behaves as on. Screens ask it at the gates
+    /// 11, 12 and 13, at run time.
+    [[nodiscard]] double systemVersion() const { return m_systemVersion; }
+    [[nodiscard]] bool systemVersionIsAtLeast(double version) const
+    {
+        return m_systemVersion >= version;
+    }
+    void setSystemVersion(double version);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    friend class UIApplication;
+    UITraits() = default; // private, or QML would make a second object
+
+    [[nodiscard]] const UIAppearance &effective() const
+    {
+        return m_override ? *m_override : m_desktop;
+    }
+
+    UIAppearance m_desktop;
+    std::optional<UIAppearance> m_override;
+    double m_systemVersion = 17.0;
+};

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/CALayer.h"
+#include "platform/uikit/UIResponder.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class UITapGestureRecognizer;
+
+/// What every view has. A view is drawn by QML, which also knows its geometry; this object holds
+/// what a screen sets and the touches that come back.
+class UIView : public UIResponder {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by a screen")
+    Q_PROPERTY(UIColor backgroundColor READ backgroundColor NOTIFY changed)
+    Q_PROPERTY(UIColor tintColor READ tintColor NOTIFY changed)
+    Q_PROPERTY(CALayer layer READ layer NOTIFY changed)
+    Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel NOTIFY changed)
+    Q_PROPERTY(bool recognizesTaps READ recognizesTaps NOTIFY changed)
+
+public:
+    UIView();
+    ~UIView() override;
+
+    [[nodiscard]] UIColor backgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(const UIColor &color) { assign(m_backgroundColor, color); }
+
+    /// The accent of what the view holds; the system's blue unless set.
+    [[nodiscard]] UIColor tintColor() const { return m_tintColor; }
+    void setTintColor(const UIColor &color) { assign(m_tintColor, color); }
+
+    [[nodiscard]] CALayer layer() const { return m_layer; }
+    void setLayer(const CALayer &layer) { assign(m_layer, layer); }
+
+    /// What a screen reader says for the view; a control's own text unless set.
+    [[nodiscard]] virtual QString accessibilityLabel() const;
+    void setAccessibilityLabel(const QString &label)
+    {
+        assign(m_accessibilityLabel, std::optional(label));
+    }
+
+    void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
+    [[nodiscard]] bool recognizesTaps() const { return !m_recognizers.empty(); }
+    /// Runs the view's tap recognisers; for whoever draws the view.
+    Q_INVOKABLE void tapped();
+
+Q_SIGNALS:
+    /// Some property of the view changed.
+    void changed();
+
+protected:
+    /// Sets a property and announces it, if it is a new value.
+    template <class T>
+    void assign(T &field, const T &value)
+    {
+        if (field == value)
+            return;
+        field = value;
+        Q_EMIT changed();
+    }
+
+private:
+    UIColor m_backgroundColor;
+    UIColor m_tintColor = UIColor::systemBlueColor();
+    CALayer m_layer;
+    std::optional<QString> m_accessibilityLabel;
+    std::vector<std::shared_ptr<UITapGestureRecognizer>> m_recognizers;
+};
