@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+/// One request: a URL and a method. There are no header fields and no body of its own, a "POST"
+/// carries everything in its URL and sends an empty body.
+class NSMutableURLRequest {
+public:
+    /// `url`: absolute and percent-encoded, as NSURLComponents makes it. The method is "GET".
+    [[nodiscard]] static NSMutableURLRequest requestWithURL(const QByteArray &url);
+
+    [[nodiscard]] const QByteArray &URL() const { return m_url; }
+
+    [[nodiscard]] const QByteArray &HTTPMethod() const { return m_method; }
+    /// "GET" or "POST"; a task with any other method fails with NSURLErrorUnsupportedURL.
+    void setHTTPMethod(const QByteArray &method) { m_method = method; }
+
+    /// Whether sending the request twice does no harm. False, as by default, sends it exactly
+    /// once, over a connection of its own. True may reuse an open connection, and sends again
+    /// when the server turns out to have closed it.
+    [[nodiscard]] bool isRepeatable() const { return m_repeatable; }
+    void setRepeatable(bool repeatable) { m_repeatable = repeatable; }
+
+private:
+    explicit NSMutableURLRequest(const QByteArray &url) : m_url(url) { }
+
+    QByteArray m_url;
+    QByteArray m_method = "GET";
+    bool m_repeatable = false;
+};

@@ -1,0 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// The platform's unsigned integer of the machine's word size; every status code is one.
+using NSUInteger = unsigned long;

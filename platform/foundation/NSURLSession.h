@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/foundation/NSURLSessionConfiguration.h"
+#include "platform/foundation/NSURLSessionDataTask.h"
+
+#include <thread>
+
+/// An asynchronous HTTPS client on one thread of its own, asleep while nothing is under way.
+///
+/// HTTPS only, HTTP/1.1. A redirect is followed for "GET" and only to the same host and port, at
+/// most 20 in a row; any other redirect is an error. Sent header fields are Host, Accept and
+/// Accept-Encoding, and for "POST" a Content-Length of 0. No cookies, no cache, no credentials.
+/// Proxy variables of the environment are honoured, except for loopback addresses.
+///
+/// A body is delivered only when the reply ended as it announced. Two truncations cannot be seen
+/// here: a reply without a length whose connection is closed early, and a compressed body that was
+/// cut before it was sent with its shorter length. What decodes the body has to notice.
+class NSURLSession {
+public:
+    explicit NSURLSession(const NSURLSessionConfiguration &configuration);
+
+    /// Completes every task under way with NSURLErrorCancelled, on the session's thread, and
+    /// returns when the last completion has returned. Never call it from a completion.
+    /// A session that was installed as the shared one is uninstalled at the end.
+    ~NSURLSession();
+
+    NSURLSession(const NSURLSession &) = delete;
+    NSURLSession &operator=(const NSURLSession &) = delete;
+
+    /// The session that the application has installed; null before and after. Any thread.
+    [[nodiscard]] static NSURLSession *sharedSession();
+
+    /// Installs `session` as the shared one; the application does this once as it starts. The
+    /// session stays its maker's, who destroys it before the application object.
+    static void setSharedSession(NSURLSession *session);
+
+    /// Makes a task that waits for its `resume()`. `completion` must not be empty; it is called
+    /// exactly once after `resume()`, on the session's own thread (on the resuming thread, with
+    /// NSURLErrorCancelled, if the session is gone by then), and must not block for long: every
+    /// other task waits for it.
+    /// Errors are of the domain NSURLErrorDomain, their codes those of NSURLErrorCode.
+    [[nodiscard]] std::shared_ptr<NSURLSessionDataTask>
+    dataTaskWithRequest(const NSMutableURLRequest &request,
+                        NSURLSessionDataTask::Completion completion);
+
+private:
+    std::shared_ptr<NSURLSessionQueue> m_queue;
+    std::thread m_thread;
+};
