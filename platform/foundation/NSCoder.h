@@ -4,12 +4,11 @@
 
 #include "platform/foundation/NSDate.h"
 
+#include <QMap>
 #include <QString>
 
 #include <optional>
-#include <utility>
 #include <variant>
-#include <vector>
 
 /// The keyed values of one object. A record's encodeWithCoder fills one, its initWithCoder reads
 /// one; NSKeyedArchiver and NSKeyedUnarchiver turn it into bytes and back.
@@ -20,7 +19,6 @@ class NSCoder {
 public:
     /// monostate is nil. A bool stands for itself in an archive, the others are objects.
     using Value = std::variant<std::monostate, bool, qint64, double, QString, NSDate>;
-    using Entry = std::pair<QString, Value>;
 
     /// Puts an object, or nil, under `key`; a later value replaces an earlier one.
     void encodeObject(const QString &text, const QString &key);
@@ -29,7 +27,7 @@ public:
     void encodeObject(int number, const QString &key);
     void encodeObject(bool, const QString &) = delete;
     void encodeBool(bool value, const QString &key);
-    void encodeValue(Value value, const QString &key);
+    void encodeValue(const Value &value, const QString &key);
 
     [[nodiscard]] bool containsValueForKey(const QString &key) const;
 
@@ -41,11 +39,8 @@ public:
     /// A number is true when it is not 0.
     [[nodiscard]] bool decodeBoolForKey(const QString &key) const;
 
-    /// Everything encoded, in order.
-    [[nodiscard]] const std::vector<Entry> &entries() const { return m_entries; }
+    [[nodiscard]] const QMap<QString, Value> &values() const { return m_values; }
 
 private:
-    [[nodiscard]] const Value *find(const QString &key) const;
-
-    std::vector<Entry> m_entries;
+    QMap<QString, Value> m_values;
 };
