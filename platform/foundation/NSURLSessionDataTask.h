@@ -30,7 +30,7 @@ public:
 
 private:
     friend class NSURLSessionQueue;
-    void complete(const QByteArray &data, const std::optional<NSError> &error);
+    void complete(const QByteArray &data, std::optional<NSURLErrorCode> code);
 
     NSMutableURLRequest m_request;
     Completion m_completion;
