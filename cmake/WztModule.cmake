@@ -4,7 +4,6 @@ include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
 function(wzt_common target)
     wzt_warnings(${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
-    set_target_properties(${target} PROPERTIES AUTOMOC ON)
 endfunction()
 
 # A folder without drawings: wzt_library(wzt_model SOURCES ... PUBLIC libs PRIVATE libs)

@@ -58,6 +58,7 @@ public:
 private:
     [[nodiscard]] QQmlListProperty<UIAlertAction> actionList();
     [[nodiscard]] QQmlListProperty<UITextField> textFieldList();
+    void triggerStyle(UIAlertAction::Style style);
     void fieldReturned(UIControl *sender);
 
     QString m_title;

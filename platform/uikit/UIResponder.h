@@ -30,5 +30,5 @@ protected:
     virtual void firstResponderDidChange() { }
 
 private:
-    static void moveFirstResponder(UIResponder *from, UIResponder *to);
+    static void moveFirstResponder(UIResponder *to);
 };

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] int tag() const { return m_tag; }
 
     /// What a screen reader says; the title unless set. Set before the tab is shown.
-    [[nodiscard]] QString accessibilityLabel() const;
+    [[nodiscard]] QString accessibilityLabel() const { return m_accessibilityLabel; }
     void setAccessibilityLabel(const QString &label) { m_accessibilityLabel = label; }
 
 private:

@@ -21,6 +21,14 @@ class UITraits : public QObject {
     Q_PROPERTY(bool dark READ isDark NOTIFY changed)
     Q_PROPERTY(double textScale READ textScale NOTIFY changed)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+    // Colours of what the platform itself draws, in the current style.
+    Q_PROPERTY(QColor labelColor READ labelColor NOTIFY changed)
+    Q_PROPERTY(QColor secondaryLabelColor READ secondaryLabelColor NOTIFY changed)
+    Q_PROPERTY(QColor separatorColor READ separatorColor NOTIFY changed)
+    Q_PROPERTY(QColor accentColor READ accentColor NOTIFY changed)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
+    Q_PROPERTY(QColor barColor READ barColor NOTIFY changed)
+    Q_PROPERTY(QColor alertColor READ alertColor NOTIFY changed)
 
 public:
     static UITraits *create(QQmlEngine *engine, QJSEngine *scriptEngine);
@@ -30,6 +38,14 @@ public:
     /// Factor on every text size, 1.0 for none.
     [[nodiscard]] double textScale() const { return effective().textScale; }
     [[nodiscard]] bool reduceMotion() const { return effective().reduceMotion; }
+
+    [[nodiscard]] QColor labelColor() const;
+    [[nodiscard]] QColor secondaryLabelColor() const;
+    [[nodiscard]] QColor separatorColor() const;
+    [[nodiscard]] QColor accentColor() const;
+    [[nodiscard]] QColor backgroundColor() const;
+    [[nodiscard]] QColor barColor() const;
+    [[nodiscard]] QColor alertColor() const;
 
     /// What the desktop says.
     void setDesktopAppearance(const UIAppearance &appearance);

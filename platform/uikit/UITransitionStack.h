@@ -83,16 +83,26 @@ Q_SIGNALS:
     void topChanged();
 
 private:
+    struct Departure;
     struct Entry;
+    struct Step;
 
     [[nodiscard]] int indexOf(const UIViewController *controller) const;
-    [[nodiscard]] int nearest(int from, int step) const;
+    [[nodiscard]] UIViewController *nearest(int from, int direction) const;
+    [[nodiscard]] bool isDrawn(Motion motion) const;
+    [[nodiscard]] bool isBlocked(int index) const;
+    [[nodiscard]] bool isConcealed(int index) const;
     void leaveFrom(int index, Motion motion, Completion completion);
-    void settle(int index);
+    void settle(const UIViewController *controller);
+    void finishEntering(int index);
+    void finishLeaving(int index);
+    [[nodiscard]] UIAppearanceState goal(int index) const;
+    [[nodiscard]] Step nextStep() const;
     void reconcile(Motion motion);
     void announce();
 
-    std::vector<std::unique_ptr<Entry>> m_entries;
+    std::vector<Entry> m_entries;
     UIAppearanceState m_limit = UIAppearanceState::Disappeared;
+    const UIViewController *m_announcedTop = nullptr;
     int m_views = 0;
 };

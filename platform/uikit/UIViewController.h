@@ -46,7 +46,7 @@ public:
 
     // The life cycle; an override calls the base implementation first.
     /// Once, before the controller first appears.
-    virtual void viewDidLoad() { }
+    virtual void viewDidLoad();
     /// Whenever the controller is about to be shown, before its transition begins.
     virtual void viewWillAppear(bool animated);
     /// Whenever the controller is shown, when the transition has ended.
@@ -82,24 +82,26 @@ public:
 
 protected:
     /// For a container: the appearance changed, the children follow.
-    virtual void appearanceStateDidChange(UITransitionStack::Motion) { }
+    virtual void appearanceStateDidChange(UITransitionStack::Motion motion);
     /// For a container: `child` is now part of this controller.
     void adopt(UIViewController &child) { child.m_parent = this; }
     static void beginAppearance(UIViewController &controller, UITransitionStack::Motion motion);
     static void endAppearance(UIViewController &controller, UITransitionStack::Motion motion);
-    static void disappear(UIViewController &controller);
+    static void disappear(UIViewController &controller, UITransitionStack::Motion motion);
 
 private:
     friend class UITransitionStack;
     friend class UIWindow;
 
-    [[nodiscard]] const UIViewController *outermost() const;
+    /// The entry of the window's stack that this controller is, or is inside of; null when it is
+    /// in no window, or leaving.
+    [[nodiscard]] const UIViewController *presentedEntry() const;
 
     UIView m_view;
     std::unique_ptr<UINavigationItem> m_navigationItem;
     std::unique_ptr<UITabBarItem> m_tabBarItem;
-    UIViewController *m_parent = nullptr;
-    QPointer<UITransitionStack> m_presentation;
+    QPointer<UIViewController> m_parent;
+    QPointer<UITransitionStack> m_stack;
     UIAppearanceState m_appearance = UIAppearanceState::Disappeared;
     bool m_viewLoaded = false;
 };

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UIColor.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Shade {
+    double red, green, blue, alpha;
+};
+
+// A colour of the platform: its public values, in 0...255 and alpha, for light and for dark.
+UIColor systemColor(const Shade &light, const Shade &dark)
+{
+    return UIColor::initWithDynamicProvider([light, dark](const UITraitCollection &traits) {
+        const Shade &shade = traits.userInterfaceStyle == UIUserInterfaceStyle::Dark ? dark : light;
+        return UIColor::colorWithRed(shade.red / 255, shade.green / 255, shade.blue / 255,
+                                     shade.alpha);
+    });
+}
+
+float drawable(double component)
+{
+    return static_cast<float>(std::clamp(component, 0.0, 1.0));
+}
+
+} // namespace
+
+UIColor UIColor::colorWithWhite(double white, double alpha)
+{
+    UIColor color;
+    color.m_components = {white, alpha};
+    return color;
+}
+
+UIColor UIColor::colorWithRed(double red, double green, double blue, double alpha)
+{
+    UIColor color;
+    color.m_components = {red, green, blue, alpha};
+    return color;
+}
+
+UIColor UIColor::initWithDynamicProvider(Provider provider)
+{
+    UIColor color;
+    color.m_provider = std::make_shared<const Provider>(std::move(provider));
+    return color;
+}
+
+UIColor UIColor::clearColor()
+{
+    return colorWithWhite(0, 0);
+}
+
+UIColor UIColor::blackColor()
+{
+    return colorWithWhite(0, 1);
+}
+
+UIColor UIColor::whiteColor()
+{
+    return colorWithWhite(1, 1);
+}
+
+UIColor UIColor::grayColor()
+{
+    return colorWithWhite(0.5, 1);
+}
+
+UIColor UIColor::lightGrayColor()
+{
+    return colorWithWhite(2.0 / 3, 1);
+}
+
+UIColor UIColor::systemBlueColor()
+{
+    return systemColor({0, 122, 255, 1}, {10, 132, 255, 1});
+}
+
+UIColor UIColor::systemTealColor()
+{
+    return systemColor({48, 176, 199, 1}, {64, 200, 224, 1});
+}
+
+UIColor UIColor::systemGrayColor()
+{
+    return systemColor({142, 142, 147, 1}, {142, 142, 147, 1});
+}
+
+UIColor UIColor::labelColor()
+{
+    return systemColor({0, 0, 0, 1}, {255, 255, 255, 1});
+}
+
+UIColor UIColor::secondaryLabelColor()
+{
+    return systemColor({60, 60, 67, 0.6}, {235, 235, 245, 0.6});
+}
+
+UIColor UIColor::tertiaryLabelColor()
+{
+    return systemColor({60, 60, 67, 0.3}, {235, 235, 245, 0.3});
+}
+
+UIColor UIColor::separatorColor()
+{
+    return systemColor({60, 60, 67, 0.29}, {84, 84, 88, 0.6});
+}
+
+UIColor UIColor::systemBackgroundColor()
+{
+    return systemColor({255, 255, 255, 1}, {0, 0, 0, 1});
+}
+
+UIColor UIColor::systemGroupedBackgroundColor()
+{
+    return systemColor({242, 242, 247, 1}, {0, 0, 0, 1});
+}
+
+UIColor UIColor::secondarySystemGroupedBackgroundColor()
+{
+    return systemColor({255, 255, 255, 1}, {28, 28, 30, 1});
+}
+
+bool UIColor::isNil() const
+{
+    return m_components.empty() && !m_provider;
+}
+
+UIColor UIColor::resolvedColorWithTraitCollection(const UITraitCollection &traits) const
+{
+    return m_provider ? (*m_provider)(traits).resolvedColorWithTraitCollection(traits) : *this;
+}
+
+QColor UIColor::drawn(bool dark) const
+{
+    const auto style = dark ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
+    const std::vector<double> c = resolvedColorWithTraitCollection({style}).components();
+    if (c.size() == 2)
+        return QColor::fromRgbF(drawable(c[0]), drawable(c[0]), drawable(c[0]), drawable(c[1]));
+    if (c.size() == 4)
+        return QColor::fromRgbF(drawable(c[0]), drawable(c[1]), drawable(c[2]), drawable(c[3]));
+    return Qt::transparent;
+}

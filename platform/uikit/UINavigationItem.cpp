@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UINavigationItem.h"
+
+void UINavigationItem::setTitle(const QString &title)
+{
+    if (m_title == title)
+        return;
+    m_title = title;
+    Q_EMIT changed();
+}

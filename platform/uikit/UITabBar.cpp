@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UITabBar.h"
+
+#include "platform/uikit/UIListProperty.h"
+#include "platform/uikit/UITabBarItem.h"
+
+#include <utility>
+
+void UITabBar::choose(int index)
+{
+    if (index >= 0 && std::cmp_less(index, m_items.size()))
+        Q_EMIT itemChosen(index);
+}
+
+QQmlListProperty<UITabBarItem> UITabBar::itemList()
+{
+    return listProperty<UITabBarItem, &UITabBar::m_items>(this);
+}

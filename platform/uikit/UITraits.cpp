@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UITraits.h"
+
+#include "platform/uikit/UIApplication.h"
+
+#include <QJSEngine>
+
+UITraits *UITraits::create(QQmlEngine *, QJSEngine *)
+{
+    UITraits &traits = UIApplication::sharedApplication()->traits();
+    QJSEngine::setObjectOwnership(&traits, QJSEngine::CppOwnership);
+    return &traits;
+}
+
+QColor UITraits::labelColor() const
+{
+    return UIColor::labelColor().drawn(isDark());
+}
+
+QColor UITraits::secondaryLabelColor() const
+{
+    return UIColor::secondaryLabelColor().drawn(isDark());
+}
+
+QColor UITraits::separatorColor() const
+{
+    return UIColor::separatorColor().drawn(isDark());
+}
+
+QColor UITraits::accentColor() const
+{
+    return UIColor::systemBlueColor().drawn(isDark());
+}
+
+QColor UITraits::backgroundColor() const
+{
+    return UIColor::systemGroupedBackgroundColor().drawn(isDark());
+}
+
+QColor UITraits::barColor() const
+{
+    return isDark() ? QColor(22, 22, 23) : QColor(249, 249, 249);
+}
+
+QColor UITraits::alertColor() const
+{
+    return isDark() ? QColor(44, 44, 46) : QColor(245, 245, 247);
+}
+
+void UITraits::setDesktopAppearance(const UIAppearance &appearance)
+{
+    if (m_desktop == appearance)
+        return;
+    m_desktop = appearance;
+    Q_EMIT changed();
+}
+
+void UITraits::setOverride(const std::optional<UIAppearance> &appearance)
+{
+    if (m_override == appearance)
+        return;
+    m_override = appearance;
+    Q_EMIT changed();
+}
+
+void UITraits::setSystemVersion(double version)
+{
+    if (qFuzzyCompare(m_systemVersion, version))
+        return;
+    m_systemVersion = version;
+    Q_EMIT changed();
+}
