@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/WZTUser.h"
+#include "platform/foundation/NSTypes.h"
+
+#include <functional>
+
+/// The client of the web service. Every operation starts one request on the shared URL session and
+/// returns at once; its completion, which must not be empty, runs exactly once, on the session's
+/// thread. What a code means is the operation's own matter: there is no common success.
+///
+/// Passwords are digests (see SHA256). An absent text is sent as a name without a value, an empty
+/// one as an empty value.
+class WZTAPI {
+public:
+    using Text = std::optional<QString>;
+    /// The user is there with the one code that stands for a reply with a user, and nil otherwise.
+    using UserCompletion = std::function<void(NSUInteger code, const std::optional<WZTUser> &user)>;
+    using CodeCompletion = std::function<void(NSUInteger code)>;
+
+    WZTAPI() = delete;
+
+    /// Signs in. 1: the user. 2: no such address. 0: wrong password. 3: anything else.
+    static void loginToAccount(const Text &email, const Text &passwordDigest,
+                               UserCompletion completion);
+
+    /// Makes an account. 2: its user. 0: the address is taken. 1: refused as improper.
+    /// 4: the service was not reached. 3: anything else.
+    static void registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
+                              UserCompletion completion);
+
+    /// Has a message with a new password sent. 0: sent. 3: not sent, or no such address.
+    /// 2: anything else.
+    static void resetAccountPassword(const Text &email, CodeCompletion completion);
+
+    /// Changes name, password or both; an absent or empty one stays as it is. 1: the user as
+    /// changed. 2: no such address. 0: wrong current password. 3: anything else.
+    static void updateAccount(const Text &email, const Text &userName, const Text &passwordDigest,
+                              const Text &newPasswordDigest, UserCompletion completion);
+
+    /// Reads the account anew. 0: its user. 1: no such address. 2: anything else.
+    static void userForAccount(const Text &email, UserCompletion completion);
+};
