@@ -28,8 +28,10 @@ public:
     void setTimeZone(const QString &identifier) { m_timeZone = identifier; }
 
     /// The moment that `text` names, nil unless the whole of it matches. Not lenient: days, times
-    /// and hours skipped by summer time that do not exist give nil. Of an hour that occurs twice
-    /// the first is meant.
+    /// and hours skipped by summer time that do not exist give nil, and a field of two letters has
+    /// at least two digits. Of an hour that occurs twice the later is meant. What ICU reads
+    /// nevertheless: digits of any script, and blanks before the text or more than one within it
+    /// (but none after it).
     [[nodiscard]] std::optional<NSDate> dateFromString(const QString &text) const;
 
     [[nodiscard]] QString stringFromDate(const NSDate &date) const;
