@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UITableViewCell.h"
+
+#include "platform/uikit/UIViewUrl.h"
+
+UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier)
+    : m_style(style), m_reuseIdentifier(reuseIdentifier)
+{
+    setBackgroundColor(UIColor::secondarySystemGroupedBackgroundColor());
+}
+
+UITableViewCell::~UITableViewCell() = default;
+
+QUrl UITableViewCell::viewUrl() const
+{
+    return viewUrlOf(*this);
+}
+
+void UITableViewCell::prepareForReuse()
+{
+    setHighlighted(false);
+    setSelected(false, false);
+}
+
+void UITableViewCell::setSelected(bool selected, bool animated)
+{
+    m_animatesSelection = animated;
+    m_selected = selected;
+    Q_EMIT changed();
+}
+
+void UITableViewCell::setHighlighted(bool highlighted)
+{
+    if (m_highlighted == highlighted)
+        return;
+    m_animatesSelection = false;
+    m_highlighted = highlighted;
+    Q_EMIT changed();
+}
+
+bool UITableViewCell::drawsSelection() const
+{
+    return m_selectionStyle != UITableViewCellSelectionStyle::None && (m_selected || m_highlighted);
+}
+
+UIColor UITableViewCell::selectionColor()
+{
+    static const UIColor color = UIColor::initWithDynamicProvider([](const auto &traits) {
+        return traits.userInterfaceStyle == UIUserInterfaceStyle::Dark
+            ? UIColor::colorWithRed(58 / 255.0, 58 / 255.0, 60 / 255.0, 1)
+            : UIColor::colorWithRed(209 / 255.0, 209 / 255.0, 214 / 255.0, 1);
+    });
+    return color;
+}
+
+QString UITableViewCell::accessibilityLabel() const
+{
+    const QString label = UIView::accessibilityLabel();
+    return label.isEmpty() ? m_textLabel.accessibilityLabel() : label;
+}
