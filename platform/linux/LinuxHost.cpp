@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxHost.h"
+
+#include "platform/linux/DesktopPalette.h"
+#include "platform/linux/DesktopSettings.h"
+#include "platform/linux/Feedback.h"
+#include "platform/linux/Links.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/SingleInstance.h"
+
+LinuxHost::LinuxHost(const QString &applicationId)
+    : m_applicationId(applicationId), m_bus(std::make_unique<SessionBus>())
+{
+}
+
+LinuxHost::~LinuxHost() = default;
+
+bool LinuxHost::canOpenURL(const QString &url)
+{
+    return Links::hasHandler(url);
+}
+
+void LinuxHost::openURL(const QString &url)
+{
+    Links::open(url);
+}
+
+void LinuxHost::impactOccurred(UIImpactFeedbackStyle /*style*/)
+{
+    triggerButtonFeedback(m_bus->connection(), m_applicationId);
+}
+
+void LinuxHost::observeAppearance(std::function<void(const UIAppearance &)> changed)
+{
+    m_appearanceChanged = std::move(changed);
+    m_told = {};
+    if (!m_palette) {
+        m_palette = std::make_unique<DesktopPalette>([this] { tellAppearance(); });
+        m_settings =
+            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { tellAppearance(); });
+    }
+    tellAppearance();
+}
+
+void LinuxHost::tellAppearance()
+{
+    UIAppearance appearance = m_settings->appearance();
+    if (appearance.style == UIUserInterfaceStyle::Unspecified)
+        appearance.style = m_palette->style();
+    if (appearance == m_told)
+        return;
+    m_told = appearance;
+    m_appearanceChanged(appearance);
+}
+
+bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
+                                   std::function<void(const QStringList &)> opened)
+{
+    if (!m_bus->isConnected())
+        return true;
+    m_instance =
+        std::make_unique<SingleInstance>(m_bus->connection(), m_applicationId, std::move(opened));
+    return m_instance->claimOrHandOver(urls);
+}

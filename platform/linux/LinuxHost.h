@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIHost.h"
+
+#include <QtGlobal>
+
+#include <memory>
+
+class DesktopPalette;
+class DesktopSettings;
+class SessionBus;
+class SingleInstance;
+
+/// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
+/// appearance and the one instance over the session bus. What the machine does not have is silently
+/// absent. Made after the application object, destroyed before it; main thread only.
+class LinuxHost final : public UIHost {
+public:
+    /// `applicationId` is the reverse-DNS name under which the desktop knows the application.
+    explicit LinuxHost(const QString &applicationId);
+    ~LinuxHost() override;
+    Q_DISABLE_COPY_MOVE(LinuxHost)
+
+    [[nodiscard]] bool canOpenURL(const QString &url) override;
+    void openURL(const QString &url) override;
+    void impactOccurred(UIImpactFeedbackStyle style) override;
+    void observeAppearance(std::function<void(const UIAppearance &)> changed) override;
+    [[nodiscard]] bool becomeOnlyInstance(const QStringList &urls,
+                                          std::function<void(const QStringList &)> opened) override;
+
+private:
+    void tellAppearance();
+
+    QString m_applicationId;
+    std::unique_ptr<SessionBus> m_bus;
+    std::unique_ptr<DesktopSettings> m_settings;
+    std::unique_ptr<DesktopPalette> m_palette;
+    std::unique_ptr<SingleInstance> m_instance;
+    std::function<void(const UIAppearance &)> m_appearanceChanged;
+    UIAppearance m_told;
+};
