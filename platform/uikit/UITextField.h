@@ -18,6 +18,7 @@ class UITextField : public UIControl {
     Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
     Q_PROPERTY(UIFont font READ font NOTIFY changed)
     Q_PROPERTY(BorderStyle borderStyle READ borderStyle NOTIFY changed)
+    Q_PROPERTY(UIColor fillColor READ fillColor NOTIFY changed)
     Q_PROPERTY(double leftViewWidth READ leftViewWidth NOTIFY changed)
     Q_PROPERTY(bool secureTextEntry READ isSecureTextEntry NOTIFY changed)
     Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed)
@@ -44,6 +45,8 @@ public:
 
     [[nodiscard]] BorderStyle borderStyle() const { return m_borderStyle; }
     void setBorderStyle(BorderStyle style) { assign(m_borderStyle, style); }
+    /// What the text stands on: the view's background, or a rounded rectangle's own.
+    [[nodiscard]] UIColor fillColor() const;
 
     /// The blank before the text, in points, shown always.
     [[nodiscard]] double leftViewWidth() const { return m_leftViewWidth; }
@@ -62,7 +65,7 @@ public:
     [[nodiscard]] QString accessibilityLabel() const override;
 
     // What the user does, as whoever draws the field sees it.
-    /// The text is now this one: EditingChanged if that is news.
+    /// The text is now this one, its line breaks made blanks: EditingChanged if that is news.
     Q_INVOKABLE void edit(const QString &text);
     /// Return: EditingDidEndOnExit.
     Q_INVOKABLE void returnPressed();
