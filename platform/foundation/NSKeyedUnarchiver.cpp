@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSKeyedUnarchiver.h"
+
+#include "platform/foundation/PropertyList.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Value = NSCoder::Value;
+
+/// What stands for itself: a text, a number, a boolean, a date; anything else is nil.
+Value plainValue(const PropertyListNode &node)
+{
+    if (const auto text = node.string()) {
+        return *text == "$null"_L1 ? Value() : Value(*text);
+    }
+    if (const auto number = node.integer()) {
+        return *number;
+    }
+    if (const auto number = node.real()) {
+        return *number;
+    }
+    if (const auto boolean = node.boolean()) {
+        return *boolean;
+    }
+    const auto date = node.date();
+    return date ? Value(*date) : Value();
+}
+
+std::optional<double> asDouble(const PropertyListNode &node)
+{
+    const auto number = node.integer();
+    return number ? std::optional(double(*number)) : node.real();
+}
+
+Value textOf(const PropertyListNode &object)
+{
+    if (const auto text = object.item(u"NS.string"_s).string()) {
+        return *text;
+    }
+    const auto bytes = object.item(u"NS.bytes"_s).data();
+    return bytes ? Value(QString::fromUtf8(*bytes)) : Value();
+}
+
+Value numberOf(const PropertyListNode &object)
+{
+    for (const QString &key : {u"NS.number"_s, u"NS.intval"_s, u"NS.dblval"_s, u"NS.boolval"_s}) {
+        const Value value = plainValue(object.item(key));
+        if (!std::holds_alternative<std::monostate>(value)) {
+            return value;
+        }
+    }
+    return {};
+}
+
+Value dateOf(const PropertyListNode &object)
+{
+    const auto time = asDouble(object.item(u"NS.time"_s));
+    return time ? Value(NSDate{*time}) : Value();
+}
+
+/// Classes whose objects are values that a record can hold.
+struct ReaderRow {
+    QLatin1StringView className;
+    Value (*read)(const PropertyListNode &object);
+};
+constexpr std::array readerTable{
+    ReaderRow{"NSDate"_L1, dateOf},
+    ReaderRow{"NSString"_L1, textOf},
+    ReaderRow{"NSMutableString"_L1, textOf},
+    ReaderRow{"NSNumber"_L1, numberOf},
+};
+
+class Archive {
+public:
+    explicit Archive(const PropertyList &list) : m_list(list), m_objects(list.item(u"$objects"_s))
+    {
+    }
+
+    [[nodiscard]] bool isValid() const
+    {
+        return m_list.item(u"$version"_s).integer() == 100000
+            && m_list.item(u"$archiver"_s).string() && m_objects.isArray();
+    }
+
+    [[nodiscard]] std::optional<NSCoder> root(const QString &className) const
+    {
+        const auto uid = m_list.item(u"$top"_s).item(u"root"_s).uid();
+        const PropertyListNode object = uid ? m_objects.at(*uid) : PropertyListNode();
+        if (!object.isDictionary() || !isOfClass(object, className)) {
+            return std::nullopt;
+        }
+        return values(object);
+    }
+
+private:
+    /// The description of an object's class, or nothing.
+    [[nodiscard]] PropertyListNode classOf(const PropertyListNode &object) const
+    {
+        const auto uid = object.item(u"$class"_s).uid();
+        return uid ? m_objects.at(*uid) : PropertyListNode();
+    }
+
+    [[nodiscard]] bool isOfClass(const PropertyListNode &object, const QString &className) const
+    {
+        const PropertyListNode description = classOf(object);
+        if (description.item(u"$classname"_s).string() == className) {
+            return true;
+        }
+        const PropertyListNode classes = description.item(u"$classes"_s);
+        for (quint64 i = 0; const auto name = classes.at(i).string(); ++i) {
+            if (*name == className) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    [[nodiscard]] std::optional<NSCoder> values(const PropertyListNode &object) const
+    {
+        NSCoder coder;
+        for (const QString &key : object.keys()) {
+            const PropertyListNode node = object.item(key);
+            const auto uid = node.uid();
+            if (key == "$class"_L1) {
+                continue;
+            }
+            if (uid && !exists(*uid)) {
+                return std::nullopt;
+            }
+            coder.encodeValue(uid ? valueOf(m_objects.at(*uid)) : plainValue(node), key);
+        }
+        return coder;
+    }
+
+    [[nodiscard]] bool exists(quint64 uid) const { return m_objects.at(uid).isPresent(); }
+
+    /// Follows no reference further than to a class: a cycle is no danger.
+    [[nodiscard]] Value valueOf(const PropertyListNode &object) const
+    {
+        const auto className = classOf(object).item(u"$classname"_s).string();
+        const auto *row =
+            std::find_if(readerTable.begin(), readerTable.end(),
+                         [&](const ReaderRow &r) { return className == r.className; });
+        return row == readerTable.end() ? plainValue(object) : row->read(object);
+    }
+
+    const PropertyList &m_list;
+    PropertyListNode m_objects;
+};
+
+} // namespace
+
+std::optional<NSCoder> NSKeyedUnarchiver::unarchiveObjectWithData(const QByteArray &data,
+                                                                  const QString &className)
+{
+    const std::optional<PropertyList> list = PropertyList::fromData(data);
+    const bool valid = list && Archive(*list).isValid();
+    return valid ? Archive(*list).root(className) : std::nullopt;
+}
