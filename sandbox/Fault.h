@@ -46,7 +46,7 @@ public:
     static Fault endless();
     /// A redirect to this Location, sent as it stands.
     static Fault redirect(const QByteArray &location, int code = 302);
-    /// A redirect to the request's own target, staged again for each one that follows it.
+    /// A redirect to the request's own target: a loop for as many requests as it is staged for.
     static Fault redirectLoop(int code = 302);
     /// A redirect to the same target over plain http.
     static Fault redirectToHttp(int code = 302);
@@ -80,11 +80,14 @@ private:
     Replacement m_replacement;
     std::optional<int> m_status;
     QList<Header> m_headers;
-    std::optional<qint64> m_lengthDifference;
+    qint64 m_lengthDifference = 0;
     bool m_hasLength = true;
     bool m_isRaw = false;
     bool m_isHalved = false;
+    /// Delay, pieces, endlessness; its bytes and ending are not looked at.
     Transmission m_manner;
+    /// Absent: as the client wants it.
+    std::optional<Transmission::Ending> m_ending;
 };
 
 } // namespace sandbox

@@ -16,8 +16,8 @@ using Header = std::pair<QByteArray, QByteArray>;
 struct Reply {
     int status = 200;
     /// Beyond those that every answer has (length, type, connection, protections).
-    QList<Header> headers;
-    QByteArray body;
+    QList<Header> headers = {};
+    QByteArray body = {};
 };
 
 } // namespace sandbox

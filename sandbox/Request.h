@@ -23,14 +23,14 @@ struct QueryItem {
 /// A request as it came over the wire.
 struct Request {
     /// "GET", "POST", or whatever else the client sent.
-    QByteArray method;
+    QByteArray method = {};
     /// The target up to its question mark, as sent: "/login.php".
-    QByteArray path;
+    QByteArray path = {};
     /// The whole target, byte for byte: path, question mark and query, still percent-encoded.
-    QByteArray target;
+    QByteArray target = {};
     /// The query's items in the order sent, percent-decoded, '+' read as a blank. Bytes that are
     /// not UTF-8 show as U+FFFD, and isValidUtf8 is false then.
-    QList<QueryItem> items;
+    QList<QueryItem> items = {};
     bool isValidUtf8 = true;
     /// Header fields in the order sent, names as sent.
     QList<std::pair<QByteArray, QByteArray>> headers;

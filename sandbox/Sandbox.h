@@ -4,6 +4,7 @@
 
 #include "sandbox/Account.h"
 #include "sandbox/Fault.h"
+#include "sandbox/Reception.h"
 #include "sandbox/Request.h"
 
 #include <QByteArrayList>
@@ -16,20 +17,6 @@
 #include <optional>
 
 namespace sandbox {
-
-/// How a new connection is received, whatever is asked over it afterwards.
-enum class Reception {
-    /// The ordinary certificate.
-    Normal,
-    /// Issued by the service's authority for the right names, but out of date.
-    Expired,
-    /// Issued by the service's authority for another name.
-    WrongHost,
-    /// For the right names and in date, issued by an authority that nobody knows.
-    Untrusted,
-    /// Accepted, and then not a byte: not even the TLS handshake.
-    Mute,
-};
 
 /// The web service on this machine: HTTPS on 127.0.0.1 and ::1, accounts in an SQLite file, reset
 /// messages in an outbox folder. It runs on threads of its own from construction to destruction,
@@ -44,7 +31,7 @@ public:
     struct Options {
         /// Where certificates, accounts and messages are kept; made if missing, closed to other
         /// users, used by one service at a time. Empty: a temporary one, removed at the end.
-        QString directory;
+        QString directory = {};
         /// 0: any free port.
         quint16 port = 0;
         /// Memory of one password hash, in bytes (8192 or more), and its passes (1 or more). The
@@ -55,7 +42,7 @@ public:
         std::chrono::seconds clockOffset{0};
         /// Called with one line for each request answered: method, endpoint, status; never with
         /// anything that a client sent as a parameter. Called on threads of the service.
-        std::function<void(const QString &)> log;
+        std::function<void(const QString &)> log = {};
     };
 
     /// Starts the service with its default options: temporary folder, any port.
@@ -116,6 +103,10 @@ public:
     [[nodiscard]] QByteArrayList messages() const;
     /// Puts the service's clock forward: join dates, one-time passwords.
     void advanceClock(std::chrono::seconds time);
+
+    /// What a client sends for that password: the SHA-256 of its UTF-8 bytes, as 64 lower-case
+    /// hexadecimal digits.
+    static QByteArray digestOf(const QString &password);
 
 private:
     struct State;

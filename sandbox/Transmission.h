@@ -25,7 +25,7 @@ struct Transmission {
 
     /// Before the first byte.
     std::chrono::milliseconds delay{0};
-    QByteArray bytes;
+    QByteArray bytes = {};
     /// Bytes sent at once; 0 is all of them.
     qint64 pieceSize = 0;
     /// Between two pieces.

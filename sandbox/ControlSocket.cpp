@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "sandbox/ControlSocket.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace sandbox {
+
+namespace {
+
+constexpr int patience = 5000;
+constexpr qsizetype longestLine = 1024 * 1024;
+
+QString failure()
+{
+    return u"control socket: "_s + QString::fromLocal8Bit(std::strerror(errno));
+}
+
+/// Closes what it holds.
+struct File {
+    explicit File(int opened) : number(opened) { }
+    ~File()
+    {
+        if (number >= 0) {
+            ::close(number);
+        }
+    }
+    File(const File &) = delete;
+    File &operator=(const File &) = delete;
+    int number;
+};
+
+File openDirectory(const QString &directory)
+{
+    return File(::open(QFile::encodeName(directory).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+}
+
+// A socket's address has room for 107 characters, a directory's name may have more: the way through
+// the open directory is always short.
+sockaddr_un addressIn(const File &directory)
+{
+    const QByteArray path = "/proc/self/fd/" + QByteArray::number(directory.number) + "/control";
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::copy(path.begin(), path.end(), address.sun_path);
+    return address;
+}
+
+int makeSocket()
+{
+    return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+}
+
+bool sendLine(int file, const QString &line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    return ::send(file, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL) == bytes.size();
+}
+
+bool receiveSome(int file, QByteArray &bytes)
+{
+    std::array<char, 4096> some{};
+    const ssize_t size = ::recv(file, some.data(), some.size(), 0);
+    bytes.append(some.data(), std::max(ssize_t{0}, size));
+    return size > 0;
+}
+
+} // namespace
+
+ControlSocket::~ControlSocket()
+{
+    if (m_thread.joinable()) {
+        const std::uint64_t one = 1;
+        (void)!::write(m_end, &one, sizeof one);
+        m_thread.join();
+    }
+    const File listener(m_listener);
+    const File end(m_end);
+}
+
+QString ControlSocket::open(const QString &directory, Handler handler)
+{
+    m_handler = std::move(handler);
+    m_listener = makeSocket();
+    m_end = ::eventfd(0, EFD_CLOEXEC);
+    const File folder = openDirectory(directory);
+    const sockaddr_un address = addressIn(folder);
+    ::unlink(address.sun_path);
+    if (m_listener < 0 || m_end < 0
+        || ::bind(m_listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
+        || ::chmod(address.sun_path, 0600) != 0 || ::listen(m_listener, 8) != 0) {
+        return failure();
+    }
+    m_thread = std::thread([this] { serve(); });
+    return {};
+}
+
+// False as well when the socket is to end.
+bool ControlSocket::waitFor(int file, int milliseconds) const
+{
+    std::array<pollfd, 2> files{{{file, POLLIN, 0}, {m_end, POLLIN, 0}}};
+    int count = 0;
+    do {
+        count = ::poll(files.data(), files.size(), milliseconds);
+    } while (count < 0 && errno == EINTR);
+    return count > 0 && files[1].revents == 0;
+}
+
+void ControlSocket::serve()
+{
+    while (waitFor(m_listener, -1)) {
+        const File client(::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC));
+        if (client.number >= 0) {
+            converse(client.number);
+        }
+    }
+}
+
+void ControlSocket::converse(int client)
+{
+    QByteArray bytes;
+    while (bytes.size() < longestLine && waitFor(client, patience) && receiveSome(client, bytes)) {
+        for (qsizetype end = bytes.indexOf('\n'); end >= 0; end = bytes.indexOf('\n')) {
+            const QString problem = m_handler(QString::fromUtf8(bytes.left(end)));
+            bytes.remove(0, end + 1);
+            if (!sendLine(client, problem.isEmpty() ? u"ok"_s : u"error: "_s + problem)) {
+                return;
+            }
+        }
+    }
+}
+
+QString ControlSocket::send(const QString &directory, const QString &line)
+{
+    const File socket(makeSocket());
+    const File folder = openDirectory(directory);
+    const sockaddr_un address = addressIn(folder);
+    if (::connect(socket.number, reinterpret_cast<const sockaddr *>(&address), sizeof address)
+        != 0) {
+        return u"error: no service is running in "_s + directory;
+    }
+    QByteArray bytes;
+    QString text = line;
+    sendLine(socket.number, text.replace(u'\n', u' '));
+    while (!bytes.contains('\n') && receiveSome(socket.number, bytes)) { }
+    return bytes.isEmpty() ? u"error: no answer"_s : QString::fromUtf8(bytes.trimmed());
+}
+
+} // namespace sandbox

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <thread>
+
+namespace sandbox {
+
+/// The Unix socket `control` in the service's directory, for its owner alone. It takes lines of
+/// UTF-8 and answers each with one: "ok", or "error: " and what is wrong. One client is served at a
+/// time, and let go of when it has said nothing for five seconds.
+class ControlSocket {
+public:
+    /// Takes a line, and returns an empty text or what is wrong with it. Called on the socket's
+    /// own thread.
+    using Handler = std::function<QString(const QString &)>;
+
+    ControlSocket() = default;
+    ~ControlSocket();
+    ControlSocket(const ControlSocket &) = delete;
+    ControlSocket &operator=(const ControlSocket &) = delete;
+
+    /// Starts to listen; what an earlier service left behind is replaced. Returns an empty text, or
+    /// why it cannot.
+    QString open(const QString &directory, Handler handler);
+
+    /// Hands a line to the service of that directory, and returns its answer without the line
+    /// feed; "error: " and a reason when there is no such service.
+    static QString send(const QString &directory, const QString &line);
+
+private:
+    void serve();
+    void converse(int client);
+    bool waitFor(int file, int milliseconds) const;
+
+    Handler m_handler;
+    int m_listener = -1;
+    int m_end = -1;
+    std::thread m_thread;
+};
+
+} // namespace sandbox

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "sandbox/FaultLine.h"
+
+#include "sandbox/StageBook.h"
+
+#include <QStringList>
+
+#include <array>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using std::chrono::milliseconds;
+
+namespace sandbox {
+
+namespace {
+
+constexpr int day = 24 * 3600 * 1000;
+
+/// The words after the fault's name; a word that is not what it should be is remembered.
+class Arguments {
+public:
+    explicit Arguments(QStringList words) : m_words(std::move(words)) { }
+
+    QString text(int index) const { return m_words[index]; }
+    QByteArray bytes(int index) const { return m_words[index].toUtf8(); }
+    int number(int index, int least, int most)
+    {
+        bool isNumber = false;
+        const int number = m_words[index].toInt(&isNumber);
+        m_areGood = m_areGood && isNumber && number >= least && number <= most;
+        return number;
+    }
+    milliseconds time(int index) { return milliseconds(number(index, 0, day)); }
+    void refuse() { m_areGood = false; }
+    bool areGood() const { return m_areGood; }
+
+private:
+    QStringList m_words;
+    bool m_areGood = true;
+};
+
+QByteArray unescaped(const QByteArray &text)
+{
+    QByteArray bytes;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char next = i + 1 < text.size() ? text[i + 1] : '\0';
+        const qsizetype kind = next ? QByteArrayView("rnt\\x").indexOf(next) : -1;
+        if (text[i] != '\\' || kind < 0) {
+            bytes.append(text[i]);
+        } else if (next == 'x') {
+            bytes.append(QByteArray::fromHex(text.mid(i + 2, 2)));
+            i += 3;
+        } else {
+            bytes.append("\r\n\t\\"[kind]);
+            ++i;
+        }
+    }
+    return bytes;
+}
+
+Fault redirect(Arguments &arguments)
+{
+    const QString where = arguments.text(0);
+    if (where == "loop"_L1) {
+        return Fault::redirectLoop();
+    }
+    if (where == "http"_L1) {
+        return Fault::redirectToHttp();
+    }
+    if (where == "host"_L1) {
+        return Fault::redirectToOtherHost();
+    }
+    if (where.startsWith(u'/')) {
+        return Fault::redirectToPath(where.toUtf8());
+    }
+    if (!where.contains("://"_L1)) {
+        arguments.refuse();
+    }
+    return Fault::redirect(where.toUtf8());
+}
+
+struct FaultWord {
+    QLatin1StringView word;
+    int argumentCount;
+    Fault (*make)(Arguments &);
+    const char *help;
+};
+
+constexpr int maximum = std::numeric_limits<int>::max();
+
+constexpr std::array faultWords{
+    FaultWord{"delay"_L1, 1, [](Arguments &a) { return Fault::delay(a.time(0)); },
+              "delay MS               the real answer, so many milliseconds later"},
+    FaultWord{"silence"_L1, 0, [](Arguments &) { return Fault::silence(); },
+              "silence                accepted and never answered"},
+    FaultWord{"close"_L1, 0, [](Arguments &) { return Fault::close(); },
+              "close                  closed without an answer"},
+    FaultWord{"reset"_L1, 0, [](Arguments &) { return Fault::reset(); },
+              "reset                  half the real answer, then a TCP reset"},
+    FaultWord{"length"_L1, 1,
+              [](Arguments &a) { return Fault::wrongLength(a.number(0, -maximum, maximum)); },
+              "length DIFFERENCE      the real answer, its Content-Length off by so many bytes"},
+    FaultWord{"drip"_L1, 2,
+              [](Arguments &a) { return Fault::drip(a.number(0, 1, maximum), a.time(1)); },
+              "drip BYTES MS          the real answer in pieces, with pauses"},
+    FaultWord{"status"_L1, 1, [](Arguments &a) { return Fault::status(a.number(0, 200, 999)); },
+              "status CODE            the real answer under another HTTP status"},
+    FaultWord{"json"_L1, 2,
+              [](Arguments &a) { return Fault::json(a.bytes(1), a.number(0, 200, 999)); },
+              "json CODE BODY         this body under this HTTP status"},
+    FaultWord{
+        "raw"_L1, 1, [](Arguments &a) { return Fault::raw(unescaped(a.bytes(0))); },
+        "raw BYTES              these bytes and nothing else; \\r \\n \\t \\\\ \\xNN are bytes"},
+    FaultWord{"endless"_L1, 0, [](Arguments &) { return Fault::endless(); },
+              "endless                a body without an end"},
+    FaultWord{
+        "redirect"_L1, 1, redirect,
+        "redirect WHERE         loop, http, host (this service's other name), /path or a URL"},
+};
+
+constexpr std::array<std::pair<QLatin1StringView, Reception>, 5> receptions{{
+    {"normal"_L1, Reception::Normal},
+    {"expired"_L1, Reception::Expired},
+    {"wrong-host"_L1, Reception::WrongHost},
+    {"untrusted"_L1, Reception::Untrusted},
+    {"mute"_L1, Reception::Mute},
+}};
+
+QStringList wordsOf(const QString &line)
+{
+    QStringList words;
+    QString word;
+    bool isQuoted = false;
+    bool isWord = false;
+    for (const QChar c : line) {
+        if (c == u'\'') {
+            isQuoted = !isQuoted;
+            isWord = true;
+        } else if (c.isSpace() && !isQuoted) {
+            words += isWord ? QStringList(word) : QStringList();
+            word.clear();
+            isWord = false;
+        } else {
+            word += c;
+            isWord = true;
+        }
+    }
+    return isWord ? words << word : words;
+}
+
+// The number that may follow the `before` first words, and must be the last.
+std::optional<int> countIn(const QStringList &words, qsizetype before)
+{
+    if (words.size() == before) {
+        return 1;
+    }
+    bool isNumber = false;
+    const int count = words[before].toInt(&isNumber);
+    return words.size() == before + 1 && isNumber && count != 0 ? std::optional(count)
+                                                                : std::nullopt;
+}
+
+QString stageReception(StageBook &book, const QStringList &words)
+{
+    for (const auto &[word, reception] : receptions) {
+        if (words.value(1) != word) {
+            continue;
+        }
+        const auto count = countIn(words, 2);
+        if (!count) {
+            return u"the count is no number, or not the last word"_s;
+        }
+        book.receive(reception, *count);
+        return {};
+    }
+    return u"unknown kind of connection"_s;
+}
+
+QString stageFault(StageBook &book, const QStringList &words)
+{
+    for (const FaultWord &each : faultWords) {
+        if (words.value(1) != each.word) {
+            continue;
+        }
+        const qsizetype before = 2 + each.argumentCount;
+        const auto count = words.size() < before ? std::nullopt : countIn(words, before);
+        if (!count) {
+            return u"too few or too many words, or a count that is no number"_s;
+        }
+        Arguments arguments(words.mid(2, each.argumentCount));
+        const Fault fault = each.make(arguments);
+        if (!arguments.areGood()) {
+            return u"an argument is not what it should be"_s;
+        }
+        book.stage(words[0].toUtf8(), fault, *count);
+        return {};
+    }
+    return u"unknown fault"_s;
+}
+
+} // namespace
+
+QString stageLine(StageBook &book, const QString &line)
+{
+    const QStringList words = wordsOf(line);
+    if (words == QStringList(u"clear"_s)) {
+        book.clear();
+        return {};
+    }
+    if (words.value(0) == "connection"_L1) {
+        return stageReception(book, words);
+    }
+    if (words.isEmpty() || (words[0] != "*"_L1 && !words[0].startsWith(u'/'))) {
+        return u"a line begins with a path, *, connection or clear"_s;
+    }
+    return stageFault(book, words);
+}
+
+QString faultHelp()
+{
+    QString help;
+    for (const FaultWord &each : faultWords) {
+        help += "  PATH "_L1 + QString::fromLatin1(each.help) + u'\n';
+    }
+    for (const auto &[word, reception] : receptions) {
+        help += "  connection "_L1 + word + u'\n';
+    }
+    return help + "  clear\n"_L1;
+}
+
+} // namespace sandbox

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sandbox/Request.h"
+#include "sandbox/Transmission.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+using SSL_CTX = struct ssl_ctx_st;
+
+namespace sandbox {
+
+/// HTTPS on the loopback addresses: accepts, reads requests, sends what it is told to. It knows
+/// nothing of paths, accounts or faults, and all its waiting is done on one thread of its own.
+class HttpsServer {
+public:
+    /// Takes the bytes that answer a request, once, on any thread, as late as it likes.
+    using Answer = std::function<void(Transmission)>;
+    /// Called on the server's thread with each request; must not block.
+    using Handler = std::function<void(Request, const Answer &)>;
+    /// Called on the server's thread for each connection: the certificate to show it, or null to
+    /// leave it without a handshake. The server keeps a reference of its own.
+    using Receiver = std::function<SSL_CTX *()>;
+
+    HttpsServer(Handler handler, Receiver receiver);
+    ~HttpsServer();
+    HttpsServer(const HttpsServer &) = delete;
+    HttpsServer &operator=(const HttpsServer &) = delete;
+
+    /// Listens on 127.0.0.1, and at the same port on ::1 where the machine has it. Port 0 picks a
+    /// free one. Returns an empty text, or why it cannot.
+    QString start(quint16 port);
+    /// Ends the thread; no handler is called from then on, and answers have no effect. Connections
+    /// are closed by the destructor, which must not run before the last answer has been dropped.
+    void stop();
+
+    [[nodiscard]] quint16 port() const;
+    /// TCP connections accepted so far.
+    [[nodiscard]] int connectionCount() const;
+    /// Closes the connections that wait for a request.
+    void closeIdleConnections();
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+} // namespace sandbox

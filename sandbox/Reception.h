@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace sandbox {
+
+/// How a new connection is received, whatever is asked over it afterwards.
+enum class Reception {
+    /// The ordinary certificate.
+    Normal,
+    /// Issued by the service's authority for the right names, but out of date.
+    Expired,
+    /// Issued by the service's authority for another name.
+    WrongHost,
+    /// For the right names and in date, issued by an authority that nobody knows.
+    Untrusted,
+    /// Accepted, and then not a byte: not even the TLS handshake.
+    Mute,
+};
+
+} // namespace sandbox
