@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/PrivateFile.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -33,6 +35,5 @@ public:
     [[nodiscard]] bool removeObjectForKey(const QString &key);
 
 private:
-    QString m_folder;
-    QString m_name;
+    PrivateFile m_file;
 };

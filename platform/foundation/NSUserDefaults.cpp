@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSUserDefaults.h"
+
+#include "platform/foundation/PrivateFile.h"
+#include "platform/foundation/PropertyList.h"
+
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Nil when the file is damaged: something is there, but no property list of keys and values.
+std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray &content)
+{
+    if (state == PrivateFile::State::Absent) {
+        return PropertyList::dictionary();
+    }
+    std::optional<PropertyList> values;
+    if (state == PrivateFile::State::Read) {
+        values = PropertyList::fromData(content);
+    }
+    return values && values->isDictionary() ? std::move(values) : std::nullopt;
+}
+
+/// The values to change, nil when the file can neither be read nor moved out of the way.
+std::optional<PropertyList> readForChange(const PrivateFile &file, const PrivateFile::Lock &lock)
+{
+    QByteArray content;
+    const PrivateFile::State state = file.read(&content);
+    if (!lock.isHeld() || state == PrivateFile::State::Unavailable) {
+        return std::nullopt;
+    }
+    std::optional<PropertyList> values = valuesIn(state, content);
+    if (!values && file.moveAside(lock)) {
+        return PropertyList::dictionary();
+    }
+    return values;
+}
+
+} // namespace
+
+NSUserDefaults::NSUserDefaults(const QString &applicationId, const QString &folder)
+    : m_file((folder.isEmpty()
+                  ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+                  : folder)
+                 + u'/' + applicationId,
+             applicationId + ".plist"_L1)
+{
+}
+
+std::optional<QByteArray> NSUserDefaults::dataForKey(const QString &key) const
+{
+    QByteArray content;
+    const PrivateFile::State state = m_file.read(&content);
+    if (const std::optional<PropertyList> values = valuesIn(state, content)) {
+        return values->item(key).data();
+    }
+    // Damaged, unless another process has just replaced it.
+    const PrivateFile::Lock lock(m_file);
+    const std::optional<PropertyList> values = readForChange(m_file, lock);
+    return values ? values->item(key).data() : std::nullopt;
+}
+
+bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QString &key)
+{
+    const PrivateFile::Lock lock(m_file);
+    std::optional<PropertyList> values = readForChange(m_file, lock);
+    if (!values) {
+        return false;
+    }
+    if (data) {
+        values->insert(key, PropertyList(*data));
+    } else if (values->item(key).isPresent()) {
+        values->remove(key);
+    } else {
+        return true;
+    }
+    return m_file.write(lock, values->toData());
+}
+
+bool NSUserDefaults::removeObjectForKey(const QString &key)
+{
+    return setObject(std::nullopt, key);
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/foundation/FileDescriptor.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// A small file that only its user may read (0600, in a folder of 0700) and that a process killed
+/// at any moment leaves whole: the old content or the new one.
+class PrivateFile {
+public:
+    enum class State {
+        Read,
+        /// There is no such file.
+        Absent,
+        /// There is something under the name, but it is no file, or not for this user to read.
+        Unreadable,
+        /// The system could not look (no more open files, a failing disk).
+        Unavailable,
+    };
+
+    /// Keeps other processes from changing the folder while it lives.
+    class Lock {
+    public:
+        /// Makes the folder and its parents if they are missing. Waits half a second at most for
+        /// another process.
+        explicit Lock(const PrivateFile &file);
+        [[nodiscard]] bool isHeld() const { return m_held; }
+
+    private:
+        friend class PrivateFile;
+        FileDescriptor m_folder;
+        bool m_held = false;
+    };
+
+    PrivateFile(const QString &folder, const QString &name);
+
+    /// Appends what the file holds to `content`. Never waits: not for a pipe either.
+    [[nodiscard]] State read(QByteArray *content) const;
+
+    /// Replaces the file, whatever it is, and returns when that is on the disk. False: nothing was
+    /// changed.
+    [[nodiscard]] bool write(const Lock &lock, const QByteArray &content) const;
+
+    /// Moves the file, whatever it is, into a new folder beside it, `<name>.damaged-XXXXXX`.
+    [[nodiscard]] bool moveAside(const Lock &lock) const;
+
+private:
+    QByteArray m_folder;
+    QByteArray m_name;
+};
