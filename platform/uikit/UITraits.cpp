@@ -48,6 +48,16 @@ QColor UITraits::alertColor() const
     return isDark() ? QColor(44, 44, 46) : QColor(245, 245, 247);
 }
 
+QColor UITraits::pressedAlertColor() const
+{
+    return isDark() ? QColor(62, 62, 66) : QColor(224, 224, 229);
+}
+
+QColor UITraits::unselectedTabColor() const
+{
+    return isDark() ? QColor(128, 128, 130) : QColor(146, 146, 150);
+}
+
 void UITraits::setDesktopAppearance(const UIAppearance &appearance)
 {
     if (m_desktop == appearance)

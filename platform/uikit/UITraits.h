@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/uikit/UIColor.h"
+#include "platform/uikit/UIFont.h"
 #include "platform/uikit/UIHost.h"
 
 #include <QtQmlIntegration>
@@ -29,6 +30,13 @@ class UITraits : public QObject {
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
     Q_PROPERTY(QColor barColor READ barColor NOTIFY changed)
     Q_PROPERTY(QColor alertColor READ alertColor NOTIFY changed)
+    Q_PROPERTY(QColor pressedAlertColor READ pressedAlertColor NOTIFY changed)
+    Q_PROPERTY(QColor unselectedTabColor READ unselectedTabColor NOTIFY changed)
+    // Fonts of the same, in the current text scale.
+    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed)
+    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed)
+    Q_PROPERTY(QFont footnoteFont READ footnoteFont NOTIFY changed)
+    Q_PROPERTY(QFont tabTitleFont READ tabTitleFont NOTIFY changed)
 
 public:
     static UITraits *create(QQmlEngine *engine, QJSEngine *scriptEngine);
@@ -46,6 +54,13 @@ public:
     [[nodiscard]] QColor backgroundColor() const;
     [[nodiscard]] QColor barColor() const;
     [[nodiscard]] QColor alertColor() const;
+    [[nodiscard]] QColor pressedAlertColor() const;
+    [[nodiscard]] QColor unselectedTabColor() const;
+
+    [[nodiscard]] QFont headlineFont() const { return font(UIFontTextStyle::Headline); }
+    [[nodiscard]] QFont bodyFont() const { return font(UIFontTextStyle::Body); }
+    [[nodiscard]] QFont footnoteFont() const { return font(UIFontTextStyle::Footnote); }
+    [[nodiscard]] QFont tabTitleFont() const { return font(UIFontTextStyle::TabTitle); }
 
     /// What the desktop says.
     void setDesktopAppearance(const UIAppearance &appearance);
@@ -67,6 +82,11 @@ Q_SIGNALS:
 private:
     friend class UIApplication;
     UITraits() = default; // private, or QML would make a second object
+
+    [[nodiscard]] QFont font(UIFontTextStyle style) const
+    {
+        return UIFont::preferredFontForTextStyle(style).drawn(textScale());
+    }
 
     [[nodiscard]] const UIAppearance &effective() const
     {

@@ -315,6 +315,8 @@ QVariant UITransitionStack::data(const QModelIndex &index, int role) const
         return isBlocked(index.row());
     case ConcealedRole:
         return isConcealed(index.row());
+    case OverlayRole:
+        return entry.cover == Cover::Overlays;
     default:
         return {};
     }
@@ -326,5 +328,6 @@ QHash<int, QByteArray> UITransitionStack::roleNames() const
             {PhaseRole, "phase"},
             {AnimatedRole, "animated"},
             {BlockedRole, "blocked"},
-            {ConcealedRole, "concealed"}};
+            {ConcealedRole, "concealed"},
+            {OverlayRole, "overlay"}};
 }

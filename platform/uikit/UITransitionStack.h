@@ -32,13 +32,14 @@ public:
     enum class Cover { Covers, Overlays };
     enum class Motion { Animated, Immediate };
     /// `Blocked`: something above has the touches and the keyboard. `Concealed`: a settled
-    /// controller above hides it wholly.
+    /// controller above hides it wholly. `Overlay`: it does not cover what it is above of.
     enum Role {
         ControllerRole = Qt::UserRole,
         PhaseRole,
         AnimatedRole,
         BlockedRole,
-        ConcealedRole
+        ConcealedRole,
+        OverlayRole
     };
     using Completion = std::function<void()>;
 
