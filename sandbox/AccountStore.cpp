@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/AccountStore.h"
 
+#include "sandbox/Statement.h"
+#include "sandbox/Transaction.h"
+
 namespace sandbox {
 
 namespace {

@@ -3,6 +3,7 @@
 #include "sandbox/FaultLine.h"
 
 #include "sandbox/StageBook.h"
+#include "sandbox/Words.h"
 
 #include <QStringList>
 
@@ -40,25 +41,6 @@ private:
     QStringList m_words;
     bool m_areGood = true;
 };
-
-QByteArray unescaped(const QByteArray &text)
-{
-    QByteArray bytes;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-        const qsizetype kind = next ? QByteArrayView("rnt\\x").indexOf(next) : -1;
-        if (text[i] != '\\' || kind < 0) {
-            bytes.append(text[i]);
-        } else if (next == 'x') {
-            bytes.append(QByteArray::fromHex(text.mid(i + 2, 2)));
-            i += 3;
-        } else {
-            bytes.append("\r\n\t\\"[kind]);
-            ++i;
-        }
-    }
-    return bytes;
-}
 
 Fault redirect(Arguments &arguments)
 {
@@ -127,28 +109,6 @@ constexpr std::array<std::pair<QLatin1StringView, Reception>, 5> receptions{{
     {"untrusted"_L1, Reception::Untrusted},
     {"mute"_L1, Reception::Mute},
 }};
-
-QStringList wordsOf(const QString &line)
-{
-    QStringList words;
-    QString word;
-    bool isQuoted = false;
-    bool isWord = false;
-    for (const QChar c : line) {
-        if (c == u'\'') {
-            isQuoted = !isQuoted;
-            isWord = true;
-        } else if (c.isSpace() && !isQuoted) {
-            words += isWord ? QStringList(word) : QStringList();
-            word.clear();
-            isWord = false;
-        } else {
-            word += c;
-            isWord = true;
-        }
-    }
-    return isWord ? words << word : words;
-}
 
 // The number that may follow the `before` first words, and must be the last.
 std::optional<int> countIn(const QStringList &words, qsizetype before)

@@ -2,31 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/HttpsServer.h"
 
-#include "sandbox/QueryItems.h"
-
-#include <openssl/ssl.h>
+#include "sandbox/HttpsConnection.h"
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/post.hpp>
-#include <boost/asio/ssl/stream.hpp>
 #include <boost/asio/steady_timer.hpp>
-#include <boost/asio/write.hpp>
-#include <boost/beast/core/flat_buffer.hpp>
-#include <boost/beast/core/tcp_stream.hpp>
-#include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/read.hpp>
-#include <boost/beast/http/string_body.hpp>
 
 #include <array>
 #include <atomic>
-#include <optional>
 #include <thread>
-#include <unordered_set>
 
 namespace asio = boost::asio;
-namespace beast = boost::beast;
-namespace http = beast::http;
 using asio::ip::tcp;
 using namespace std::chrono_literals;
 using boost::system::error_code;
@@ -35,232 +22,37 @@ namespace sandbox {
 
 namespace {
 
-constexpr auto handshakeTime = 10s;
-constexpr auto idleTime = 60s;
-constexpr auto farewellTime = 1s;
-constexpr std::uint32_t headerLimit = 16 * 1024;
-constexpr std::uint64_t bodyLimit = 64 * 1024;
+/// One of the two addresses.
+struct Listener {
+    explicit Listener(asio::io_context &io) : acceptor(io), respite(io) { }
 
-class Connection;
-using Connections = std::unordered_set<Connection *>;
-
-int problemOf(const error_code &error)
-{
-    if (error == http::error::header_limit) {
-        return 431;
-    }
-    return error == http::error::body_limit ? 413 : 400;
-}
-
-asio::ssl::context shared(SSL_CTX *context)
-{
-    SSL_CTX_up_ref(context);
-    return asio::ssl::context(context);
-}
-
-// Every operation below runs on the server's thread, and is followed by at most one other.
-class Connection : public std::enable_shared_from_this<Connection> {
-public:
-    Connection(tcp::socket socket, SSL_CTX *context, const HttpsServer::Handler &handler,
-               Connections &all)
-        : m_context(shared(context)),
-          m_stream(std::move(socket), m_context),
-          m_timer(m_stream.get_executor()),
-          m_handler(handler),
-          m_all(all)
+    error_code open(const tcp::endpoint &endpoint)
     {
-        m_all.insert(this);
-    }
-    ~Connection() { m_all.erase(this); }
-    Connection(const Connection &) = delete;
-    Connection &operator=(const Connection &) = delete;
-
-    void handshake()
-    {
-        tcpStream().expires_after(handshakeTime);
-        m_stream.async_handshake(asio::ssl::stream_base::server,
-                                 [self = shared_from_this()](error_code error) {
-                                     if (!error) {
-                                         self->read();
-                                     }
-                                 });
-    }
-
-    // Reads and drops whatever comes, until the client goes.
-    template <typename Stream>
-    void outwait(Stream &stream)
-    {
-        tcpStream().expires_never();
-        stream.async_read_some(asio::buffer(m_dropped),
-                               [self = shared_from_this(), &stream](error_code error, size_t) {
-                                   if (!error) {
-                                       self->outwait(stream);
-                                   }
-                               });
-    }
-
-    void outwait() { outwait(tcpStream()); }
-
-    void closeIfIdle()
-    {
-        if (m_isIdle) {
-            tcpStream().close();
+        error_code error;
+        acceptor.open(endpoint.protocol(), error);
+        if (!error) {
+            acceptor.set_option(tcp::acceptor::reuse_address(true), error);
         }
-    }
-
-private:
-    beast::tcp_stream &tcpStream() { return m_stream.next_layer(); }
-
-    void read()
-    {
-        m_isIdle = true;
-        m_parser.emplace();
-        m_parser->header_limit(headerLimit);
-        m_parser->body_limit(bodyLimit);
-        tcpStream().expires_after(idleTime);
-        http::async_read(
-            m_stream, m_buffer, *m_parser,
-            [self = shared_from_this()](error_code error, size_t) { self->haveRead(error); });
-    }
-
-    void haveRead(const error_code &error)
-    {
-        m_isIdle = false;
-        if (error == http::error::end_of_stream) {
-            return farewell();
+        if (!error) {
+            acceptor.bind(endpoint, error);
         }
-        if (error
-            && error.category() != http::make_error_code(http::error::bad_method).category()) {
-            return;
+        if (!error) {
+            acceptor.listen(asio::socket_base::max_listen_connections, error);
         }
-        m_handler(error ? malformed(problemOf(error)) : request(), answerTo(shared_from_this()));
-    }
-
-    // Gives its reference up when it is called: on another thread it must not be the last.
-    static HttpsServer::Answer answerTo(std::shared_ptr<Connection> self)
-    {
-        return [self = std::move(self)](Transmission transmission) mutable {
-            const auto executor = self->m_stream.get_executor();
-            asio::post(executor,
-                       [self = std::move(self), transmission = std::move(transmission)]() mutable {
-                           self->send(std::move(transmission));
-                       });
-        };
-    }
-
-    static Request malformed(int status)
-    {
-        Request request;
-        request.keepsAlive = false;
-        request.malformed = status;
-        return request;
-    }
-
-    Request request() const
-    {
-        const auto &message = m_parser->get();
-        const auto bytes = [](beast::string_view text) {
-            return QByteArray(text.data(), qsizetype(text.size()));
-        };
-        Request request;
-        request.method = bytes(message.method_string());
-        request.keepsAlive = message.keep_alive();
-        request.bodySize = qint64(message.body().size());
-        for (const auto &field : message) {
-            request.headers.append({bytes(field.name_string()), bytes(field.value())});
+        if (error) {
+            close();
         }
-        setTarget(request, bytes(message.target()));
-        return request;
+        return error;
     }
 
-    void send(Transmission transmission)
+    void close()
     {
-        m_transmission = std::move(transmission);
-        m_sent = 0;
-        pauseThenWrite(m_transmission.delay);
+        error_code ignored;
+        acceptor.close(ignored);
     }
 
-    void pauseThenWrite(std::chrono::milliseconds time)
-    {
-        if (time <= 0ms) {
-            return write();
-        }
-        tcpStream().expires_never();
-        m_timer.expires_after(time);
-        m_timer.async_wait([self = shared_from_this()](error_code error) {
-            if (!error) {
-                self->write();
-            }
-        });
-    }
-
-    void write()
-    {
-        const size_t left = size_t(m_transmission.bytes.size()) - m_sent;
-        if (left == 0) {
-            return m_transmission.isEndless ? writeBlanks() : end();
-        }
-        const size_t size =
-            m_transmission.pieceSize > 0 ? std::min(left, size_t(m_transmission.pieceSize)) : left;
-        tcpStream().expires_after(idleTime);
-        asio::async_write(m_stream, asio::buffer(m_transmission.bytes.constData() + m_sent, size),
-                          [self = shared_from_this()](error_code error, size_t written) {
-                              if (error) {
-                                  return;
-                              }
-                              self->m_sent += written;
-                              self->pauseThenWrite(self->m_transmission.pause);
-                          });
-    }
-
-    void writeBlanks()
-    {
-        static const std::string blanks(64 * size_t{1024}, ' ');
-        tcpStream().expires_after(idleTime);
-        asio::async_write(m_stream, asio::buffer(blanks),
-                          [self = shared_from_this()](error_code error, size_t) {
-                              if (!error) {
-                                  self->writeBlanks();
-                              }
-                          });
-    }
-
-    void end()
-    {
-        switch (m_transmission.ending) {
-        case Transmission::Ending::KeepOpen:
-            return read();
-        case Transmission::Ending::Close:
-            return farewell();
-        case Transmission::Ending::Cut:
-            return tcpStream().close();
-        case Transmission::Ending::Reset: {
-            error_code ignored;
-            tcpStream().socket().set_option(tcp::socket::linger(true, 0), ignored);
-            return tcpStream().close();
-        }
-        case Transmission::Ending::Silence:
-            return outwait(m_stream);
-        }
-    }
-
-    void farewell()
-    {
-        tcpStream().expires_after(farewellTime);
-        m_stream.async_shutdown([self = shared_from_this()](error_code) {});
-    }
-
-    asio::ssl::context m_context;
-    asio::ssl::stream<beast::tcp_stream> m_stream;
-    asio::steady_timer m_timer;
-    const HttpsServer::Handler &m_handler;
-    Connections &m_all;
-    beast::flat_buffer m_buffer;
-    std::optional<http::request_parser<http::string_body>> m_parser;
-    Transmission m_transmission;
-    size_t m_sent = 0;
-    bool m_isIdle = false;
-    std::array<char, 4096> m_dropped{};
+    tcp::acceptor acceptor;
+    asio::steady_timer respite;
 };
 
 } // namespace
@@ -268,78 +60,51 @@ private:
 struct HttpsServer::State {
     Handler handler;
     Receiver receiver;
-    Connections connections;
+    HttpsConnection::Set connections;
     std::atomic<int> accepted{0};
     quint16 port = 0;
     asio::io_context io{1};
-    asio::ssl::context bare{asio::ssl::context::tls_server};
-    std::optional<tcp::acceptor> acceptors[2];
-    std::optional<asio::steady_timer> respite;
+    std::array<Listener, 2> listeners{Listener(io), Listener(io)};
     std::thread thread;
-
-    error_code listen(std::optional<tcp::acceptor> &acceptor, const tcp::endpoint &endpoint)
-    {
-        error_code error;
-        acceptor.emplace(io);
-        acceptor->open(endpoint.protocol(), error);
-        if (!error) {
-            acceptor->set_option(tcp::acceptor::reuse_address(true), error);
-        }
-        if (!error) {
-            acceptor->bind(endpoint, error);
-        }
-        if (!error) {
-            acceptor->listen(asio::socket_base::max_listen_connections, error);
-        }
-        if (error) {
-            acceptor.reset();
-        }
-        return error;
-    }
 
     // Somebody else at the same port of ::1 would be asked first by a client of "localhost".
     error_code listenOnBoth(quint16 wanted)
     {
-        error_code error = listen(acceptors[0], {asio::ip::address_v4::loopback(), wanted});
+        auto &[ipv4, ipv6] = listeners;
+        error_code error = ipv4.open({asio::ip::address_v4::loopback(), wanted});
         if (error) {
             return error;
         }
-        port = acceptors[0]->local_endpoint().port();
-        error = listen(acceptors[1], {asio::ip::address_v6::loopback(), port});
-        return error == asio::error::address_in_use ? error : error_code();
+        port = ipv4.acceptor.local_endpoint(error).port();
+        error = ipv6.open({asio::ip::address_v6::loopback(), port});
+        if (error != asio::error::address_in_use) {
+            return {};
+        }
+        ipv4.close();
+        return error;
     }
 
-    void accept(tcp::acceptor &acceptor)
+    void accept(Listener &listener)
     {
-        acceptor.async_accept([this, &acceptor](error_code error, tcp::socket socket) {
+        listener.acceptor.async_accept([this, &listener](error_code error, tcp::socket socket) {
             if (error) {
-                return rest(acceptor);
+                return rest(listener);
             }
             ++accepted;
-            receive(std::move(socket));
-            accept(acceptor);
+            HttpsConnection::start(std::move(socket), receiver(), handler, connections);
+            accept(listener);
         });
     }
 
     // Out of file descriptors, most likely: trying again at once would spin.
-    void rest(tcp::acceptor &acceptor)
+    void rest(Listener &listener)
     {
-        respite.emplace(io, 100ms);
-        respite->async_wait([this, &acceptor](error_code error) {
+        listener.respite.expires_after(100ms);
+        listener.respite.async_wait([this, &listener](error_code error) {
             if (!error) {
-                accept(acceptor);
+                accept(listener);
             }
         });
-    }
-
-    void receive(tcp::socket socket)
-    {
-        error_code ignored;
-        socket.set_option(tcp::no_delay(true), ignored);
-        SSL_CTX *context = receiver();
-        const auto connection = std::make_shared<Connection>(
-            std::move(socket), context ? context : bare.native_handle(), handler, connections);
-        context ? connection->handshake() : connection->outwait();
     }
 };
 
@@ -361,12 +126,11 @@ QString HttpsServer::start(quint16 port)
         error = m_state->listenOnBoth(0);
     }
     if (error) {
-        m_state->acceptors[0].reset();
         return QStringLiteral("port %1: %2").arg(port).arg(QString::fromStdString(error.message()));
     }
-    for (auto &acceptor : m_state->acceptors) {
-        if (acceptor) {
-            m_state->accept(*acceptor);
+    for (Listener &listener : m_state->listeners) {
+        if (listener.acceptor.is_open()) {
+            m_state->accept(listener);
         }
     }
     m_state->thread = std::thread([state = m_state.get()] { state->io.run(); });
@@ -394,7 +158,7 @@ int HttpsServer::connectionCount() const
 void HttpsServer::closeIdleConnections()
 {
     asio::post(m_state->io, [state = m_state.get()] {
-        for (Connection *connection : state->connections) {
+        for (HttpsConnection *connection : state->connections) {
             connection->closeIfIdle();
         }
     });

@@ -18,6 +18,8 @@
 
 namespace sandbox {
 
+class Service;
+
 /// The web service on this machine: HTTPS on 127.0.0.1 and ::1, accounts in an SQLite file, reset
 /// messages in an outbox folder. It runs on threads of its own from construction to destruction,
 /// and every operation may be called from any thread. A test makes one, lets the client connect to
@@ -109,8 +111,8 @@ public:
     static QByteArray digestOf(const QString &password);
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<Service> m_service;
+    QString m_error;
 };
 
 } // namespace sandbox

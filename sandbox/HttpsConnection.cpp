@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "sandbox/HttpsConnection.h"
+
+#include "sandbox/QueryItems.h"
+
+#include <openssl/ssl.h>
+
+#include <boost/asio/post.hpp>
+#include <boost/asio/ssl/context.hpp>
+#include <boost/asio/ssl/stream.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/write.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/read.hpp>
+#include <boost/beast/http/string_body.hpp>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace asio = boost::asio;
+namespace beast = boost::beast;
+namespace http = beast::http;
+using asio::ip::tcp;
+using namespace std::chrono_literals;
+using boost::system::error_code;
+
+namespace sandbox {
+
+namespace {
+
+constexpr auto handshakeTime = 10s;
+constexpr auto idleTime = 60s;
+constexpr auto farewellTime = 1s;
+constexpr std::uint32_t headerLimit = 16 * 1024;
+constexpr std::uint64_t bodyLimit = 64 * 1024;
+
+int problemOf(const error_code &error)
+{
+    if (error == http::error::header_limit) {
+        return 431;
+    }
+    return error == http::error::body_limit ? 413 : 400;
+}
+
+// Without a handshake no context is ever used, but the stream wants one.
+asio::ssl::context shared(SSL_CTX *context)
+{
+    if (!context) {
+        return asio::ssl::context(asio::ssl::context::tls_server);
+    }
+    SSL_CTX_up_ref(context);
+    return asio::ssl::context(context);
+}
+
+// Every operation below runs on the server's thread, and is followed by at most one other.
+class Connection final : public HttpsConnection, public std::enable_shared_from_this<Connection> {
+public:
+    Connection(tcp::socket socket, SSL_CTX *context, const HttpsServer::Handler &handler,
+               HttpsConnection::Set &all)
+        : m_context(shared(context)),
+          m_stream(std::move(socket), m_context),
+          m_timer(m_stream.get_executor()),
+          m_handler(handler),
+          m_all(all)
+    {
+        m_all.insert(this);
+    }
+    ~Connection() override { m_all.erase(this); }
+
+    void handshake()
+    {
+        tcpStream().expires_after(handshakeTime);
+        m_stream.async_handshake(asio::ssl::stream_base::server,
+                                 [self = shared_from_this()](error_code error) {
+                                     if (!error) {
+                                         self->read();
+                                     }
+                                 });
+    }
+
+    // Reads and drops whatever comes, until the client goes.
+    template <typename Stream>
+    void outwait(Stream &stream)
+    {
+        tcpStream().expires_never();
+        stream.async_read_some(asio::buffer(m_dropped),
+                               [self = shared_from_this(), &stream](error_code error, size_t) {
+                                   if (!error) {
+                                       self->outwait(stream);
+                                   }
+                               });
+    }
+
+    void outwait() { outwait(tcpStream()); }
+
+    void closeIfIdle() override
+    {
+        if (m_isIdle) {
+            tcpStream().close();
+        }
+    }
+
+private:
+    beast::tcp_stream &tcpStream() { return m_stream.next_layer(); }
+
+    void read()
+    {
+        m_isIdle = true;
+        m_parser.emplace();
+        m_parser->header_limit(headerLimit);
+        m_parser->body_limit(bodyLimit);
+        tcpStream().expires_after(idleTime);
+        http::async_read(
+            m_stream, m_buffer, *m_parser,
+            [self = shared_from_this()](error_code error, size_t) { self->haveRead(error); });
+    }
+
+    void haveRead(const error_code &error)
+    {
+        m_isIdle = false;
+        if (error == http::error::end_of_stream) {
+            return farewell();
+        }
+        if (error
+            && error.category() != http::make_error_code(http::error::bad_method).category()) {
+            return;
+        }
+        m_handler(error ? malformed(problemOf(error)) : request(), answerTo(shared_from_this()));
+    }
+
+    // Gives its reference up when it is called: on another thread it must not be the last.
+    static HttpsServer::Answer answerTo(std::shared_ptr<Connection> self)
+    {
+        return [self = std::move(self)](Transmission transmission) mutable {
+            const auto executor = self->m_stream.get_executor();
+            asio::post(executor,
+                       [self = std::move(self), transmission = std::move(transmission)]() mutable {
+                           self->send(std::move(transmission));
+                       });
+        };
+    }
+
+    static Request malformed(int status)
+    {
+        Request request;
+        request.keepsAlive = false;
+        request.malformed = status;
+        return request;
+    }
+
+    Request request() const
+    {
+        const auto &message = m_parser->get();
+        const auto bytes = [](beast::string_view text) {
+            return QByteArray(text.data(), qsizetype(text.size()));
+        };
+        Request request;
+        request.method = bytes(message.method_string());
+        request.keepsAlive = message.keep_alive();
+        request.bodySize = qint64(message.body().size());
+        for (const auto &field : message) {
+            request.headers.append({bytes(field.name_string()), bytes(field.value())});
+        }
+        setTarget(request, bytes(message.target()));
+        return request;
+    }
+
+    void send(Transmission transmission)
+    {
+        m_transmission = std::move(transmission);
+        m_sent = 0;
+        pauseThenWrite(m_transmission.delay);
+    }
+
+    void pauseThenWrite(std::chrono::milliseconds time)
+    {
+        if (time <= 0ms) {
+            return write();
+        }
+        tcpStream().expires_never();
+        m_timer.expires_after(time);
+        m_timer.async_wait([self = shared_from_this()](error_code error) {
+            if (!error) {
+                self->write();
+            }
+        });
+    }
+
+    void write()
+    {
+        const size_t left = size_t(m_transmission.bytes.size()) - m_sent;
+        if (left == 0) {
+            return m_transmission.isEndless ? writeBlanks() : end();
+        }
+        const size_t size =
+            m_transmission.pieceSize > 0 ? std::min(left, size_t(m_transmission.pieceSize)) : left;
+        tcpStream().expires_after(idleTime);
+        asio::async_write(m_stream, asio::buffer(m_transmission.bytes.constData() + m_sent, size),
+                          [self = shared_from_this()](error_code error, size_t written) {
+                              if (error) {
+                                  return;
+                              }
+                              self->m_sent += written;
+                              self->pauseThenWrite(self->m_transmission.pause);
+                          });
+    }
+
+    void writeBlanks()
+    {
+        static const std::string blanks(64 * size_t{1024}, ' ');
+        tcpStream().expires_after(idleTime);
+        asio::async_write(m_stream, asio::buffer(blanks),
+                          [self = shared_from_this()](error_code error, size_t) {
+                              if (!error) {
+                                  self->writeBlanks();
+                              }
+                          });
+    }
+
+    void end()
+    {
+        switch (m_transmission.ending) {
+        case Transmission::Ending::KeepOpen:
+            return read();
+        case Transmission::Ending::Close:
+            return farewell();
+        case Transmission::Ending::Cut:
+            return tcpStream().close();
+        case Transmission::Ending::Reset: {
+            error_code ignored;
+            tcpStream().socket().set_option(tcp::socket::linger(true, 0), ignored);
+            return tcpStream().close();
+        }
+        case Transmission::Ending::Silence:
+            return outwait(m_stream);
+        }
+    }
+
+    void farewell()
+    {
+        tcpStream().expires_after(farewellTime);
+        m_stream.async_shutdown([self = shared_from_this()](error_code) {});
+    }
+
+    asio::ssl::context m_context;
+    asio::ssl::stream<beast::tcp_stream> m_stream;
+    asio::steady_timer m_timer;
+    const HttpsServer::Handler &m_handler;
+    HttpsConnection::Set &m_all;
+    beast::flat_buffer m_buffer;
+    std::optional<http::request_parser<http::string_body>> m_parser;
+    Transmission m_transmission;
+    size_t m_sent = 0;
+    bool m_isIdle = false;
+    std::array<char, 4096> m_dropped{};
+};
+
+} // namespace
+
+void HttpsConnection::start(tcp::socket socket, SSL_CTX *context,
+                            const HttpsServer::Handler &handler, Set &all)
+{
+    error_code ignored;
+    socket.set_option(tcp::no_delay(true), ignored);
+    const auto connection = std::make_shared<Connection>(std::move(socket), context, handler, all);
+    if (context) {
+        connection->handshake();
+    } else {
+        connection->outwait();
+    }
+}
+
+} // namespace sandbox

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "sandbox/Service.h"
+
+#include "sandbox/HttpMessage.h"
+#include "sandbox/PrivateFile.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace sandbox {
+
+Service::Service(const Sandbox::Options &given)
+    : m_options(given),
+      m_temporary(given.directory.isEmpty() ? std::make_unique<QTemporaryDir>() : nullptr),
+      directory(m_temporary ? m_temporary->path() : QFileInfo(given.directory).absoluteFilePath()),
+      clock(given.clockOffset),
+      hasher(given.hashMemory, given.hashPasses),
+      outbox(directory + u"/outbox"_s),
+      m_accountEndpoints(store, hasher, outbox, clock),
+      server([this](const Request &request,
+                    const HttpsServer::Answer &answer) { handle(request, answer); },
+             [this] { return m_certificates.context(book.takeReception()); })
+{
+    m_router.add(m_accountEndpoints.endpoints());
+    m_pool.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
+}
+
+// Work that is under way may still hold a connection, and must let go of it before the server goes.
+Service::~Service()
+{
+    server.stop();
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+QString Service::start()
+{
+    const std::array<std::function<QString()>, 6> steps{
+        [this] { return makePrivateDirectory(directory); },
+        [this] { return m_lock.take(directory); },
+        [this] { return hasher.isReady() ? QString() : u"password hashes cannot be made"_s; },
+        [this] { return database.open(directory + u"/service.sqlite"_s); },
+        [this] { return m_certificates.open(directory, clock.now()); },
+        [this] { return server.start(m_options.port); },
+    };
+    QString problem;
+    for (auto step = steps.begin(); step != steps.end() && problem.isEmpty(); ++step) {
+        problem = (*step)();
+    }
+    return problem;
+}
+
+QList<Request> Service::requests()
+{
+    const std::lock_guard guard(m_mutex);
+    return m_requests;
+}
+
+void Service::clear()
+{
+    const std::lock_guard guard(m_mutex);
+    m_requests.clear();
+    book.clear();
+}
+
+void Service::handle(const Request &request, const HttpsServer::Answer &answer)
+{
+    std::optional<Fault> fault;
+    if (!request.malformed) {
+        const std::lock_guard guard(m_mutex);
+        m_requests.append(request);
+        fault = book.takeFault(request.path);
+    }
+    if (fault && !fault->sendsRealAnswer()) {
+        log(request, u"staged"_s);
+        return answer(fault->transmission(request, {}, server.port()));
+    }
+    m_pool.start([this, request, answer, fault] {
+        const Reply reply = m_router.answer(request);
+        log(request, QString::number(reply.status));
+        answer(fault ? fault->transmission(request, reply, server.port())
+                     : transmissionOf(request, reply));
+    });
+}
+
+// The path is the client's own text unless it is one of ours.
+void Service::log(const Request &request, const QString &outcome) const
+{
+    if (m_options.log) {
+        const bool isKnown = m_router.endpoint(request.path) != nullptr;
+        m_options.log((isKnown ? QString::fromLatin1(request.method + ' ' + request.path)
+                               : u"another request"_s)
+                      + u": " + outcome);
+    }
+}
+
+} // namespace sandbox

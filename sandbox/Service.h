@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sandbox/AccountEndpoints.h"
+#include "sandbox/Certificates.h"
+#include "sandbox/DirectoryLock.h"
+#include "sandbox/HttpsServer.h"
+#include "sandbox/Sandbox.h"
+#include "sandbox/StageBook.h"
+
+#include <QTemporaryDir>
+#include <QThreadPool>
+
+namespace sandbox {
+
+/// The parts of a running service, in the order in which they need each other.
+class Service {
+public:
+    explicit Service(const Sandbox::Options &given);
+    ~Service();
+    Service(const Service &) = delete;
+    Service &operator=(const Service &) = delete;
+
+    /// Returns an empty text, or why it cannot.
+    QString start();
+    [[nodiscard]] QList<Request> requests();
+    /// Forgets the requests and all that is staged.
+    void clear();
+
+private:
+    void handle(const Request &request, const HttpsServer::Answer &answer);
+    void log(const Request &request, const QString &outcome) const;
+
+    Sandbox::Options m_options;
+    std::unique_ptr<QTemporaryDir> m_temporary;
+
+public:
+    const QString directory;
+    Clock clock;
+    const PasswordHasher hasher;
+    Database database;
+    AccountStore store{database};
+    Outbox outbox;
+    StageBook book;
+
+private:
+    DirectoryLock m_lock;
+    AccountEndpoints m_accountEndpoints;
+    Router m_router;
+    Certificates m_certificates;
+    std::mutex m_mutex;
+    QList<Request> m_requests;
+    QThreadPool m_pool;
+
+public:
+    HttpsServer server;
+};
+
+} // namespace sandbox
