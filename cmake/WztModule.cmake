@@ -49,6 +49,10 @@ function(wzt_module target)
     list(REMOVE_DUPLICATES folders)
     target_include_directories(${target} PRIVATE ${folders})
     target_link_libraries(${target} PUBLIC Qt6::Core Qt6::Gui Qt6::Qml ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+    # What Qt's tools write is not held to this project's warnings.
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/(qmlcache|\\.rcc)/|_qmltyperegistrations\\.cpp$")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 endfunction()
 
 # One test program: wzt_test(test_model SOURCES ... LIBS ...), run by CTest on its own HOME.
