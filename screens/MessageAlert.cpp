@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "screens/MessageAlert.h"
+
+#include "platform/uikit/Make.h"
+#include "platform/uikit/UIAlertController.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+std::shared_ptr<UIAlertController> messageAlert(MessageKind kind, const QString &text)
+{
+    const QString title = kind == MessageKind::Error ? u"Error"_s : u"Great!"_s;
+    auto alert = make<UIAlertController>(title, text);
+    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
+    return alert;
+}
+
+const Message *messageForCode(std::span<const Message> messages, NSUInteger code)
+{
+    const auto found =
+        std::find_if(messages.begin(), messages.end(),
+                     [code](const Message &message) { return message.code == code; });
+    return found == messages.end() ? nullptr : &*found;
+}

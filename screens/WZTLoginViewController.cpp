@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "screens/WZTLoginViewController.h"
+
+#include "model/WZTSession.h"
+#include "platform/foundation/Dispatch.h"
+#include "platform/uikit/Make.h"
+#include "platform/uikit/UIAlertController.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIImpactFeedbackGenerator.h"
+#include "screens/MessageAlert.h"
+#include "service/TavloCategoryExtension.h"
+#include "service/WZTAPI.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What is told for each code; the code of success has no message but dismisses the screen.
+constexpr NSUInteger loginSucceeded = 1;
+constexpr Message loginMessages[] = {
+    {0, MessageKind::Error, u"Account details did not match any account"},
+    {2, MessageKind::Error, u"An account was not found for the supplied email."},
+    {3, MessageKind::Error, u"An unknown error occured."},
+};
+
+constexpr Message resetMessages[] = {
+    {0, MessageKind::Success, u"A reset email has been sent."},
+    {1, MessageKind::Error, u"An account doesn't exists for this email."},
+    {2, MessageKind::Error, u"An unknown error occured."},
+    {3, MessageKind::Error, u"There was an error sending reset email"},
+};
+
+constexpr NSUInteger registrationSucceeded = 2;
+constexpr Message registrationMessages[] = {
+    {0, MessageKind::Error, u"An account already exists for this email."},
+    {1, MessageKind::Error, u"Account request couldn't be made at this time."},
+    {3, MessageKind::Error, u"Received an unexpected response from server."},
+    {4, MessageKind::Error, u"An unknown error occured."},
+};
+
+void tapHaptically()
+{
+    UIImpactFeedbackGenerator(UIImpactFeedbackStyle::Light).impactOccurred();
+}
+
+QString trimmedText(const UITextField &field)
+{
+    return field.text().value_or(QString()).trimmed();
+}
+
+} // namespace
+
+void WZTLoginViewController::handleSingleTap(UITapGestureRecognizer *)
+{
+    if (m_emailTextField.isFirstResponder())
+        m_emailTextField.resignFirstResponder();
+    else if (m_passwordTextField.isFirstResponder())
+        m_passwordTextField.resignFirstResponder();
+}
+
+void WZTLoginViewController::login(UIControl *)
+{
+    tapHaptically();
+    const QString email = trimmedText(m_emailTextField);
+    const QString password = trimmedText(m_passwordTextField);
+    if (email.isEmpty() || password.isEmpty()) {
+        displayErrorMessage(u"Ensure all fields are properly filled."_s);
+        return;
+    }
+    m_activityIndicator.startAnimating();
+    WZTAPI::loginToAccount(email, SHA256(password),
+                           [self = strong(this), weakSelf = weak(this)](
+                               NSUInteger code, const std::optional<WZTUser> &user) {
+                               dispatchAsyncMain([self, weakSelf, code, user] {
+                                   if (const auto screen = weakSelf.lock())
+                                       screen->m_activityIndicator.stopAnimating();
+                                   if (code == loginSucceeded)
+                                       self->enter(user);
+                                   else
+                                       self->displayMessage(messageForCode(loginMessages, code));
+                               });
+                           });
+}
+
+void WZTLoginViewController::forgot(UIControl *)
+{
+    tapHaptically();
+    const auto alert = make<UIAlertController>(u"Reset Password"_s, QString());
+    alert->addTextFieldWithConfigurationHandler([](UITextField &field) {
+        field.setPlaceholder(u"Email"_s);
+        field.setInputTraits({.keyboardType = UIKeyboardType::EmailAddress,
+                              .autocorrectionType = UITextAutocorrectionType::No,
+                              .textContentType = UITextContentType::EmailAddress});
+        field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
+    });
+    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
+    alert->addAction(u"Reset"_s, UIAlertAction::Style::Default,
+                     [self = strong(this), alert = alert.get()] { self->requestReset(*alert); });
+    presentViewController(alert, true);
+}
+
+void WZTLoginViewController::requestReset(const UIAlertController &alert)
+{
+    const std::optional<QString> email = alert.textFields()[0]->text();
+    m_activityIndicator.startAnimating();
+    WZTAPI::resetAccountPassword(email,
+                                 [self = strong(this), weakSelf = weak(this)](NSUInteger code) {
+                                     dispatchAsyncMain([self, weakSelf, code] {
+                                         if (const auto screen = weakSelf.lock())
+                                             screen->m_activityIndicator.stopAnimating();
+                                         self->displayMessage(messageForCode(resetMessages, code));
+                                     });
+                                 });
+}
+
+void WZTLoginViewController::registerAccount(UIControl *)
+{
+    struct Field {
+        const char16_t *placeholder;
+        UITextInputTraits traits;
+    };
+    using Correction = UITextAutocorrectionType;
+    const bool hasNewPasswordContent =
+        UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(12);
+    const Field fields[] = {
+        {u"Name",
+         {.keyboardType = UIKeyboardType::ASCIICapable,
+          .autocorrectionType = Correction::Yes,
+          .textContentType = UITextContentType::Name}},
+        {u"Email",
+         {.keyboardType = UIKeyboardType::EmailAddress,
+          .autocorrectionType = Correction::No,
+          .textContentType = UITextContentType::EmailAddress}},
+        {u"Password",
+         {.textContentType = hasNewPasswordContent ? UITextContentType::NewPassword
+                                                   : UITextContentType::Unspecified,
+          .secureTextEntry = true}},
+    };
+
+    tapHaptically();
+    const auto alert = make<UIAlertController>(u"New Account"_s, QString());
+    for (const Field &row : fields) {
+        alert->addTextFieldWithConfigurationHandler([&row](UITextField &field) {
+            field.setPlaceholder(QString(row.placeholder));
+            field.setInputTraits(row.traits);
+            field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
+        });
+    }
+    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
+    alert->addAction(u"Register"_s, UIAlertAction::Style::Default,
+                     [self = strong(this), alert = alert.get()] { self->requestAccount(*alert); });
+    presentViewController(alert, true);
+}
+
+void WZTLoginViewController::requestAccount(const UIAlertController &alert)
+{
+    const auto &fields = alert.textFields();
+    m_activityIndicator.startAnimating();
+    WZTAPI::registerEmail(
+        fields[1]->text(), fields[0]->text(), SHA256(fields[2]->text().value_or(QString())),
+        [self = strong(this)](NSUInteger code, const std::optional<WZTUser> &user) {
+            dispatchAsyncMain([self, code, user] {
+                self->m_activityIndicator.stopAnimating();
+                if (code == registrationSucceeded)
+                    self->enter(user);
+                else
+                    self->displayMessage(messageForCode(registrationMessages, code));
+            });
+        });
+}
+
+void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
+{
+    if (user)
+        WZTSession::shared()->setCurrentUser(*user);
+    // Asked of the presenter, so that an alert opened meanwhile goes as well.
+    if (UIViewController *presenter = presentingViewController())
+        presenter->dismissViewControllerAnimated(true);
+}
+
+void WZTLoginViewController::displayMessage(const Message *message)
+{
+    if (message)
+        presentViewController(messageAlert(message->kind, QString(message->text)), true);
+}
+
+void WZTLoginViewController::displayErrorMessage(const QString &message)
+{
+    presentViewController(messageAlert(MessageKind::Error, message), true);
+}
+
+void WZTLoginViewController::displaySuccessMessage(const QString &message)
+{
+    presentViewController(messageAlert(MessageKind::Success, message), true);
+}
