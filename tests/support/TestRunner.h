@@ -30,7 +30,10 @@ void add(Maker make);
 
 template <class Test>
 struct Registration {
-    Registration() { add([] { return std::make_unique<Test>(); }); }
+    Registration()
+    {
+        add([] { return std::make_unique<Test>(); });
+    }
 };
 
 } // namespace TestRunner

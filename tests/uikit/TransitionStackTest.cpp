@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/Make.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/UITabBarController.h"
+#include "platform/uikit/UITabBarItem.h"
+#include "platform/uikit/UIWindow.h"
+#include "tests/support/TestRunner.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Writes down its life: "A loads", "A will", "A did".
+class Page : public UIViewController {
+public:
+    Page(const QString &name, QStringList &log) : m_name(name), m_log(log)
+    {
+        navigationItem()->setTitle(name);
+    }
+
+    void viewDidLoad() override { m_log.append(m_name + u" loads"_s); }
+    void viewWillAppear(bool) override { m_log.append(m_name + u" will"_s); }
+    void viewDidAppear(bool) override
+    {
+        m_log.append(m_name + u" did"_s);
+        if (onDidAppear)
+            onDidAppear();
+    }
+    [[nodiscard]] UITransitionStack::Cover cover() const override
+    {
+        // Lower case names are alerts.
+        return m_name.front().isLower() ? UITransitionStack::Cover::Overlays
+                                        : UITransitionStack::Cover::Covers;
+    }
+
+    std::function<void()> onDidAppear;
+
+private:
+    QString m_name;
+    QStringList &m_log;
+};
+
+/// A window with the root R and, by name, any controller that a script speaks of.
+class Stage {
+public:
+    QStringList log;
+    UIWindow window;
+    std::map<QString, std::shared_ptr<Page>> pages;
+    QAbstractItemModelTester tester{window.presentation()};
+
+    Stage()
+    {
+        window.makeKeyAndVisible();
+        window.setRootViewController(page(u"R"_s));
+        log.clear();
+    }
+
+    std::shared_ptr<Page> page(const QString &name)
+    {
+        auto &page = pages[name];
+        if (!page)
+            page = make<Page>(name, log);
+        return page;
+    }
+
+    /// One step: "R+A" R presents A, "R+!A" at once, "-A" A dismisses, "-!A" at once, "A." the
+    /// transition of A has ended. A completion writes the step in brackets.
+    void run(const QString &step)
+    {
+        const auto done = [this, step] { log.append(u"["_s + step + u"]"_s); };
+        const bool animated = !step.contains(u'!');
+        const QString names = QString(step).remove(u'!');
+        if (names.endsWith(u'.'))
+            window.presentation()->transitionEnded(page(names.chopped(1)).get());
+        else if (names.startsWith(u'-'))
+            page(names.mid(1))->dismissViewControllerAnimated(animated, done);
+        else
+            page(names.section(u'+', 0, 0))
+                ->presentViewController(page(names.section(u'+', 1)), animated, done);
+    }
+
+    [[nodiscard]] QString present()
+    {
+        QString names;
+        for (const auto &controller : window.presentation()->controllers())
+            names += controller->navigationItem()->title();
+        return names;
+    }
+};
+
+} // namespace
+
+class TransitionStackTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void operationsAgainstPhases_data()
+    {
+        QTest::addColumn<bool>("drawn");
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("events");
+        QTest::addColumn<QString>("present");
+
+        const auto row = [](const char *name, bool drawn, const char *script, const char *events,
+                            const char *present) {
+            QTest::newRow(name) << drawn << QString::fromLatin1(script)
+                                << QString::fromLatin1(events) << QString::fromLatin1(present);
+        };
+        row("not drawn: settles at once", false, "R+A", "A loads,A will,A did,[R+A]", "RA");
+        row("drawn: did waits for the end", true, "R+A", "A loads,A will", "RA");
+        row("drawn: settles when it ended", true, "R+A A.", "A loads,A will,A did,[R+A]", "RA");
+        row("drawn but not animated", true, "R+!A", "A loads,A will,A did,[R+!A]", "RA");
+        row("ended twice counts once", true, "R+A A. A.", "A loads,A will,A did,[R+A]", "RA");
+        row("uncovered appears again", true, "R+!A -A A.",
+            "A loads,A will,A did,[R+!A],R will,R did,[-A]", "R");
+        row("an alert covers nothing", true, "R+a a. -a a.", "a loads,a will,a did,[R+a],[-a]",
+            "R");
+        row("a second alert covers the first", false, "R+a R+b -b",
+            "a loads,a will,a did,[R+a],b loads,b will,b did,[R+b],[-b]", "Ra");
+        row("present goes over alerts", false, "R+a R+A",
+            "a loads,a will,a did,[R+a],A loads,A will,A did,[R+A]", "RaA");
+        row("dismiss on the presenter takes all above", false, "R+A A+a A+B -R",
+            "A loads,A will,A did,[R+A],a loads,a will,a did,[A+a],B loads,B will,B did,[A+B],"
+            "R will,R did,[-R]",
+            "R");
+        row("dismiss on a covered one keeps it", false, "R+A A+a -A",
+            "A loads,A will,A did,[R+A],a loads,a will,a did,[A+a],[-A]", "RA");
+        row("completion waits for the last to leave", true, "R+!A A+!a -R A. a.",
+            "A loads,A will,A did,[R+!A],a loads,a will,a did,[A+!a],R will,R did,[-R]", "R");
+        row("dismiss while entering", true, "R+A -A A.", "A loads,A will,R will,R did,[R+A],[-A]",
+            "R");
+        row("present while one leaves", true, "R+!A -A R+B A. B.",
+            "A loads,A will,A did,[R+!A],R will,B loads,B will,[-A],B did,[R+B]", "RB");
+        row("dismiss on one leaving does nothing", true, "R+!A -A -A A.",
+            "A loads,A will,A did,[R+!A],R will,[-A],R did,[-A]", "R");
+        row("present from one leaving does nothing", true, "R+!A -A A+B A.",
+            "A loads,A will,A did,[R+!A],R will,[A+B],R did,[-A]", "R");
+        row("present from one gone does nothing", false, "R+A -A A+B",
+            "A loads,A will,A did,[R+A],R will,R did,[-A],[A+B]", "R");
+        row("present what is present does nothing", false, "R+A A+A",
+            "A loads,A will,A did,[R+A],[A+A]", "RA");
+        row("the root stays", false, "-R", "[-R]", "R");
+        row("presented again loads once", false, "R+A -A R+A",
+            "A loads,A will,A did,[R+A],R will,R did,[-A],A will,A did,[R+A]", "RA");
+    }
+
+    void operationsAgainstPhases()
+    {
+        QFETCH(const bool, drawn);
+        QFETCH(const QString, script);
+        Stage stage;
+        if (drawn)
+            stage.window.presentation()->attachView();
+        for (const QString &step : script.split(u' '))
+            stage.run(step);
+        QTEST(stage.log.join(u','), "events");
+        QTEST(stage.present(), "present");
+    }
+
+    void losingTheViewEndsTransitions()
+    {
+        Stage stage;
+        stage.window.presentation()->attachView();
+        stage.run(u"R+A"_s);
+        stage.run(u"R+b"_s);
+        stage.window.presentation()->detachView();
+        QCOMPARE(stage.log.last(), u"[R+b]"_s);
+        QCOMPARE(stage.page(u"A"_s)->appearanceState(), UIAppearanceState::Appeared);
+    }
+
+    void lifeCycleMayChangeTheStack()
+    {
+        Stage stage;
+        stage.page(u"A"_s)->onDidAppear = [&] {
+            stage.page(u"A"_s)->onDidAppear = nullptr;
+            stage.run(u"A+B"_s);
+            stage.run(u"-R"_s);
+        };
+        stage.run(u"R+A"_s);
+        QCOMPARE(stage.present(), u"R"_s);
+        QCOMPARE(stage.page(u"R"_s)->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(stage.page(u"A"_s)->appearanceState(), UIAppearanceState::Disappeared);
+        QCOMPARE(stage.log.count(u"[R+A]"_s), 1);
+    }
+
+    void coveredAndConcealedRows()
+    {
+        Stage stage;
+        UITransitionStack &stack = *stage.window.presentation();
+        stack.attachView();
+        const auto root = [&](int role) { return stack.index(0).data(role).toBool(); };
+        stage.run(u"R+A"_s);
+        QVERIFY(root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
+        stage.run(u"A."_s);
+        QVERIFY(root(UITransitionStack::BlockedRole) && root(UITransitionStack::ConcealedRole));
+        stage.run(u"-A"_s);
+        QVERIFY(!root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
+        stage.run(u"A."_s);
+        stage.run(u"R+!a"_s);
+        QVERIFY(root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
+    }
+
+    void navigationPushesAndPops()
+    {
+        Stage stage;
+        const auto navigation = make<UINavigationController>(stage.page(u"H"_s));
+        stage.run(u"R+!A"_s);
+        stage.log.clear();
+        stage.page(u"A"_s)->presentViewController(navigation, false);
+        stage.page(u"H"_s)->showViewController(stage.page(u"P"_s));
+        stage.page(u"P"_s)->showViewController(stage.page(u"Q"_s));
+        QCOMPARE(navigation->topViewController(), stage.page(u"Q"_s).get());
+        QCOMPARE(navigation->backTitle(), u"P"_s);
+        navigation->goBack();
+        QCOMPARE(stage.page(u"Q"_s)->navigationController(), nullptr);
+        stage.page(u"Q"_s)->presentViewController(stage.page(u"B"_s), false); // gone: nothing
+        navigation->popToRootViewControllerAnimated(true);
+        navigation->goBack(); // the root stays
+        QVERIFY(!navigation->canGoBack());
+        QCOMPARE(
+            stage.log.join(u','),
+            u"H will,H did,P loads,P will,P did,Q loads,Q will,Q did,P will,P did,H will,H did"_s);
+        QCOMPARE(stage.present(), u"RA"_s + navigation->navigationItem()->title());
+        stage.page(u"H"_s)->dismissViewControllerAnimated(false); // a page dismisses its container
+        QCOMPARE(stage.present(), u"RA"_s);
+    }
+
+    void tabsAppearOneAtATime()
+    {
+        struct Tabs : UITabBarController {
+            int told = 0;
+            void didSelectItem(UITabBarItem *) override { ++told; }
+        };
+        QStringList log;
+        UIWindow window;
+        const auto tabs = make<Tabs>();
+        const auto home = make<Page>(u"H"_s, log);
+        const auto account = make<Page>(u"A"_s, log);
+        const auto pushed = make<Page>(u"P"_s, log);
+        const auto navigation = make<UINavigationController>(home);
+        home->setTabBarItem(std::make_unique<UITabBarItem>(QString(), UIImage(), 7));
+        tabs->setViewControllers({navigation, account});
+        window.setRootViewController(tabs);
+        QVERIFY2(!log.join(u',').contains(u"will"_s), "nothing appears before the window does");
+        window.makeKeyAndVisible();
+        QCOMPARE(log.join(u','), u"H loads,H will,H did"_s);
+
+        QCOMPARE(tabs->tabBar()->items().front()->tag(),
+                 7); // a navigation controller shows its page's
+        tabs->setSelectedIndex(1);
+        tabs->setSelectedIndex(5);
+        QCOMPARE(tabs->told, 0);
+        tabs->tabBar()->choose(0);
+        tabs->tabBar()->choose(9);
+        QCOMPARE(log.join(u','), u"H loads,H will,H did,A loads,A will,A did,H will,H did"_s);
+        home->showViewController(pushed);
+        tabs->tabBar()->choose(0); // the selected tab: back to its first page
+        QCOMPARE(navigation->topViewController(), home.get());
+        QCOMPARE(tabs->told, 2);
+        QCOMPARE(tabs->selectedIndex(), 0);
+    }
+
+    void controllersDie()
+    {
+        QPointer<UIViewController> alive;
+        {
+            Stage stage;
+            alive = stage.page(u"A"_s).get();
+            stage.run(u"R+A"_s);
+            stage.pages.erase(u"A"_s);
+            QVERIFY(alive);
+            stage.run(u"-R"_s);
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!alive);
+    }
+};
+
+WZT_TEST(TransitionStackTest)
+#include "TransitionStackTest.moc"
