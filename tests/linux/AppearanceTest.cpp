@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxHost.h"
+#include "tests/linux/FakeService.h"
+#include "tests/support/TestRunner.h"
+
+#include <QDBusMetaType>
+#include <QDBusVariant>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using SettingGroups = QMap<QString, QVariantMap>;
+
+constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
+const QString looks = u"org.freedesktop.appearance"_s;
+const QString desktop = u"org.gnome.desktop.interface"_s;
+const QString scheme = u"color-scheme"_s;
+constexpr auto light = UIUserInterfaceStyle::Light;
+constexpr auto dark = UIUserInterfaceStyle::Dark;
+
+QVariant wrapped(const QVariant &value)
+{
+    return QVariant::fromValue(QDBusVariant(value));
+}
+
+struct Portal : FakeService {
+    explicit Portal(const SettingGroups &settings = {})
+        : FakeService(u"org.freedesktop.portal.Desktop"_s, path, QVariant::fromValue(settings))
+    {
+    }
+    void change(const QString &group, const QString &key, const QVariant &value) const
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(path, interface, u"SettingChanged"_s);
+        bus.send(signal << group << key << wrapped(value));
+    }
+};
+
+struct ObservedHost {
+    ObservedHost()
+    {
+        host.observeAppearance([this](const UIAppearance &appearance) { told.append(appearance); });
+    }
+    [[nodiscard]] UIAppearance last() const { return told.value(told.size() - 1); }
+    LinuxHost host{u"example.wzt.Test"_s};
+    QList<UIAppearance> told;
+};
+
+} // namespace
+
+class AppearanceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qDBusRegisterMetaType<SettingGroups>(); }
+
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+
+    void portalSettings_data()
+    {
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<UIAppearance>("expected");
+        const auto row = [](const char *name, const QString &group, const char *key,
+                            const QVariant &value, const UIAppearance &expected) {
+            QTest::newRow(name) << group << QString::fromLatin1(key) << value << expected;
+        };
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        row("no preference", looks, "color-scheme", 0U, {});
+        row("dark", looks, "color-scheme", 1U, {.style = dark});
+        row("light", looks, "color-scheme", 2U, {.style = light});
+        row("dark, wrapped more", looks, "color-scheme", wrapped(wrapped(1U)), {.style = dark});
+        row("unknown scheme", looks, "color-scheme", 3U, {});
+        row("scheme as text", looks, "color-scheme", u"1"_s, {});
+        row("key of another group", desktop, "color-scheme", 1U, {});
+        row("larger text", desktop, "text-scaling-factor", 1.25, {.textScale = 1.25});
+        row("giant text", desktop, "text-scaling-factor", 1e9, {.textScale = 3.0});
+        row("no text at all", desktop, "text-scaling-factor", 0.0, {.textScale = 0.5});
+        row("no number", desktop, "text-scaling-factor", nan, {});
+        row("scale as integer", desktop, "text-scaling-factor", 2, {});
+        row("animations off", desktop, "enable-animations", false, {.reduceMotion = true});
+        row("animations on", desktop, "enable-animations", true, {});
+        row("reduced motion", looks, "reduced-motion", 1U, {.reduceMotion = true});
+    }
+
+    // Each value once as the portal has it at the start and once as a change.
+    void portalSettings()
+    {
+        QFETCH(QString, group);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(UIAppearance, expected);
+        UIAppearance after = expected;
+        after.reduceMotion = true;
+        for (const bool live : {false, true}) {
+            const Portal portal(live ? SettingGroups() : SettingGroups{{group, {{key, value}}}});
+            const ObservedHost host;
+            QTRY_COMPARE(portal.calls.size(), 1);
+            QCOMPARE(portal.calls[0],
+                     (QVariantList{interface, u"ReadAll"_s, QStringList{looks, desktop}}));
+            if (live)
+                portal.change(group, key, value);
+            // Told last, so that nothing can still be on its way.
+            portal.change(looks, u"reduced-motion"_s, 1U);
+            QTRY_COMPARE(host.last(), after);
+            QList<UIAppearance> told{UIAppearance(), expected, after};
+            told.erase(std::unique(told.begin(), told.end()), told.end());
+            QCOMPARE(host.told, told.sliced(1));
+        }
+    }
+
+    void portalThatComesLateAndRestarts()
+    {
+        const ObservedHost host;
+        for (const auto &[value, style] : {std::pair(1U, dark), std::pair(2U, light)}) {
+            const Portal portal({{looks, {{scheme, value}}}});
+            QTRY_COMPARE(host.last().style, style);
+        }
+        QCOMPARE(host.told.size(), 2);
+    }
+
+    void paletteWhenThePortalSaysNothing()
+    {
+        const QPalette before = QGuiApplication::palette();
+        const Portal portal;
+        const ObservedHost host;
+        QTRY_COMPARE(portal.calls.size(), 1);
+        QGuiApplication::setPalette(QPalette(Qt::white, Qt::black));
+        QTRY_COMPARE(host.last().style, dark);
+        portal.change(looks, scheme, 2U);
+        QTRY_COMPARE(host.last().style, light);
+        portal.change(looks, scheme, 0U);
+        QTRY_COMPARE(host.last().style, dark);
+        QGuiApplication::setPalette(before);
+        QTRY_COMPARE(host.last(), UIAppearance());
+    }
+};
+
+WZT_TEST(AppearanceTest)
+
+#include "AppearanceTest.moc"

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+
+/// A service on the test's bus while the object lives: writes down the calls, gives one answer to
+/// all.
+class FakeService : public QDBusVirtualObject {
+public:
+    FakeService(const QString &name, const QString &path, const QVariant &reply)
+        : bus(
+            QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), name)),
+          m_reply(reply)
+    {
+        bus.registerVirtualObject(path, this);
+        bus.registerService(name);
+    }
+    ~FakeService() override { QDBusConnection::disconnectFromBus(bus.name()); }
+    Q_DISABLE_COPY_MOVE(FakeService)
+
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &) override
+    {
+        calls.append(QVariantList{message.interface(), message.member()} + message.arguments());
+        return bus.send(message.createReply(m_reply));
+    }
+    [[nodiscard]] QString introspect(const QString &) const override { return {}; }
+
+    QDBusConnection bus;
+    /// Interface, method and arguments of each call.
+    QList<QVariantList> calls;
+
+private:
+    QVariant m_reply;
+};

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxHost.h"
+#include "tests/linux/FakeService.h"
+#include "tests/linux/HomeFile.h"
+#include "tests/support/TestRunner.h"
+
+#include <QDBusArgument>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString applicationId = u"example.wzt-test.Companion"_s;
+
+// Another start of the application; it tells whether it is the only one.
+QByteArray start(const QStringList &urls, const QProcessEnvironment &environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  QStringList{u"--start"_s, applicationId} + urls);
+    [&] { QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 20000); }();
+    return process.readAll();
+}
+
+} // namespace
+
+class InstanceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+
+    void laterStart_data()
+    {
+        QTest::addColumn<QStringList>("urls");
+        QTest::addColumn<QByteArray>("token");
+        QTest::addColumn<bool>("addressKnown");
+        QTest::newRow("activation") << QStringList() << QByteArray() << true;
+        QTest::newRow("URLs and token")
+            << QStringList{u"wzt://a?b=%41"_s, u"WZT://é b"_s} << QByteArray("token-1") << true;
+        QTest::newRow("bus in the runtime folder") << QStringList() << QByteArray("t2") << false;
+    }
+
+    void laterStart()
+    {
+        QFETCH(QStringList, urls);
+        QFETCH(QByteArray, token);
+        QFETCH(bool, addressKnown);
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        if (!token.isEmpty())
+            environment.insert(u"XDG_ACTIVATION_TOKEN"_s, QString::fromLatin1(token));
+        if (!addressKnown)
+            environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+        QList<QStringList> opened;
+        {
+            LinuxHost host(applicationId);
+            const auto append = [&](const QStringList &list) { opened.append(list); };
+            QVERIFY(host.becomeOnlyInstance({u"own"_s}, append));
+            QCOMPARE(start(urls, environment), "second\n");
+            QCOMPARE(opened, QList<QStringList>{urls});
+            QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), token);
+        }
+        QCOMPARE(start(urls, environment), "only\n");
+    }
+
+    void instanceThatDoesNotAnswer()
+    {
+        QList<QStringList> opened;
+        const auto append = [&](const QStringList &list) { opened.append(list); };
+        LinuxHost first(applicationId);
+        LinuxHost second(applicationId);
+        const QStringList urls{u"wzt://x"_s};
+        QVERIFY(first.becomeOnlyInstance({}, append));
+        // The first cannot answer: its thread stands in this very call.
+        QVERIFY(!second.becomeOnlyInstance(urls, append));
+        QVERIFY(opened.isEmpty());
+        QTRY_COMPARE(opened, QList<QStringList>{urls});
+    }
+
+    void desktopActionActivates()
+    {
+        int activations = 0;
+        LinuxHost host(applicationId);
+        QVERIFY(host.becomeOnlyInstance(
+            {}, [&](const QStringList &urls) { activations += urls.isEmpty() ? 1 : 0; }));
+        QDBusMessage action =
+            QDBusMessage::createMethodCall(applicationId, u"/example/wzt_test/Companion"_s,
+                                           u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+        action << u"new"_s << QVariantList() << QVariantMap();
+        QVERIFY(QDBusConnection::sessionBus().send(action));
+        QTRY_COMPARE(activations, 1);
+    }
+
+    void tap()
+    {
+        LinuxHost host(applicationId);
+        host.impactOccurred(UIImpactFeedbackStyle::Light); // nobody is there yet
+        const FakeService daemon(u"org.sigxcpu.Feedback"_s, u"/org/sigxcpu/Feedback"_s, 1U);
+        host.impactOccurred(UIImpactFeedbackStyle::Light);
+        QTRY_COMPARE(daemon.calls.size(), 1);
+        const QVariantList &call = daemon.calls[0];
+        QCOMPARE(call.first(4),
+                 (QVariantList{u"org.sigxcpu.Feedback"_s, u"TriggerFeedback"_s, applicationId,
+                               u"button-pressed"_s}));
+        QVERIFY(qdbus_cast<QVariantMap>(call[4]).isEmpty());
+        QCOMPARE(call[5], -1);
+    }
+
+    // A second start is a second process then, and nothing complains or starts a bus.
+    void noBus()
+    {
+        LinuxHost host(applicationId);
+        QVERIFY(host.becomeOnlyInstance({}, [](const QStringList &) {}));
+        const QString home = QDir::homePath();
+        QVERIFY(writeHomeFile(u"dbus-launch"_s, "#!/bin/sh\n: > \"$HOME/launched\"\n"));
+        QFile::setPermissions(home + "/dbus-launch"_L1, QFile::ReadOwner | QFile::ExeOwner);
+        QVERIFY(writeHomeFile(u"handler-of-start"_s,
+                              "env > \"$HOME/part\"\nmv \"$HOME/part\" \"$HOME/environment\"\n"));
+        const QString applications = u".local/share/applications/"_s;
+        QVERIFY(writeHomeFile(applications + "start.desktop"_L1,
+                              "[Desktop Entry]\nType=Application\nName=Start\nExec=sh "
+                                  + QFile::encodeName(home) + "/handler-of-start\n"));
+        QVERIFY(writeHomeFile(applications + "mimeinfo.cache"_L1,
+                              "[MIME Cache]\nx-scheme-handler/start=start.desktop;\n"));
+
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, home);
+        environment.insert(u"DISPLAY"_s, u":77"_s);
+        environment.insert(u"XDG_ACTIVATION_TOKEN"_s, u"token-3"_s);
+        environment.insert(u"PATH"_s, home + u':' + environment.value(u"PATH"_s));
+        QCOMPARE(start({}, environment), "only\n");
+        QTRY_VERIFY(readHomeFile(u"environment"_s).contains("HOME="));
+        QVERIFY(!readHomeFile(u"environment"_s).contains("DBUS_SESSION_BUS_ADDRESS"));
+        QVERIFY(!readHomeFile(u"environment"_s).contains("token-3"));
+        QVERIFY(!QFile::exists(home + "/launched"_L1));
+    }
+};
+
+WZT_TEST(InstanceTest)
+
+#include "InstanceTest.moc"

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxHost.h"
+#include "tests/linux/HomeFile.h"
+#include "tests/support/TestRunner.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+class LinksTest : public QObject {
+    Q_OBJECT
+
+    LinuxHost m_host{u"example.wzt.Test"_s};
+
+private Q_SLOTS:
+    // A handler that goes on when the test opens the gate, and then writes down its argument.
+    void initTestCase()
+    {
+        const QByteArray home = QFile::encodeName(QDir::homePath());
+        QVERIFY(writeHomeFile(u"handler"_s,
+                              "read go < \"$HOME/gate\"\nprintf %s \"$1\" > \"$HOME/part\"\n"
+                              "mv \"$HOME/part\" \"$HOME/seen\"\n"));
+        QVERIFY(writeHomeFile(u".local/share/applications/handler.desktop"_s,
+                              "[Desktop Entry]\nType=Application\nName=Handler\nExec=sh " + home
+                                  + "/handler %u\n"));
+        QVERIFY(writeHomeFile(u".config/mimeapps.list"_s,
+                              "[Default Applications]\nx-scheme-handler/zbra=handler.desktop\n"
+                              "x-scheme-handler/cydia=handler.desktop\n"));
+        QCOMPARE(::mkfifo(QByteArray(home + "/gate").constData(), 0600), 0);
+    }
+
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+
+    void handlerGetsEveryByte_data()
+    {
+        QTest::addColumn<QString>("url");
+        QTest::newRow("scheme alone") << u"zbra://"_s;
+        QTest::newRow("a URL in a URL") << u"zbra://sources/add/https://repo.wzt.example/repo/"_s;
+        QTest::newRow("a URL in a fragment")
+            << u"cydia://url/https://share.wzt.example/api/share#?source=https://Repo.WZT.example"_s;
+        QTest::newRow("capitals and percents") << u"ZBRA://Host.EXAMPLE/%41%zz%u%%f//../."_s;
+        QTest::newRow("shell") << u"zbra://a b'c\"d$(e)`f`;&|*?~\\\n<>é€"_s;
+    }
+
+    void handlerGetsEveryByte()
+    {
+        QFETCH(QString, url);
+        QVERIFY(m_host.canOpenURL(url));
+        m_host.openURL(url); // would never come back if it waited for the handler
+        QVERIFY(writeHomeFile(u"gate"_s, "go\n"));
+        QTRY_COMPARE(readHomeFile(u"seen"_s), url.toUtf8());
+        QVERIFY(QDir::home().remove(u"seen"_s));
+    }
+
+    void nobodyHandles()
+    {
+        for (const QString &url : {u"nobody://x"_s, u"zbr://x"_s, u"zbra"_s, u"://zbra"_s, u""_s}) {
+            QVERIFY2(!m_host.canOpenURL(url), qPrintable(url));
+            m_host.openURL(url);
+        }
+    }
+};
+
+WZT_TEST(LinksTest)
+
+#include "LinksTest.moc"
