@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UITableViewController.h"
+
+/// Account, the second tab.
+class WZTUserViewController : public UITableViewController {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+
+public:
+    WZTUserViewController();
+
+    void viewDidLoad() override;
+};
