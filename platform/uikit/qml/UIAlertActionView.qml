@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// One button of an alert, darker while a finger is on it; the corners that it shares with the
+/// alert are as round.
+UIPressArea {
+    id: root
+
+    required property UIAlertAction action
+    required property bool roundsLeft
+    required property bool roundsRight
+    /// Whether another button stands to the left.
+    required property bool beside
+
+    readonly property bool isCancel: action.style === UIAlertAction.Cancel
+
+    implicitHeight: Math.max(Metrics.row, title.implicitHeight + 16)
+
+    Accessible.role: Accessible.Button
+    Accessible.name: action.title
+    Accessible.focusable: true
+    Accessible.pressed: highlighted
+    Accessible.ignored: !enabled
+    Accessible.onPressAction: triggered()
+
+    Rectangle {
+        anchors.fill: parent
+        visible: root.highlighted
+        radius: root.roundsLeft || root.roundsRight ? Metrics.alertRadius : 0
+        color: Traits.pressedAlertColor
+
+        // Squares over the corners that are not round.
+        Rectangle {
+            width: parent.width
+            height: parent.height - parent.radius
+            color: parent.color
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            anchors.left: root.roundsLeft ? undefined : parent.left
+            anchors.right: root.roundsRight ? undefined : parent.right
+            width: root.roundsLeft && root.roundsRight ? 0 : parent.width / 2
+            height: parent.radius
+            color: parent.color
+        }
+    }
+    Text {
+        id: title
+        anchors.fill: parent
+        anchors.leftMargin: Metrics.margin / 2
+        anchors.rightMargin: Metrics.margin / 2
+        text: root.action.title
+        textFormat: Text.PlainText
+        font: root.isCancel ? Traits.headlineFont : Traits.bodyFont
+        color: Traits.accentColor
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+    Separator { anchors.top: parent.top }
+    Rectangle {
+        width: Metrics.hairline
+        height: parent.height
+        visible: root.beside
+        color: Traits.separatorColor
+    }
+    FocusRing {
+        anchors.margins: 4
+        anchors.leftMargin: 4
+        anchors.rightMargin: 4
+        radius: Metrics.alertRadius - 4
+        shown: root.focusVisible
+    }
+}

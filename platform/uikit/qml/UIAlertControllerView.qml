@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// An alert: a card in the middle of what the on-screen keyboard leaves of the window. Texts and
+/// fields scroll where they do not fit, and so do the buttons.
+FocusScope {
+    id: root
+
+    required property UIAlertController controller
+
+    readonly property real keyboard:
+        Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
+    readonly property real room: height - keyboard - 2 * Metrics.margin
+
+    Accessible.role: controller.textFields.length > 0 ? Accessible.Dialog : Accessible.AlertMessage
+    Accessible.name: controller.title
+    Accessible.description: controller.message
+    Accessible.ignored: !enabled
+
+    Keys.onEscapePressed: controller.triggerCancel()
+    Keys.onReturnPressed: controller.triggerDefault()
+    Keys.onEnterPressed: controller.triggerDefault()
+
+    Rectangle {
+        id: card
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.round(Metrics.margin + (root.room - height) / 2)
+        width: Math.min(Metrics.alertWidth, root.width - 2 * Metrics.margin)
+        height: body.height + buttons.height
+        radius: Metrics.alertRadius
+        color: Traits.alertColor
+
+        RevealingFlickable {
+            id: body
+            width: parent.width
+            height: Math.min(contentHeight, root.room - buttons.height)
+            contentHeight: texts.height
+
+            UIAlertTextsView {
+                id: texts
+                width: parent.width
+                controller: root.controller
+            }
+        }
+        RevealingFlickable {
+            id: buttons
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Math.min(contentHeight, Math.max(root.room / 2, root.room - texts.height))
+            contentHeight: actions.height
+
+            UIAlertActionsView {
+                id: actions
+                width: parent.width
+                controller: root.controller
+            }
+        }
+    }
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// An alert's title and message, and its fields one below the other.
+Column {
+    id: root
+
+    required property UIAlertController controller
+
+    padding: Metrics.margin
+    topPadding: 19
+    bottomPadding: 19
+    spacing: 3
+
+    UIAlertTextView {
+        width: root.width - 2 * root.padding
+        text: root.controller.title
+        font: Traits.headlineFont
+    }
+    UIAlertTextView {
+        width: root.width - 2 * root.padding
+        text: root.controller.message
+        font: Traits.footnoteFont
+    }
+    Item {
+        width: 1
+        height: fields.count > 0 ? 10 : 0
+        visible: fields.count > 0
+    }
+    Repeater {
+        id: fields
+        model: root.controller.textFields
+
+        UITextFieldView {
+            required property UITextField modelData
+
+            width: root.width - 2 * root.padding
+            height: implicitHeight
+            control: modelData
+        }
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// A bar with the top page's title and the way back, and the pages below it.
+FocusScope {
+    id: root
+
+    required property UINavigationController controller
+
+    // A page that has a use for these keys takes them first.
+    Keys.onPressed: event => {
+        event.accepted = controller.canGoBack
+            && (event.key === Qt.Key_Escape || event.matches(StandardKey.Back))
+        if (event.accepted)
+            controller.goBack()
+    }
+
+    UINavigationBarView {
+        id: bar
+        anchors.left: parent.left
+        anchors.right: parent.right
+        controller: root.controller
+    }
+    UITransitionStackView {
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        focus: true
+        stack: root.controller.pages
+        pages: true
+    }
+}

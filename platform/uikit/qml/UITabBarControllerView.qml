@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// The selected tab's controller and the tab bar below it.
+FocusScope {
+    id: root
+
+    required property UITabBarController controller
+
+    Repeater {
+        model: root.controller.viewControllers
+
+        UIControllerLoader {
+            required property UIViewController modelData
+            required property int index
+
+            readonly property bool selected: index === root.controller.tabBar.selectedIndex
+
+            anchors.top: parent.top
+            anchors.bottom: bar.top
+            width: root.width
+            controller: modelData
+            wanted: selected
+            visible: selected
+            enabled: selected
+            focus: selected
+        }
+    }
+    UITabBarView {
+        id: bar
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        control: root.controller.tabBar
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// One tab: its picture, and its title below if it has one.
+UIPressArea {
+    id: root
+
+    required property UITabBarItem item
+    required property bool selected
+    required property color tint
+
+    readonly property color shown: selected ? tint : Traits.unselectedTabColor
+
+    implicitHeight: item.title ? title.y + title.height + 3 : 0
+
+    Accessible.role: Accessible.PageTab
+    Accessible.name: item.accessibilityLabel || item.title
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Accessible.focusable: true
+    Accessible.ignored: !enabled
+    Accessible.onPressAction: triggered()
+
+    UIImagePicture {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: root.item.title ? 6 : (root.height - height) / 2
+        width: 25
+        height: 25
+        name: root.item.image.name
+        tint: root.shown
+    }
+    Text {
+        id: title
+        y: 33
+        width: parent.width
+        text: root.item.title
+        textFormat: Text.PlainText
+        font: Traits.tabTitleFont
+        color: root.shown
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.ignored: true
+    }
+    FocusRing {
+        anchors.margins: 3
+        anchors.leftMargin: 6
+        anchors.rightMargin: 6
+        shown: root.focusVisible
+    }
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// The bar of tabs, which stand in the middle where it is wide.
+Rectangle {
+    id: root
+
+    required property UITabBar control
+
+    implicitHeight: Math.max(Metrics.tabBar, tabs.implicitHeight)
+    color: Traits.barColor
+
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: control.accessibilityLabel
+    Accessible.ignored: !enabled
+
+    Row {
+        id: tabs
+        anchors.horizontalCenter: parent.horizontalCenter
+        height: parent.height
+
+        Repeater {
+            id: items
+            model: root.control.items
+
+            UITabBarItemView {
+                required property UITabBarItem modelData
+                required property int index
+
+                item: modelData
+                selected: index === root.control.selectedIndex
+                tint: root.control.tintColor.drawn(Traits.dark)
+                width: Math.min(Metrics.widestTab, root.width / items.count)
+                height: tabs.height
+                onTriggered: root.control.choose(index)
+                Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            }
+        }
+    }
+    Separator { anchors.top: parent.top }
+}

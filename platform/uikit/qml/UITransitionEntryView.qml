@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// One controller of a stack and its motion: a page comes from the side and moves what it covers
+/// a little away, a modal comes from below, an alert appears over a dimmed window.
+FocusScope {
+    id: root
+
+    required property UITransitionStack stack
+    required property bool page
+    /// How far what is above has come, from 0 to 1.
+    required property real covered
+
+    required property int index
+    required property UIViewController controller
+    required property int phase
+    required property bool animated
+    required property bool blocked
+    required property bool concealed
+    required property bool overlay
+
+    /// How far the controller has come: from 0, away, to 1, in place.
+    property real presence: 0
+    readonly property bool leaving: phase === UITransitionStack.Leaving
+    readonly property bool slides: !overlay && !Traits.reduceMotion
+    readonly property int fromSide: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1
+    readonly property bool drawable: animated && visible && content.status === Loader.Ready
+
+    // The end is always told from the animation, never while the stack is still changing.
+    function move() {
+        content.load()
+        if (phase === UITransitionStack.Settled) {
+            transition.stop()
+            presence = 1
+            return
+        }
+        transition.to = leaving ? 0 : 1
+        transition.duration = !drawable ? 1 : overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
+        transition.restart()
+    }
+
+    x: page && slides ? fromSide * width * (1 - presence - 0.3 * covered) : 0
+    y: !page && slides ? height * (1 - presence) : 0
+    visible: !concealed
+    focus: !blocked && !leaving
+    onPhaseChanged: move()
+    Component.onCompleted: move()
+
+    NumberAnimation {
+        id: transition
+        target: root
+        property: "presence"
+        easing.type: Easing.OutCubic
+        onFinished: root.stack.transitionEnded(root.controller)
+    }
+    Rectangle {
+        id: dimming
+        anchors.fill: parent
+        visible: root.overlay
+        color: "black"
+        opacity: root.presence * (Traits.dark ? 0.48 : 0.3)
+    }
+    MouseArea {
+        // What lies below an alert or moves away below a finger is not touched.
+        anchors.fill: parent
+        enabled: root.overlay || root.leaving
+        hoverEnabled: enabled
+        onWheel: wheel => wheel.accepted = true
+    }
+    UIControllerLoader {
+        id: content
+        anchors.fill: parent
+        controller: root.controller
+        wanted: !root.concealed
+        enabled: !root.blocked && !root.leaving
+        opacity: root.slides ? 1 : root.presence
+        scale: root.overlay && !root.leaving && !Traits.reduceMotion ? 1.1 - 0.1 * root.presence : 1
+    }
+    Rectangle {
+        anchors.fill: parent
+        visible: root.page && root.covered > 0
+        color: "black"
+        opacity: 0.1 * root.covered
+    }
+}

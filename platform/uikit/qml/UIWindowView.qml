@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// The whole window: its root controller and what is presented over it.
+FocusScope {
+    id: root
+
+    required property UIWindow control
+
+    focus: true
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: Traits.backgroundColor
+    }
+    UITransitionStackView {
+        anchors.fill: parent
+        focus: true
+        stack: root.control.presentation
+    }
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: Qt.quit()
+    }
+}
