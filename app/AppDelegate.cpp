@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+
+#include "app/QueryString.h"
+#include "app/WZTTabBarController.h"
+#include "platform/foundation/NSKeyedArchiver.h"
+#include "platform/foundation/NSKeyedUnarchiver.h"
+#include "platform/uikit/Make.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UITabBarItem.h"
+#include "platform/uikit/UIWindow.h"
+#include "screens/WZTLoginViewController.h"
+#include "screens/WZTRootViewController.h"
+#include "screens/WZTUserViewController.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto currentUserKey = "currentUser"_L1;
+
+/// A tab without a title: `name` is what a screen reader says.
+std::unique_ptr<UITabBarItem> tabBarItem(const QString &image, int tag, const QString &name)
+{
+    auto item = std::make_unique<UITabBarItem>(QString(), UIImage::imageNamed(image), tag);
+    item->setAccessibilityLabel(name);
+    return item;
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const QString &applicationId, const QString &folder)
+    : m_defaults(applicationId, folder)
+{
+    WZTSession::install(this);
+}
+
+AppDelegate::~AppDelegate() = default;
+
+bool AppDelegate::didFinishLaunchingWithOptions()
+{
+    m_window = std::make_unique<UIWindow>();
+    m_window->makeKeyAndVisible();
+    // Not through the setter: nothing is written back.
+    m_currentUser = restoredUser();
+    makeTabs();
+    m_window->setRootViewController(m_tabController);
+    if (!m_currentUser)
+        presentLogin(false);
+    return true;
+}
+
+void AppDelegate::makeTabs()
+{
+    m_tabController = make<WZTTabBarController>();
+    m_rootVC = make<WZTRootViewController>();
+    m_rootVC->setTabBarItem(tabBarItem(u"home"_s, 0, u"Home"_s));
+    m_userVC = make<WZTUserViewController>();
+    m_userVC->setTabBarItem(tabBarItem(u"user"_s, 1, u"Account"_s));
+    m_tabController->setViewControllers(
+        {make<UINavigationController>(m_rootVC), make<UINavigationController>(m_userVC)});
+}
+
+// Data that is no archive of a user stays where it is until the next sign-in replaces it.
+std::optional<WZTUser> AppDelegate::restoredUser() const
+{
+    const auto data = m_defaults.dataForKey(currentUserKey);
+    if (!data)
+        return std::nullopt;
+    const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(*data, WZTUser::className);
+    return coder ? std::optional(WZTUser::initWithCoder(*coder)) : std::nullopt;
+}
+
+bool AppDelegate::openURL(const QString &)
+{
+    return true;
+}
+
+void AppDelegate::setCurrentUser(const WZTUser &user)
+{
+    m_currentUser = user;
+    const auto data =
+        NSKeyedArchiver::archivedDataWithRootObject(*m_currentUser, WZTUser::className);
+    if (!data)
+        return;
+    // Where nothing can be written the user is signed in until the application ends.
+    (void)m_defaults.setObject(data, currentUserKey);
+    reloadTabs();
+}
+
+void AppDelegate::reloadTabs()
+{
+    for (const auto &tab : m_tabController->viewControllers()) {
+        const auto navigation = std::static_pointer_cast<UINavigationController>(tab);
+        const auto screen =
+            std::static_pointer_cast<UITableViewController>(navigation->viewControllers().front());
+        screen->tableView()->reloadData();
+    }
+}
+
+void AppDelegate::logout()
+{
+    m_currentUser = std::nullopt;
+    (void)m_defaults.removeObjectForKey(currentUserKey);
+    m_rootVC->tableView()->reloadData();
+    m_userVC->tableView()->reloadData();
+    m_tabController->setSelectedIndex(0);
+    presentLogin(true);
+}
+
+void AppDelegate::presentLogin(bool animated)
+{
+    m_tabController->presentViewController(make<WZTLoginViewController>(), animated);
+}
+
+QMap<QString, QString> AppDelegate::parseQueryString(const QString &query) const
+{
+    return QueryString::parse(query);
+}

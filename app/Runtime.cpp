@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "app/Runtime.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace {
+
+void destroyWhatWasLetGo()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+Runtime::Runtime(UIHost &host, const Settings &settings)
+    : m_application(host),
+      m_session(std::make_unique<NSURLSession>(settings.urlSession)),
+      m_delegate(std::make_unique<AppDelegate>(settings.applicationId, settings.defaultsFolder))
+{
+    NSURLSession::setSharedSession(m_session.get());
+    m_application.setDelegate(m_delegate.get());
+    host.observeAppearance(
+        [application = QPointer(&m_application)](const UIAppearance &appearance) {
+            if (application)
+                application->traits().setDesktopAppearance(appearance);
+        });
+}
+
+Runtime::~Runtime()
+{
+    finish();
+    m_application.setDelegate(nullptr);
+    m_delegate.reset();
+    // The screens that the delegate kept are to be gone before the application is.
+    destroyWhatWasLetGo();
+}
+
+void Runtime::finish()
+{
+    m_session.reset();
+    QCoreApplication::sendPostedEvents();
+    destroyWhatWasLetGo();
+}

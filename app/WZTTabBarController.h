@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UITabBarController.h"
+
+/// The root of the interface: tabs in the application's tint colour, felt when they are chosen.
+class WZTTabBarController : public UITabBarController {
+    Q_OBJECT
+
+public:
+    void viewDidLoad() override;
+    void didSelectItem(UITabBarItem *item) override;
+};

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/TestApp.h"
+
+#include "platform/foundation/NSKeyedArchiver.h"
+
+using namespace Qt::StringLiterals;
+
+TestApp::TestApp(const Options &options)
+{
+    sandbox::Sandbox::Options service;
+    service.hashMemory = 8192;
+    service.hashPasses = 1;
+    m_service = std::make_unique<sandbox::Sandbox>(service);
+    if (!m_service->isRunning())
+        qFatal("no service: %s", qPrintable(m_service->errorString()));
+
+    m_settings.applicationId = u"example.wzt.Companion.Test"_s;
+    m_settings.defaultsFolder = m_folder.path();
+    m_settings.urlSession.certificateAuthorityFile = m_service->caFile();
+    m_settings.urlSession.connectTo = u"127.0.0.1:%1"_s.arg(m_service->port());
+    m_settings.urlSession.timeoutIntervalForRequest = options.timeoutIntervalForRequest;
+}
+
+TestApp::~TestApp()
+{
+    quit();
+}
+
+void TestApp::launch()
+{
+    quit();
+    m_runtime = std::make_unique<Runtime>(m_host, m_settings);
+    m_runtime->delegate().didFinishLaunchingWithOptions();
+}
+
+void TestApp::quit()
+{
+    m_runtime.reset();
+}
+
+NSUserDefaults TestApp::defaults() const
+{
+    return NSUserDefaults(m_settings.applicationId, m_settings.defaultsFolder);
+}
+
+void TestApp::keepData(const QByteArray &data)
+{
+    if (!defaults().setObject(data, u"currentUser"_s))
+        qFatal("the user defaults cannot be written");
+}
+
+std::optional<QByteArray> TestApp::keptData() const
+{
+    return defaults().dataForKey(u"currentUser"_s);
+}
+
+QByteArray TestApp::archived(const WZTUser &user)
+{
+    return NSKeyedArchiver::archivedDataWithRootObject(user, WZTUser::className).value();
+}
