@@ -18,8 +18,8 @@ namespace sandbox {
 namespace {
 
 constexpr auto settings =
-    "PRAGMA journal_mode=WAL; PRAGMA foreign_keys=ON; PRAGMA busy_timeout=5000;"
-    "PRAGMA secure_delete=ON;";
+    "PRAGMA busy_timeout=5000; PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;"
+    "PRAGMA foreign_keys=ON;";
 
 // Each brings the tables from one version to the next; the file's user_version counts them.
 constexpr std::array migrations{

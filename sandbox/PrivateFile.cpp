@@ -35,17 +35,7 @@ bool writeAll(int file, const QByteArray &bytes)
         }
         written += size > 0 ? size : 0;
     }
-    return ::fsync(file) == 0;
-}
-
-void syncDirectory(const QString &path)
-{
-    const int directory =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (directory >= 0) {
-        ::fsync(directory);
-        ::close(directory);
-    }
+    return true;
 }
 
 } // namespace
@@ -77,7 +67,6 @@ QString writePrivateFile(const QString &path, const QByteArray &bytes)
         ::unlink(temporary.constData());
         return reason;
     }
-    syncDirectory(QFileInfo(path).absolutePath());
     return {};
 }
 

@@ -12,7 +12,8 @@ namespace sandbox {
 QString makePrivateDirectory(const QString &path);
 
 /// Writes a file that only its owner may read, whole or not at all: under a temporary name beside
-/// it first. Returns an empty text, or why it cannot.
+/// it first. What a power cut does to it is not looked after. Returns an empty text, or why it
+/// cannot.
 QString writePrivateFile(const QString &path, const QByteArray &bytes);
 
 } // namespace sandbox

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+/// What a client wants to send.
+struct Call {
+    QByteArray method = "GET";
+    /// Sent byte for byte.
+    QByteArray target = {};
+    QByteArray host = "localhost";
+    QList<QByteArray> headers = {};
+    QByteArray body = {};
+    bool followsRedirects = false;
+    long timeout = 20'000;
+};
+
+/// What came of it.
+struct Answer {
+    /// libcurl's code, 0 when a whole answer came.
+    int error = -1;
+    long status = 0;
+    QByteArray head = {};
+    /// The first mebibyte of it; what is more ends the transfer with an error.
+    QByteArray body = {};
+    qint64 milliseconds = 0;
+
+    [[nodiscard]] QJsonObject json() const;
+    [[nodiscard]] QString result() const;
+};
+
+/// An HTTPS client that trusts one authority, and keeps its connection from call to call.
+class Client {
+public:
+    Client(quint16 port, const QString &caFile);
+
+    Answer send(const Call &call);
+    Answer get(const QByteArray &target) { return send({.target = target}); }
+    Answer post(const QByteArray &target) { return send({.method = "POST", .target = target}); }
+
+private:
+    quint16 m_port;
+    QByteArray m_caFile;
+    std::unique_ptr<void, void (*)(void *)> m_handle;
+};
