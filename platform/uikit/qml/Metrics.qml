@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+pragma Singleton
+
+import QtQuick
+
+/// Lengths that everything drawn shares, in points.
+QtObject {
+    /// One device pixel.
+    // qmllint disable missing-property
+    readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio
+    // qmllint enable missing-property
+
+    readonly property real margin: 16
+    readonly property real row: 44
+    readonly property real rowImage: 29
+    /// Above and below a section; twice that above the first one.
+    readonly property real sectionSpace: 18
+    readonly property real navigationBar: 44
+    readonly property real tabBar: 49
+    readonly property real widestTab: 160
+
+    readonly property real alertWidth: 270
+    readonly property real alertRadius: 14
+    readonly property real fieldRadius: 5
+    readonly property real fieldInset: 7
+
+    /// How much of a control is left to see while a finger is on it.
+    readonly property real highlightedOpacity: 0.3
+    readonly property real focusRing: 2
+}

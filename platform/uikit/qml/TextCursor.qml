@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// The insertion mark of a field: blinks at the desktop's pace, and stands still at each move.
+Rectangle {
+    id: root
+
+    width: 2
+    radius: 1
+    color: Traits.accentColor
+    opacity: blink.lit ? 1 : 0
+
+    Timer {
+        property bool lit: true
+
+        id: blink
+        // qmllint disable missing-property
+        interval: Qt.styleHints.cursorFlashTime / 2
+        // qmllint enable missing-property
+        repeat: true
+        running: root.visible && interval > 0
+        onTriggered: lit = !lit
+        onRunningChanged: lit = true
+    }
+    onXChanged: {
+        blink.lit = true
+        if (blink.running)
+            blink.restart()
+    }
+}

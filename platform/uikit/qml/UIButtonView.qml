@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// A plain button: a title that dims while a finger is on it.
+UIControlArea {
+    id: root
+
+    required property UIButton control
+
+    implicitWidth: title.implicitWidth
+    implicitHeight: title.implicitHeight + 12
+    receiver: control
+
+    Accessible.role: Accessible.Button
+    Accessible.name: control.accessibilityLabel
+    Accessible.pressed: control.highlighted
+    Accessible.focusable: true
+    Accessible.ignored: !enabled
+    Accessible.onPressAction: control.activate()
+
+    Text {
+        id: title
+        anchors.fill: parent
+        text: root.control.title
+        textFormat: Text.PlainText
+        font: root.control.titleFont.drawn(Traits.textScale)
+        color: root.control.titleColor.drawn(Traits.dark)
+        opacity: root.control.highlighted ? Metrics.highlightedOpacity : 1
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+
+        Behavior on opacity {
+            enabled: !root.control.highlighted && !Traits.reduceMotion
+            NumberAnimation { duration: 250 }
+        }
+    }
+    FocusRing { shown: root.focusVisible }
+}

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/qml/UIControlArea.h"
+
+#include "platform/uikit/qml/HitTest.h"
+
+#include <QQuickWindow>
+
+namespace {
+constexpr double smallestTarget = 44;
+}
+
+UIControlArea::UIControlArea(QQuickItem *parent) : QQuickItem(parent)
+{
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setAcceptTouchEvents(true);
+    setActiveFocusOnTab(true);
+}
+
+UIControlArea::~UIControlArea()
+{
+    cancel();
+}
+
+void UIControlArea::setReceiver(UIControl *receiver)
+{
+    if (m_receiver == receiver)
+        return;
+    cancel();
+    m_receiver = receiver;
+    Q_EMIT receiverChanged();
+}
+
+QRectF UIControlArea::reach() const
+{
+    const double across = qMax(0.0, (smallestTarget - width()) / 2);
+    const double along = qMax(0.0, (smallestTarget - height()) / 2);
+    return boundingRect().adjusted(-across, -along, across, along);
+}
+
+bool UIControlArea::contains(const QPointF &point) const
+{
+    if (boundingRect().contains(point))
+        return true;
+    if (!window() || !reach().contains(point))
+        return false;
+    const QQuickItem *other = HitTest::itemAt(window()->contentItem(), mapToScene(point));
+    return !other || other->isAncestorOf(this);
+}
+
+void UIControlArea::begin()
+{
+    setFocusByKey(false);
+    if (m_receiver)
+        m_receiver->beginTracking();
+}
+
+void UIControlArea::move(const QPointF &point)
+{
+    if (m_receiver)
+        m_receiver->continueTracking(reach().contains(point));
+}
+
+void UIControlArea::end(const QPointF &point)
+{
+    m_touch = -1;
+    if (m_receiver)
+        m_receiver->endTracking(reach().contains(point));
+}
+
+void UIControlArea::cancel()
+{
+    m_touch = -1;
+    if (m_receiver)
+        m_receiver->cancelTracking();
+}
+
+void UIControlArea::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    begin();
+}
+
+void UIControlArea::mouseMoveEvent(QMouseEvent *event)
+{
+    move(event->position());
+}
+
+void UIControlArea::mouseReleaseEvent(QMouseEvent *event)
+{
+    end(event->position());
+}
+
+void UIControlArea::mouseUngrabEvent()
+{
+    cancel();
+}
+
+void UIControlArea::touchEvent(QTouchEvent *event)
+{
+    if (event->type() == QEvent::TouchCancel) {
+        cancel();
+        return;
+    }
+    event->accept();
+    const QList<QEventPoint> points = event->points();
+    for (const QEventPoint &point : points) {
+        if (m_touch < 0 && point.state() == QEventPoint::Pressed) {
+            m_touch = point.id();
+            begin();
+        } else if (point.id() == m_touch && point.state() == QEventPoint::Updated) {
+            move(point.position());
+        } else if (point.id() == m_touch && point.state() == QEventPoint::Released) {
+            end(point.position());
+        }
+    }
+}
+
+void UIControlArea::touchUngrabEvent()
+{
+    cancel();
+}
+
+void UIControlArea::keyPressEvent(QKeyEvent *event)
+{
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
+        || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Select;
+    event->setAccepted(presses);
+    if (presses && !event->isAutoRepeat() && m_receiver)
+        m_receiver->activate();
+}
+
+void UIControlArea::focusInEvent(QFocusEvent *event)
+{
+    QQuickItem::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    // For other reasons, such as an alert's end, it stays as it was.
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+        || reason == Qt::ShortcutFocusReason)
+        m_focusByKey = true;
+    Q_EMIT focusVisibleChanged();
+}
+
+void UIControlArea::focusOutEvent(QFocusEvent *event)
+{
+    QQuickItem::focusOutEvent(event);
+    Q_EMIT focusVisibleChanged();
+}
+
+void UIControlArea::setFocusByKey(bool byKey)
+{
+    m_focusByKey = byKey;
+    Q_EMIT focusVisibleChanged();
+}

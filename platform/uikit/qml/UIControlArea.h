@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UIControl.h"
+
+#include <QPointer>
+#include <QQuickItem>
+
+/// Where a control is touched, with a finger or with the mouse, or pressed with the keyboard. It
+/// reaches beyond its rectangle to at least 44 x 44 points, save where something else lies.
+class UIControlArea : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged)
+    /// Whether to show that the control has the keyboard: only after it came by key.
+    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
+
+public:
+    explicit UIControlArea(QQuickItem *parent = nullptr);
+    ~UIControlArea() override;
+
+    [[nodiscard]] UIControl *receiver() const { return m_receiver; }
+    void setReceiver(UIControl *receiver);
+    [[nodiscard]] bool isFocusVisible() const { return m_focusByKey && hasActiveFocus(); }
+
+    /// Whether a press at `point` is the control's.
+    [[nodiscard]] bool contains(const QPointF &point) const override;
+
+Q_SIGNALS:
+    void receiverChanged();
+    void focusVisibleChanged();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseUngrabEvent() override;
+    void touchEvent(QTouchEvent *event) override;
+    void touchUngrabEvent() override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    [[nodiscard]] QRectF reach() const;
+    void begin();
+    void move(const QPointF &point);
+    void end(const QPointF &point);
+    void cancel();
+    void setFocusByKey(bool byKey);
+
+    QPointer<UIControl> m_receiver;
+    int m_touch = -1;
+    bool m_focusByKey = false;
+};

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// A view's background, border and taps; what it holds is put inside:
+///
+///     UIViewView { control: root.controller.view; anchors.fill: parent; UILabelView { ... } }
+Rectangle {
+    id: root
+
+    required property UIView control
+
+    color: control.backgroundColor.drawn(Traits.dark)
+    radius: control.layer.cornerRadius
+    border.width: control.layer.borderWidth
+    border.color: control.layer.borderColor.drawn(Traits.dark)
+    clip: control.layer.masksToBounds
+
+    UITapArea {
+        id: taps
+        anchors.fill: parent
+        receiver: root.control
+    }
+    TapHandler {
+        enabled: root.control.recognizesTaps
+        onTapped: eventPoint => taps.tap(eventPoint.position)
+    }
+}
