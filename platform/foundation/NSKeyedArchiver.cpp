@@ -5,6 +5,7 @@
 #include "platform/foundation/PropertyList.h"
 
 #include <algorithm>
+#include <deque>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -101,7 +102,8 @@ private:
         m_objects[index].insert(u"$class"_s, PropertyList::uid(known->second));
     }
 
-    std::vector<PropertyList> m_objects;
+    /// A deque: objects stay where they are while others are added.
+    std::deque<PropertyList> m_objects;
     std::vector<std::pair<NSCoder::Value, quint64>> m_known;
     std::vector<std::pair<QString, quint64>> m_classes;
 };

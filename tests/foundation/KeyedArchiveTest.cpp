@@ -1,0 +1,358 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSKeyedArchiver.h"
+#include "platform/foundation/NSKeyedUnarchiver.h"
+#include "platform/foundation/PropertyList.h"
+#include "tests/support/TestRunner.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto recordClass = "Record"_L1;
+
+struct Record {
+    int number = 0;
+    QString name;
+    std::optional<QString> alias;
+    std::optional<NSDate> date;
+    bool flag = false;
+
+    bool operator==(const Record &) const = default;
+
+    void encodeWithCoder(NSCoder &coder) const
+    {
+        coder.encodeObject(number, u"number"_s);
+        coder.encodeObject(name, u"name"_s);
+        coder.encodeObject(alias, u"alias"_s);
+        coder.encodeObject(date, u"date"_s);
+        coder.encodeBool(flag, u"flag"_s);
+    }
+};
+
+std::optional<QByteArray> archived(const Record &record)
+{
+    return NSKeyedArchiver::archivedDataWithRootObject(record, recordClass);
+}
+
+std::optional<Record> unarchived(const QByteArray &data)
+{
+    const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(data, recordClass);
+    if (!coder) {
+        return std::nullopt;
+    }
+    return Record{coder->decodeIntForKey(u"number"_s),
+                  coder->decodeStringForKey(u"name"_s).value_or(u"nil"_s),
+                  coder->decodeStringForKey(u"alias"_s), coder->decodeDateForKey(u"date"_s),
+                  coder->decodeBoolForKey(u"flag"_s)};
+}
+
+/// Made by another writer: shared objects, a class before its objects, a mutable string.
+const QByteArray foreignArchive = QByteArray::fromBase64(
+    "YnBsaXN0MDDUAQIDBAUGBwpYJHZlcnNpb25ZJGFyY2hpdmVyVCR0b3BYJG9iamVjdHMSAAGGoF8QD05T"
+    "S2V5ZWRBcmNoaXZlctEICVRyb290gASpCwwSFRoqKywwVSRudWxs0g0ODxBaJGNsYXNzbmFtZVgkY2xh"
+    "c3Nlc1ZOU0RhdGWiDxFYTlNPYmplY3TSDQ4TFFZSZWNvcmSiExHSFhcYGVYkY2xhc3NXTlMudGltZYAB"
+    "I0HBgi1SwAAA2BYbHB0eHyAhIiMkJSYnKClWbnVtYmVyVG5hbWVVYWxpYXNUbWFpbFRub25lVGRhdGVU"
+    "ZmxhZ4ACgAWABoAGgAeAAIADCRAqZgBKAPwAcgBnAGUAbtItFi4vWU5TLnN0cmluZ15qb0B3enQuZXhh"
+    "bXBsZYAI0g0OMTJfEA9OU011dGFibGVTdHJpbmejMTMRWE5TU3RyaW5nAAgAEQAaACQAKQAyADcASQBM"
+    "AFEAUwBdAGMAaABzAHwAgwCGAI8AlACbAJ4AowCqALIAtAC9AM4A1QDaAOAA5QDqAO8A9AD2APgA+gD8"
+    "AP4BAAECAQMBBQESARcBIQEwATIBNwFJAU0AAAAAAAACAQAAAAAAAAA0AAAAAAAAAAAAAAAAAAABVg==");
+
+/// An archive in XML around these objects; `@n` stands for the UID n.
+QByteArray xmlArchive(QByteArray objects, const QByteArray &root = "@1",
+                      const QByteArray &header = "<key>$version</key><integer>100000</integer>"
+                                                 "<key>$archiver</key><string>Keyed</string>")
+{
+    objects = "<plist version=\"1.0\"><dict>" + header + "<key>$top</key><dict><key>root</key>"
+        + root + "</dict><key>$objects</key><array><string>$null</string>" + objects
+        + "</array></dict></plist>";
+    for (int uid = 9; uid >= 0; --uid) {
+        const QByteArray number = QByteArray::number(uid);
+        const QByteArray full = "<dict><key>CF$UID</key><integer>" + number + "</integer></dict>";
+        objects.replace(QByteArray("@" + number), full);
+    }
+    return objects;
+}
+
+const QByteArray recordDescription = "<dict><key>$classname</key><string>Record</string></dict>";
+
+/// A record of one value, which may refer to the objects from @3 on.
+QByteArray archiveOf(const QByteArray &key, const QByteArray &value, const QByteArray &more = {})
+{
+    return xmlArchive("<dict><key>$class</key>@2<key>" + key + "</key>" + value + "</dict>"
+                      + recordDescription + more);
+}
+
+/// A binary property list of these objects, references and offsets of four bytes.
+QByteArray binary(const QByteArrayList &objects, quint64 count)
+{
+    QByteArray data = "bplist00";
+    QByteArray offsets;
+    const auto append = [](QByteArray &to, quint64 number, int size) {
+        for (int shift = 8 * size - 8; shift >= 0; shift -= 8) {
+            to.append(char(number >> shift));
+        }
+    };
+    for (const QByteArray &object : objects) {
+        append(offsets, quint64(data.size()), 4);
+        data += object;
+    }
+    const auto table = quint64(data.size());
+    data += offsets + QByteArray(6, '\0') + "\4\4";
+    append(data, count, 8);
+    append(data, 0, 8);
+    append(data, table, 8);
+    return data;
+}
+
+QByteArray reference(int index)
+{
+    return QByteArray("\0\0", 2) + char(index >> 8) + char(index);
+}
+
+} // namespace
+
+class KeyedArchiveTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void roundTrip_data()
+    {
+        QTest::addColumn<Record>("record");
+        QTest::newRow("full") << Record{17, u"Jürgen 😀"_s, u"jo"_s, NSDate{587487909.25}, true};
+        QTest::newRow("nil") << Record{0, u""_s, std::nullopt, std::nullopt, false};
+        QTest::newRow("extremes") << Record{INT_MIN, u"1"_s, u""_s, NSDate{-63114076800}, true};
+        QTest::newRow("confusable") << Record{INT_MAX, u"$null"_s, u"true"_s, NSDate{0}, false};
+        QTest::newRow("markup") << Record{-1, u"$class<&>\n\t\x1f"_s, u"$null"_s, NSDate{1}, true};
+        QTest::newRow("long") << Record{70000, QString(100000, u'ä'), QString(20, u'a'),
+                                        NSDate{1e9 + 1e-3}, false};
+    }
+
+    void roundTrip()
+    {
+        QFETCH(Record, record);
+        const auto data = archived(record);
+        QVERIFY(data);
+        const auto copy = unarchived(*data);
+        QVERIFY(copy);
+        QCOMPARE(*copy, record);
+    }
+
+    /// The layout that other readers of the format count on.
+    void layout()
+    {
+        const auto data = archived({7, u"same"_s, u"same"_s, NSDate{0.5}, true});
+        QVERIFY(data && data->startsWith("bplist00"));
+        const auto list = PropertyList::fromData(*data);
+        QVERIFY(list);
+        QCOMPARE(list->keys().size(), 4);
+        QCOMPARE(list->item(u"$version"_s).integer(), 100000);
+        QCOMPARE(list->item(u"$archiver"_s).string(), u"NSKeyedArchiver"_s);
+        const PropertyListNode objects = list->item(u"$objects"_s);
+        QCOMPARE(objects.at(0).string(), u"$null"_s);
+        const auto object = [&](const PropertyListNode &node) {
+            return objects.at(node.uid().value_or(99));
+        };
+        const PropertyListNode root = object(list->item(u"$top"_s).item(u"root"_s));
+        QCOMPARE(root.item(u"flag"_s).boolean(), true);
+        QCOMPARE(object(root.item(u"number"_s)).integer(), 7);
+        QCOMPARE(object(root.item(u"name"_s)).string(), u"same"_s);
+        QCOMPARE(root.item(u"alias"_s).uid(), root.item(u"name"_s).uid());
+        const PropertyListNode date = object(root.item(u"date"_s));
+        QCOMPARE(date.item(u"NS.time"_s).real(), 0.5);
+        const std::pair<PropertyListNode, QString> classes[] = {{root, recordClass},
+                                                                {date, u"NSDate"_s}};
+        for (const auto &[node, name] : classes) {
+            const PropertyListNode description = object(node.item(u"$class"_s));
+            QCOMPARE(description.item(u"$classname"_s).string(), name);
+            QCOMPARE(description.item(u"$classes"_s).at(0).string(), name);
+            QCOMPARE(description.item(u"$classes"_s).at(1).string(), u"NSObject"_s);
+        }
+    }
+
+    void textThatCannotBeStored()
+    {
+        QVERIFY(!archived({1, u"a\0b"_s, {}, {}, false}));
+        QVERIFY(!archived({1, u"a"_s, QString(QChar(0xdc00)), {}, false}));
+    }
+
+    void readsWhatOthersWrite()
+    {
+        const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(foreignArchive, recordClass);
+        QVERIFY(coder);
+        QCOMPARE(coder->decodeStringForKey(u"mail"_s), u"jo@wzt.example"_s);
+        QVERIFY(coder->containsValueForKey(u"none"_s));
+        QVERIFY(!coder->decodeStringForKey(u"none"_s) && !coder->containsValueForKey(u"other"_s));
+        const Record expected{42, u"Jürgen"_s, u"Jürgen"_s, NSDate{587487909.5}, true};
+        QCOMPARE(unarchived(foreignArchive), expected);
+        QVERIFY(!NSKeyedUnarchiver::unarchiveObjectWithData(foreignArchive, u"NSDate"_s));
+    }
+
+    void readsValues_data()
+    {
+        QTest::addColumn<QByteArray>("archive");
+        QTest::addColumn<Record>("record");
+        const Record nothing{0, u"nil"_s, {}, {}, false};
+        const auto number = [&](int n) { return Record{n, u"nil"_s, {}, {}, false}; };
+        const auto name = [&](const QString &text) { return Record{0, text, {}, {}, false}; };
+        const auto date = [&](double time) { return Record{0, u"nil"_s, {}, NSDate{time}, false}; };
+        const auto object = [](const char *className, const char *values) {
+            return QByteArray("<dict><key>$class</key>@4") + values
+                + "</dict><dict><key>$classname</key><string>" + className + "</string></dict>";
+        };
+        const struct {
+            const char *name;
+            QByteArray archive;
+            Record record;
+        } rows[] = {
+            {"no values", archiveOf("other", "<true/>"), nothing},
+            {"text for a number", archiveOf("number", "@3", "<string> 12abc</string>"), number(12)},
+            {"real for a number", archiveOf("number", "@3", "<real>-2.9</real>"), number(-2)},
+            {"large number", archiveOf("number", "@3", "<integer>4294967297</integer>"),
+             number(INT_MAX)},
+            {"number in place", archiveOf("number", "<integer>-5</integer>"), number(-5)},
+            {"number object",
+             archiveOf("number", "@3",
+                       object("NSNumber",
+                              "<key>NS.intval</key><integer>8"
+                              "</integer>")),
+             number(8)},
+            {"number for a text", archiveOf("name", "@3", "<integer>17</integer>"), name(u"17"_s)},
+            {"boolean for a text", archiveOf("name", "@3", "<true/>"), nothing},
+            {"list for a text", archiveOf("name", "@3", "<array/>"), nothing},
+            {"text in place", archiveOf("name", "<string>Jo</string>"), name(u"Jo"_s)},
+            {"bytes of a text",
+             archiveOf("name", "@3", object("NSString", "<key>NS.bytes</key><data>w6Q=</data>")),
+             name(u"ä"_s)},
+            {"null object", archiveOf("name", "@3", object("NSNull", "")), nothing},
+            {"another object",
+             archiveOf("name", "@3",
+                       object("NSURL",
+                              "<key>NS.string</key>"
+                              "<string>x</string>")),
+             nothing},
+            {"plain date", archiveOf("date", "<date>2001-01-01T00:00:10Z</date>"), date(10)},
+            {"plain date as an object",
+             archiveOf("date", "@3", "<date>2001-01-01T00:01:00Z</date>"), date(60)},
+            {"whole seconds",
+             archiveOf("date", "@3", object("NSDate", "<key>NS.time</key><integer>-3</integer>")),
+             date(-3)},
+            {"date without time", archiveOf("date", "@3", object("NSDate", "")), nothing},
+            {"boolean as an object",
+             archiveOf("flag", "@3", "<true/>"),
+             {0, u"nil"_s, {}, {}, true}},
+            {"number for a boolean",
+             archiveOf("flag", "<integer>2</integer>"),
+             {0, u"nil"_s, {}, {}, true}},
+            {"itself", archiveOf("name", "@1"), nothing},
+            {"a reference to a reference", archiveOf("name", "@3", "@4<string>x</string>"),
+             nothing},
+            {"derived class",
+             xmlArchive("<dict><key>$class</key>@2</dict><dict><key>$classname</key>"
+                        "<string>Derived</string><key>$classes</key><array><string>Derived</string>"
+                        "<string>Record</string></array></dict>"),
+             nothing},
+        };
+        for (const auto &row : rows) {
+            QTest::newRow(row.name) << row.archive << row.record;
+        }
+    }
+
+    void readsValues()
+    {
+        QFETCH(QByteArray, archive);
+        QFETCH(Record, record);
+        QCOMPARE(unarchived(archive), record);
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        const QByteArray root = "<dict><key>$class</key>@2</dict>" + recordDescription;
+        const QByteArray version = "<key>$version</key><integer>100000</integer>";
+        const QByteArray archiver = "<key>$archiver</key><string>Keyed</string>";
+        QVERIFY(unarchived(xmlArchive(root)));
+        const std::pair<const char *, QByteArray> rows[] = {
+            {"nothing", ""},
+            {"text", "hello"},
+            {"JSON", R"({"$version":100000})"},
+            {"a list", "<plist version=\"1.0\"><array/></plist>"},
+            {"no version", xmlArchive(root, "@1", archiver)},
+            {"text as version",
+             xmlArchive(root, "@1", archiver + "<key>$version</key><string>100000</string>")},
+            {"another version",
+             xmlArchive(root, "@1", archiver + "<key>$version</key><integer>1</integer>")},
+            {"no archiver", xmlArchive(root, "@1", version)},
+            {"number as archiver",
+             xmlArchive(root, "@1", version + "<key>$archiver</key><integer>1</integer>")},
+            {"nil root", xmlArchive(root, "@0")},
+            {"root in place", xmlArchive(root, "<string>x</string>")},
+            {"root out of range", xmlArchive(root, "@9")},
+            {"root below range",
+             xmlArchive(root,
+                        "<dict><key>CF$UID</key><integer>-1</integer>"
+                        "</dict>")},
+            {"root of another type", xmlArchive("<string>x</string>")},
+            {"class out of range", xmlArchive("<dict><key>$class</key>@7</dict>")},
+            {"class is itself", xmlArchive("<dict><key>$class</key>@1</dict>")},
+            {"class as text", xmlArchive("<dict><key>$class</key><string>Record</string></dict>")},
+            {"value out of range", archiveOf("name", "@8")},
+            {"nested too deep",
+             "<plist version=\"1.0\">" + QByteArray("<array>").repeated(100000)
+                 + QByteArray("</array>").repeated(100000) + "</plist>"},
+            {"unclosed", "<plist version=\"1.0\">" + QByteArray("<array>").repeated(100000)},
+            {"huge count of objects", binary({"\x09"}, ~0ULL)},
+            {"huge count of items",
+             binary({QByteArray("\xaf\x13\xff\xff\xff\xff\xff\xff\xff\xff")}, 1)},
+            {"huge length of text",
+             binary({QByteArray("\x5f\x13\x7f\xff\xff\xff\xff\xff\xff\xff")}, 1)},
+            {"contains itself", binary({"\xa1" + reference(0)}, 1)},
+            {"refers to nothing", binary({"\xa1" + reference(7)}, 1)},
+        };
+        for (const auto &[name, data] : rows) {
+            QTest::newRow(name) << data;
+        }
+        QByteArrayList chain;
+        QByteArrayList bomb; // each list holds the next one ten times
+        for (int i = 1; i <= 1000; ++i) {
+            chain.append("\xa1" + reference(i));
+            bomb.append("\xaa" + reference(std::min(i, 9)).repeated(10));
+        }
+        QTest::newRow("a long chain") << binary(chain << "\x09", 1001);
+        QTest::newRow("a bomb of references") << binary(bomb.mid(0, 9) << "\x09", 10);
+    }
+
+    void refuses()
+    {
+        QFETCH(QByteArray, data);
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!unarchived(data));
+        QVERIFY(time.elapsed() < 2000);
+    }
+
+    /// Whatever happens to the bytes of an archive, it is read as something or refused.
+    void damagedAtEveryByte()
+    {
+        const QByteArray xml = archiveOf("date", "<date>2001-01-01T00:00:10Z</date>");
+        for (const QByteArray &whole : {foreignArchive, xml}) {
+            for (qsizetype length = 0; length < whole.trimmed().size(); ++length) {
+                QVERIFY(!unarchived(whole.left(length)));
+            }
+            for (qsizetype place = 0; place < whole.size(); ++place) {
+                for (const int byte :
+                     {0x00, 0x7f, 0xff, whole[place] ^ 0x01, whole[place] ^ 0x10}) {
+                    QByteArray damaged = whole;
+                    damaged[place] = char(byte);
+                    (void)unarchived(damaged);
+                }
+            }
+        }
+    }
+};
+
+WZT_TEST(KeyedArchiveTest)
+#include "KeyedArchiveTest.moc"

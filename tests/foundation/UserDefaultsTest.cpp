@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/PropertyList.h"
+#include "tests/support/TestRunner.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString id = u"example.wzt.Test"_s;
+const QString userKey = u"currentUser"_s;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+uint modeOf(const QString &path)
+{
+    struct stat status { };
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+/// Writes large values, each of one repeated byte, until it is killed.
+[[noreturn]] void writeForEver(NSUserDefaults defaults)
+{
+    for (char byte = 0;; ++byte) {
+        if (!defaults.setObject(QByteArray(100000, byte), userKey)) {
+            _exit(1);
+        }
+    }
+}
+
+} // namespace
+
+class UserDefaultsTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::optional<QTemporaryDir> m_home;
+    QString m_folder;
+    QString m_file;
+
+    [[nodiscard]] NSUserDefaults defaults() const { return NSUserDefaults(id, m_home->path()); }
+    [[nodiscard]] QStringList entries() const
+    {
+        return QDir(m_folder).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home.emplace();
+        m_folder = m_home->filePath(id);
+        m_file = m_folder + u'/' + id + u".plist"_s;
+    }
+
+    void keepsData()
+    {
+        QVERIFY(!defaults().dataForKey(userKey));
+        QVERIFY(!QFile::exists(m_folder));
+        QVERIFY(defaults().removeObjectForKey(userKey));
+
+        const QByteArray bytes("\0a\xff", 3);
+        QVERIFY(defaults().setObject(bytes, userKey));
+        QVERIFY(defaults().setObject(QByteArray(), u"empty"_s));
+        QCOMPARE(defaults().dataForKey(userKey), bytes);
+        QCOMPARE(defaults().dataForKey(u"empty"_s), QByteArray());
+        QVERIFY(defaults().setObject(QByteArray("new"), userKey));
+        QCOMPARE(defaults().dataForKey(userKey), QByteArray("new"));
+        QVERIFY(contentOf(m_file).startsWith("bplist00"));
+
+        QVERIFY(defaults().removeObjectForKey(userKey));
+        QVERIFY(!defaults().dataForKey(userKey) && defaults().dataForKey(u"empty"_s));
+        QCOMPARE(entries(), QStringList{id + u".plist"_s});
+    }
+
+    void isForTheUserAlone()
+    {
+        const mode_t mask = umask(0);
+        QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+        QCOMPARE(modeOf(m_folder), 0700U);
+        QCOMPARE(modeOf(m_file), 0600U);
+        chmod(QFile::encodeName(m_folder).constData(), 0777);
+        chmod(QFile::encodeName(m_file).constData(), 0666);
+        umask(0277);
+        QVERIFY(defaults().setObject(QByteArray("b"), userKey));
+        umask(mask);
+        QCOMPARE(modeOf(m_folder), 0700U);
+        QCOMPARE(modeOf(m_file), 0600U);
+    }
+
+    void defaultFolderIsTheConfigurationFolder()
+    {
+        const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home->filePath(u"a/b"_s)));
+        const bool stored = NSUserDefaults(id).setObject(QByteArray("x"), userKey);
+        before.isEmpty() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+        QVERIFY(stored);
+        QVERIFY(QFile::exists(m_home->filePath(u"a/b/"_s + id + u'/' + id + u".plist"_s)));
+    }
+
+    void keepsWhatItDoesNotKnow()
+    {
+        QDir().mkpath(m_folder);
+        writeFile(
+            m_file,
+            "<plist version=\"1.0\"><dict><key>i</key><integer>-5</integer>"
+            "<key>big</key><integer>18446744073709551615</integer><key>r</key><real>1.5</real>"
+            "<key>s</key><string>ä😀</string><key>t</key><true/><key>d</key>"
+            "<date>4001-01-01T00:00:00Z</date><key>currentUser</key><integer>3</integer>"
+            "<key>l</key><array><dict><key>k</key><data>AAE=</data></dict></array>"
+            "</dict></plist>");
+        const auto before = PropertyList::fromData(contentOf(m_file));
+        QVERIFY(before && !defaults().dataForKey(userKey));
+        QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+        const auto after = PropertyList::fromData(contentOf(m_file));
+        QVERIFY(after);
+        QCOMPARE(after->keys().size(), 8);
+        QCOMPARE(after->item(u"i"_s).integer(), -5);
+        QCOMPARE(after->item(u"big"_s).integer(), before->item(u"big"_s).integer());
+        QCOMPARE(after->item(u"r"_s).real(), 1.5);
+        QCOMPARE(after->item(u"s"_s).string(), u"ä😀"_s);
+        QCOMPARE(after->item(u"t"_s).boolean(), true);
+        QCOMPARE(after->item(u"d"_s).date(), before->item(u"d"_s).date());
+        QCOMPARE(after->item(u"l"_s).at(0).item(u"k"_s).data(), QByteArray("\0\1", 2));
+        QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+    }
+
+    void damagedFile_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("text") << QByteArray("hello");
+        QTest::newRow("zeros") << QByteArray(4096, '\0');
+        QTest::newRow("cut") << QByteArray("bplist00\xd1\1");
+        QTest::newRow("a list") << QByteArray("<plist version=\"1.0\"><array/></plist>");
+        QTest::newRow("a folder") << QByteArray("folder");
+        QTest::newRow("a pipe") << QByteArray("pipe");
+        QTest::newRow("too long") << QByteArray(17 * 1024 * 1024, ' ');
+    }
+
+    /// Twice, first found by reading, then by writing.
+    void damagedFile()
+    {
+        QFETCH(QByteArray, content);
+        const QByteArray path = QFile::encodeName(m_file);
+        for (int round = 1; round <= 2; ++round) {
+            QDir().mkpath(m_folder);
+            QFile::remove(m_file);
+            if (content == "folder") {
+                QCOMPARE(mkdir(path.constData(), 0700), 0);
+            } else if (content == "pipe") {
+                QCOMPARE(mkfifo(path.constData(), 0600), 0);
+            } else {
+                writeFile(m_file, content);
+            }
+            QElapsedTimer time;
+            time.start();
+            QVERIFY(round == 2 || !defaults().dataForKey(userKey));
+            QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+            QVERIFY(time.elapsed() < 2000);
+            QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+            const QStringList aside =
+                QDir(m_folder).entryList({id + u".plist.damaged-*"_s}, QDir::Dirs);
+            QCOMPARE(aside.size(), round);
+            for (const QString &name : aside) {
+                const QString kept = m_folder + u'/' + name + u'/' + id + u".plist"_s;
+                QVERIFY(QDir(m_folder + u'/' + name)
+                            .entryList(QDir::AllEntries | QDir::System)
+                            .contains(id + u".plist"_s));
+                QVERIFY(modeOf(m_folder + u'/' + name) == 0700U);
+                QVERIFY(content == "folder" || content == "pipe" || contentOf(kept) == content);
+            }
+        }
+    }
+
+    void failsWithoutHarm()
+    {
+        writeFile(m_folder, "in the way");
+        QVERIFY(!defaults().setObject(QByteArray("a"), userKey));
+        QVERIFY(!defaults().dataForKey(userKey));
+        QCOMPARE(contentOf(m_folder), QByteArray("in the way"));
+        QVERIFY(QFile::remove(m_folder));
+
+        QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+        const QByteArray folder = QFile::encodeName(m_folder);
+        const FileDescriptor other(open(folder.constData(), O_RDONLY | O_DIRECTORY));
+        QCOMPARE(flock(other.get(), LOCK_EX), 0);
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
+        QVERIFY(time.elapsed() < 5000);
+        QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+    }
+
+    void killedWriterTearsNothing()
+    {
+        QVERIFY(defaults().setObject(QByteArray("kept"), u"other"_s));
+        QVERIFY(defaults().setObject(QByteArray(100000, 'x'), userKey));
+        for (int kill = 0; kill < 40; ++kill) {
+            const pid_t writer = fork();
+            if (writer == 0) {
+                writeForEver(defaults());
+            }
+            usleep(useconds_t(500 + 397 * kill));
+            ::kill(writer, SIGKILL);
+            int status = 0;
+            QCOMPARE(waitpid(writer, &status, 0), writer);
+            QVERIFY(WIFSIGNALED(status));
+
+            const QByteArray value = defaults().dataForKey(userKey).value_or(QByteArray());
+            QCOMPARE(value, QByteArray(100000, value.at(0)));
+            QCOMPARE(defaults().dataForKey(u"other"_s), QByteArray("kept"));
+            QVERIFY(entries().size() <= 2);
+            QCOMPARE(modeOf(m_file), 0600U);
+        }
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(defaults().setObject(QByteArray("end"), userKey));
+        QVERIFY(time.elapsed() < 1000);
+        QCOMPARE(entries(), QStringList{id + u".plist"_s});
+    }
+};
+
+WZT_TEST(UserDefaultsTest)
+#include "UserDefaultsTest.moc"
