@@ -8,6 +8,8 @@ UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reus
     : m_style(style), m_reuseIdentifier(reuseIdentifier)
 {
     setBackgroundColor(UIColor::secondarySystemGroupedBackgroundColor());
+    // The label names the row.
+    connect(&m_textLabel, &UIView::changed, this, &UIView::changed);
 }
 
 UITableViewCell::~UITableViewCell() = default;
@@ -25,18 +27,16 @@ void UITableViewCell::prepareForReuse()
 
 void UITableViewCell::setSelected(bool selected, bool animated)
 {
-    m_animatesSelection = animated;
-    m_selected = selected;
-    Q_EMIT changed();
+    assign(m_animatesSelection, animated); // known before what it is about
+    assign(m_selected, selected);
 }
 
 void UITableViewCell::setHighlighted(bool highlighted)
 {
     if (m_highlighted == highlighted)
         return;
-    m_animatesSelection = false;
-    m_highlighted = highlighted;
-    Q_EMIT changed();
+    assign(m_animatesSelection, false);
+    assign(m_highlighted, highlighted);
 }
 
 bool UITableViewCell::drawsSelection() const

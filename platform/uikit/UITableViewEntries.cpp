@@ -11,29 +11,30 @@ UITableViewEntries::~UITableViewEntries() = default;
 
 void UITableViewEntries::reload()
 {
-    if (!m_loaded)
-        return;
-    beginResetModel();
-    retireShownCells();
-    m_loaded = false;
-    load();
-    endResetModel();
+    if (m_loaded)
+        reset([this] {
+            m_loaded = false;
+            load();
+        });
 }
 
 void UITableViewEntries::clear()
 {
-    beginResetModel();
-    retireShownCells();
-    m_sections.clear();
-    m_loaded = true;
-    endResetModel();
+    reset([this] {
+        m_loaded = true;
+        m_sections.clear();
+    });
 }
 
-// They stay until their drawings have been told to go, which the end of a reset does.
-void UITableViewEntries::retireShownCells()
+void UITableViewEntries::reset(const std::function<void()> &change)
 {
+    beginResetModel();
     for (auto &[entry, cell] : std::exchange(m_shown, {}))
         m_leaving.push_back(std::move(cell));
+    change();
+    endResetModel(); // every drawing says here that it goes; what is left was not drawn
+    for (auto &cell : std::exchange(m_leaving, {}))
+        m_table.recycle(std::move(cell));
 }
 
 void UITableViewEntries::load() const
@@ -108,7 +109,7 @@ int UITableViewEntries::rowBeside(int entry, int step) const
         if (indexPathOf(next))
             return next;
     }
-    return entry;
+    return -1;
 }
 
 UITableViewCell *UITableViewEntries::cellOf(int entry) const

@@ -7,6 +7,7 @@
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -44,7 +45,7 @@ public:
     /// A row's drawing is gone, and with it the use of `cell`.
     void hide(const UITableViewCell *cell);
 
-    /// The next entry after `entry`, or before it for a `step` of -1, that is a row; `entry` itself
+    /// The next entry after `entry`, or before it for a `step` of -1, that is a row; -1
     /// where there is none.
     Q_INVOKABLE [[nodiscard]] int rowBeside(int entry, int step) const;
 
@@ -65,7 +66,7 @@ private:
     using Cells = std::unordered_map<int, std::shared_ptr<UITableViewCell>>;
 
     void load() const;
-    void retireShownCells();
+    void reset(const std::function<void()> &change);
     [[nodiscard]] const Section *sectionOf(int entry) const;
     [[nodiscard]] UITableViewCell *cellOf(int entry) const;
     [[nodiscard]] double heightOf(int entry) const;

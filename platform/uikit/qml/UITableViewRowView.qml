@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// A row of a table: its cell, what shows that it is pressed, selected or current, and separators.
+Item {
+    id: root
+
+    required property UITableViewEntryView entry
+    readonly property UITableViewCell cell: entry.cell
+    readonly property real separatorInset: Metrics.margin + (cell.imageView.image.name ? Metrics.margin + Metrics.rowImage : 0)
+
+    implicitHeight: content.implicitHeight
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: cell.accessibilityLabel
+    Accessible.description: qsTr("%1 of %2").arg(entry.position).arg(entry.rows)
+    Accessible.selectable: true
+    Accessible.selected: cell.selected
+    Accessible.focusable: true
+    Accessible.focused: entry.hasFocus
+    Accessible.ignored: !cell.accessibilityLabel || !enabled
+    Accessible.onPressAction: entry.table.chooseEntry(entry.index)
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.cell.backgroundColor.drawn(Traits.dark)
+    }
+    Rectangle {
+        objectName: "selection"
+        anchors.fill: parent
+        color: root.cell.selectionColor.drawn(Traits.dark)
+        opacity: root.cell.drawsSelection ? 1 : 0
+
+        Behavior on opacity {
+            enabled: root.cell.animatesSelection && !Traits.reduceMotion
+            NumberAnimation { duration: 350 }
+        }
+    }
+    MouseArea {
+        anchors.fill: parent
+        onPressed: root.entry.focusItem.byKey = false
+        onContainsPressChanged: root.cell.setHighlighted(containsPress)
+        onClicked: root.entry.table.chooseEntry(root.entry.index)
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: root.cell.contentView.backgroundColor.drawn(Traits.dark)
+    }
+    Loader {
+        id: content
+        anchors.fill: parent
+        Component.onCompleted: setSource(root.cell.viewUrl, {"control": root.cell})
+    }
+    Separator {
+        visible: root.entry.table.drawsSeparators && root.entry.position === 1
+    }
+    Separator {
+        objectName: "separator"
+        anchors.leftMargin: root.entry.position < root.entry.rows ? root.separatorInset : 0
+        y: root.height - height
+        visible: root.entry.table.drawsSeparators
+    }
+    FocusRing {
+        anchors.margins: Metrics.focusRing
+        shown: root.entry.hasFocus
+    }
+}

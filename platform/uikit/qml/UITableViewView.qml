@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// A table: sections from edge to edge, made as they scroll by. With the keyboard the current row
+/// moves by arrow, page, Home and End, and is chosen by Return and Space.
+Rectangle {
+    id: root
+
+    required property UITableView control
+
+    function goTo(entry: int) {
+        if (entry < 0)
+            return;
+        list.currentIndex = entry;
+        list.positionViewAtIndex(entry, ListView.Contain);
+    }
+    function turnPage(step: int) {
+        const edge = list.indexAt(0, list.contentY + (step > 0 ? list.height - 1 : 0));
+        if (edge >= 0)
+            list.positionViewAtIndex(edge, step > 0 ? ListView.Beginning : ListView.End);
+        list.returnToBounds();
+        root.goTo(list.beside(edge >= 0 ? edge - step : step > 0 ? list.count : -1,
+                              edge >= 0 ? step : -step));
+    }
+
+    color: control.backgroundColor.drawn(Traits.dark)
+
+    UIFocusItem {
+        id: keyboard
+        focus: true
+        activeFocusOnTab: true
+        onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
+            root.goTo(list.beside(list.indexAt(0, list.contentY) - 1, 1))
+
+        Keys.onUpPressed: root.goTo(list.beside(list.currentIndex, -1))
+        Keys.onDownPressed: root.goTo(list.beside(list.currentIndex, 1))
+        Keys.onReturnPressed: root.control.chooseEntry(list.currentIndex)
+        Keys.onEnterPressed: root.control.chooseEntry(list.currentIndex)
+        Keys.onSpacePressed: root.control.chooseEntry(list.currentIndex)
+        Keys.onPressed: event => {
+            const actions = {
+                [Qt.Key_Home]: () => root.goTo(list.beside(-1, 1)),
+                [Qt.Key_End]: () => root.goTo(list.beside(list.count, -1)),
+                [Qt.Key_PageUp]: () => root.turnPage(-1),
+                [Qt.Key_PageDown]: () => root.turnPage(1)
+            };
+            event.accepted = event.key in actions;
+            actions[event.key]?.();
+        }
+    }
+    ListView {
+        id: list
+
+        function beside(entry: int, step: int): int {
+            return root.control.entries.rowBeside(entry, step);
+        }
+
+        objectName: "list"
+        anchors.fill: parent
+        clip: true
+        currentIndex: -1
+        highlightFollowsCurrentItem: false
+        model: root.control.entries
+        delegate: UITableViewEntryView {
+            table: root.control
+            focusItem: keyboard
+        }
+
+        Accessible.role: Accessible.List
+        Accessible.ignored: !enabled
+    }
+}
