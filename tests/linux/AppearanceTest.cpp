@@ -121,11 +121,15 @@ private Q_SLOTS:
     void portalThatComesLateAndRestarts()
     {
         const ObservedHost host;
-        for (const auto &[value, style] : {std::pair(1U, dark), std::pair(2U, light)}) {
-            const Portal portal({{looks, {{scheme, value}}}});
+        const auto unspecified = UIUserInterfaceStyle::Unspecified;
+        for (const auto &[value, style] : {std::pair(1U, dark), {2U, light}, {0U, unspecified}}) {
+            SettingGroups settings;
+            if (value > 0)
+                settings[looks][scheme] = value;
+            const Portal portal(settings);
             QTRY_COMPARE(host.last().style, style);
         }
-        QCOMPARE(host.told.size(), 2);
+        QCOMPARE(host.told.size(), 3);
     }
 
     void paletteWhenThePortalSaysNothing()
