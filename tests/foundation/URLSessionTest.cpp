@@ -1,0 +1,362 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSURLSession.h"
+#include "sandbox/Sandbox.h"
+#include "tests/support/TestRunner.h"
+
+#include <QTest>
+
+#include <latch>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using sandbox::Fault;
+
+namespace {
+
+constexpr auto idle = 400ms;
+
+/// What the completion of one task was called with, and how often.
+struct Outcome {
+    QByteArray body;
+    std::optional<NSError> error;
+    std::atomic<int> calls = 0;
+    std::thread::id thread;
+    std::latch done{1};
+
+    NSURLSessionDataTask::Completion completion()
+    {
+        return [this](const QByteArray &data, const std::optional<NSError> &failure) {
+            body = data;
+            error = failure;
+            thread = std::this_thread::get_id();
+            if (++calls == 1) {
+                done.count_down();
+            }
+        };
+    }
+    [[nodiscard]] int code() const { return error ? error->code : 0; }
+};
+
+/// A body in zlib's format, which Content-Encoding calls "deflate".
+Fault deflated(const QByteArray &body)
+{
+    return Fault::json(qCompress(body).mid(4)).withHeader("Content-Encoding", "deflate");
+}
+
+Fault rawReply(const QByteArray &rest)
+{
+    return Fault::raw("HTTP/1.1 200 OK\r\n" + rest);
+}
+
+QStringList logged;
+
+void record(QtMsgType, const QMessageLogContext &, const QString &line)
+{
+    logged.append(line);
+}
+
+} // namespace
+
+class URLSessionTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<sandbox::Sandbox> m_service;
+    std::unique_ptr<NSURLSession> m_session;
+    QtMessageHandler m_previous = nullptr;
+
+    [[nodiscard]] NSURLSessionConfiguration configuration() const
+    {
+        NSURLSessionConfiguration result;
+        result.certificateAuthorityFile = m_service->caFile();
+        result.connectTo = u"127.0.0.1:%1"_s.arg(m_service->port());
+        result.timeoutIntervalForRequest = idle;
+        return result;
+    }
+
+    void send(Outcome &outcome, const QByteArray &method = "GET",
+              const QByteArray &url = "https://localhost/user.php?userEmail=secret",
+              bool repeatable = false)
+    {
+        NSMutableURLRequest request = NSMutableURLRequest::requestWithURL(url);
+        request.setHTTPMethod(method);
+        request.setRepeatable(repeatable);
+        m_session->dataTaskWithRequest(request, outcome.completion())->resume();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_service = std::make_unique<sandbox::Sandbox>();
+        QVERIFY2(m_service->isRunning(), qPrintable(m_service->errorString()));
+    }
+
+    void init()
+    {
+        logged.clear();
+        m_previous = qInstallMessageHandler(record);
+        m_service->clear();
+        m_session = std::make_unique<NSURLSession>(configuration());
+    }
+
+    void cleanup()
+    {
+        m_session.reset();
+        qInstallMessageHandler(m_previous);
+        QCOMPARE(logged, QStringList());
+    }
+
+    void replies_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<QByteArray>("method");
+        QTest::addColumn<int>("code"); // 0 for success
+        QTest::addColumn<QByteArray>("body"); // empty: not looked at
+        QTest::addColumn<int>("sendings");
+
+        const QByteArray megabytes(17 * 1024 * 1024, 'a');
+        const QByteArray pieces = "Transfer-Encoding: chunked\r\n\r\n5\r\nhello\r\n";
+        const struct {
+            const char *name;
+            Fault fault;
+            int code = 0;
+            QByteArray body = {};
+            QByteArray method = "GET";
+            int sendings = 1;
+        } rows[] = {
+            {"body", Fault::json("{}"), 0, "{}"},
+            {"body of a POST", Fault::json("{}"), 0, "{}", "POST"},
+            {"any status", Fault::json("no", 503), 0, "no"},
+            {"no content", Fault::raw("HTTP/1.1 204 No\r\n\r\n")},
+            {"slow drip", Fault::drip(20, 60ms)},
+            {"late", Fault::json("x").after(idle / 2), 0, "x"},
+            {"compressed", deflated("hello"), 0, "hello"},
+            {"chunked", rawReply(pieces + "0\r\n\r\n"), 0, "hello"},
+            {"ended by the connection", Fault::json("x").withoutLength(), 0, "x"},
+            {"longest body", deflated(megabytes.left(16 * 1024 * 1024))},
+            {"body too long", deflated(megabytes), NSURLErrorDataLengthExceedsMaximum},
+            {"endless body", Fault::endless(), NSURLErrorDataLengthExceedsMaximum},
+            {"endless header", rawReply(QByteArray("A: b\r\n").repeated(100000)),
+             NSURLErrorDataLengthExceedsMaximum},
+            {"no compression at all",
+             Fault::json("not compressed at all").withHeader("Content-Encoding", "gzip"),
+             NSURLErrorCannotDecodeContentData},
+            {"closed", Fault::close(), NSURLErrorNetworkConnectionLost},
+            {"closed, POST", Fault::close(), NSURLErrorNetworkConnectionLost, {}, "POST"},
+            {"reset", Fault::reset(), NSURLErrorNetworkConnectionLost},
+            {"length too great", Fault::wrongLength(5), NSURLErrorNetworkConnectionLost},
+            {"chunk missing", rawReply(pieces), NSURLErrorNetworkConnectionLost},
+            {"never answered", Fault::silence(), NSURLErrorTimedOut},
+            {"stops half-way",
+             rawReply("Content-Length: 9\r\n\r\nhalf")
+                 .ending(sandbox::Transmission::Ending::Silence),
+             NSURLErrorTimedOut},
+            {"no HTTP", Fault::raw("hello\r\n\r\n"), NSURLErrorBadServerResponse},
+            {"redirect", Fault::redirectToPath("/login.php"), 0, {}, "GET", 2},
+            {"redirect 308", Fault::redirectToPath("/login.php", 308), 0, {}, "GET", 2},
+            {"redirect of a POST",
+             Fault::redirectToPath("/login.php"),
+             NSURLErrorBadServerResponse,
+             {},
+             "POST"},
+            {"redirect 307 of a POST",
+             Fault::redirectToPath("/login.php", 307),
+             NSURLErrorBadServerResponse,
+             {},
+             "POST"},
+            {"redirect loop", Fault::redirectLoop(), NSURLErrorHTTPTooManyRedirects, {}, "GET", 21},
+            {"redirect to http", Fault::redirectToHttp(), NSURLErrorBadServerResponse},
+            {"redirect to another host", Fault::redirectToOtherHost(), NSURLErrorBadServerResponse},
+            {"redirect to another port", Fault::redirect("https://localhost:444/user.php"),
+             NSURLErrorBadServerResponse},
+            {"redirect to a file", Fault::redirect("file:///etc/passwd"),
+             NSURLErrorBadServerResponse},
+        };
+        for (const auto &row : rows) {
+            QTest::newRow(row.name)
+                << row.fault << row.method << row.code << row.body << row.sendings;
+        }
+    }
+
+    /// Over a session whose connections are warm: what was open already must not be used.
+    void replies()
+    {
+        QFETCH(Fault, fault);
+        QFETCH(QByteArray, method);
+        QFETCH(QByteArray, body);
+        Outcome warm;
+        send(warm, "GET", "https://localhost/user.php", true);
+        warm.done.wait();
+        m_service->clear();
+        m_service->stage("/user.php", fault, -1);
+
+        Outcome outcome;
+        send(outcome, method);
+        outcome.done.wait();
+        m_session.reset();
+        QTEST(outcome.code(), "code");
+        QVERIFY(body.isEmpty() || outcome.body == body);
+        QVERIFY(!outcome.error || outcome.body.isEmpty());
+        QCOMPARE(outcome.calls, 1);
+        QVERIFY(outcome.thread != std::this_thread::get_id());
+        QTEST(int(m_service->requests().size()), "sendings");
+    }
+
+    void certificates()
+    {
+        const std::pair<sandbox::Reception, int> rows[] = {
+            {sandbox::Reception::Expired, NSURLErrorServerCertificateHasBadDate},
+            {sandbox::Reception::WrongHost, NSURLErrorServerCertificateUntrusted},
+            {sandbox::Reception::Untrusted, NSURLErrorServerCertificateHasUnknownRoot},
+            {sandbox::Reception::Mute, NSURLErrorTimedOut},
+        };
+        for (const auto &[reception, code] : rows) {
+            m_service->receive(reception);
+            Outcome outcome;
+            send(outcome);
+            outcome.done.wait();
+            QCOMPARE(outcome.code(), code);
+        }
+        NSURLSessionConfiguration missing = configuration();
+        missing.certificateAuthorityFile += u".not"_s;
+        NSURLSessionConfiguration systemsOwn = configuration();
+        systemsOwn.certificateAuthorityFile.clear();
+        for (const auto &trust : {missing, systemsOwn}) {
+            m_session = std::make_unique<NSURLSession>(trust);
+            Outcome outcome;
+            send(outcome);
+            outcome.done.wait();
+            QVERIFY(outcome.error);
+        }
+        QCOMPARE(m_service->requests().size(), 0);
+    }
+
+    void requestsThatCannotBeSent()
+    {
+        const struct {
+            QByteArray method;
+            QByteArray url;
+            int code;
+        } rows[] = {
+            {"GET", "http://localhost/user.php", NSURLErrorUnsupportedURL},
+            {"GET", "file:///etc/passwd", NSURLErrorBadURL},
+            {"GET", "", NSURLErrorBadURL},
+            {"GET", "https://", NSURLErrorBadURL},
+            {"PUT", "https://localhost/user.php", NSURLErrorUnsupportedURL},
+        };
+        for (const auto &row : rows) {
+            Outcome outcome;
+            send(outcome, row.method, row.url);
+            outcome.done.wait();
+            QCOMPARE(outcome.code(), row.code);
+        }
+        NSURLSessionConfiguration nobody = configuration();
+        nobody.connectTo = u"127.0.0.1:1"_s;
+        m_session = std::make_unique<NSURLSession>(nobody);
+        Outcome outcome;
+        send(outcome);
+        outcome.done.wait();
+        QCOMPARE(outcome.code(), int(NSURLErrorCannotConnectToHost));
+        QCOMPARE(m_service->requests().size(), 0);
+    }
+
+    void onTheWire()
+    {
+        for (const QByteArray method : {"GET", "POST"}) {
+            m_service->clear();
+            Outcome outcome;
+            send(outcome, method, "https://localhost/a%20b.php?x=%2B%2541&y&z=");
+            outcome.done.wait();
+            const sandbox::Request request = m_service->requests().value(0);
+            QCOMPARE(request.method, method);
+            QCOMPARE(request.target, QByteArray("/a%20b.php?x=%2B%2541&y&z="));
+            QCOMPARE(request.bodySize, 0);
+            QCOMPARE(request.header("Host"), QByteArray("localhost"));
+            QByteArrayList names;
+            for (const auto &[name, value] : request.headers) {
+                names.append(name);
+            }
+            const QByteArrayList length = {"Content-Length"};
+            QCOMPARE(names,
+                     (QByteArrayList{"Host", "Accept", "Accept-Encoding"}
+                      + (method == "POST" ? length : QByteArrayList())));
+        }
+    }
+
+    /// Only what may be repeated uses an open connection, and survives that it was closed.
+    void connections()
+    {
+        const int before = m_service->connectionCount();
+        for (const bool repeatable : {false, true, true, false, true}) {
+            Outcome outcome;
+            send(outcome, "GET", "https://localhost/user.php", repeatable);
+            outcome.done.wait();
+            QCOMPARE(outcome.code(), 0);
+        }
+        QCOMPARE(m_service->connectionCount(), before + 2);
+        m_service->closeIdleConnections();
+        Outcome outcome;
+        send(outcome, "GET", "https://localhost/user.php", true);
+        outcome.done.wait();
+        QCOMPARE(outcome.code(), 0);
+    }
+
+    void resumingIsWhatSends()
+    {
+        Outcome never;
+        Outcome twice;
+        const auto request = NSMutableURLRequest::requestWithURL("https://localhost/user.php");
+        const auto unsent = m_session->dataTaskWithRequest(request, never.completion());
+        auto task = m_session->dataTaskWithRequest(request, twice.completion());
+        task->resume();
+        task->resume();
+        task.reset();
+        twice.done.wait();
+        m_session.reset();
+        QCOMPARE(never.calls, 0);
+        QCOMPARE(twice.calls, 1);
+        QCOMPARE(m_service->requests().size(), 1);
+        // The session is gone: cancelled at once.
+        unsent->resume();
+        QCOMPARE(never.calls, 1);
+        QCOMPARE(never.code(), int(NSURLErrorCancelled));
+    }
+
+    /// Requests in every stage, and one that is sent by a completion when all is over.
+    void endsWithRequestsUnderWay()
+    {
+        NSURLSession::setSharedSession(m_session.get());
+        m_service->stage("*", Fault::silence(), -1);
+        m_service->receive(sandbox::Reception::Mute, 5);
+        std::array<Outcome, 20> outcomes;
+        for (Outcome &outcome : outcomes) {
+            send(outcome);
+        }
+        Outcome late;
+        const auto request = NSMutableURLRequest::requestWithURL("https://localhost/user.php");
+        m_session
+            ->dataTaskWithRequest(request,
+                                  [&](const QByteArray &, const auto &) {
+                                      NSURLSession::sharedSession()
+                                          ->dataTaskWithRequest(request, late.completion())
+                                          ->resume();
+                                  })
+            ->resume();
+        QTRY_VERIFY(m_service->requests().size() >= 5);
+        QElapsedTimer time;
+        time.start();
+        m_session.reset();
+        QVERIFY(time.elapsed() < idle.count() / 2);
+        QVERIFY(!NSURLSession::sharedSession());
+        for (const Outcome &outcome : outcomes) {
+            QCOMPARE(outcome.calls, 1);
+            QCOMPARE(outcome.code(), int(NSURLErrorCancelled));
+            QVERIFY(outcome.thread == late.thread && outcome.body.isEmpty());
+        }
+        QCOMPARE(late.code(), int(NSURLErrorCancelled));
+    }
+};
+
+WZT_TEST(URLSessionTest)
+#include "URLSessionTest.moc"
