@@ -8,7 +8,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <cstdio>
+
+#include <sys/prctl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +47,8 @@ void startBus(QProcess &daemon, const QString &folder)
                      "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
         file.close();
     }
+    // Ends with the test, however that ends.
+    daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     daemon.start(u"dbus-daemon"_s,
                  {u"--nofork"_s, u"--print-address"_s, "--config-file="_L1 + file.fileName()});
     if (!daemon.waitForReadyRead())
