@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "app/Launch.h"
+
+#include "app/LifeCycle.h"
+#include "app/Renderer.h"
+#include "app/ServiceRoute.h"
+#include "app/TerminationSignals.h"
+#include "model/BuildConstants.h"
+#include "platform/uikit/UIWindow.h"
+#include "platform/uikit/qml/UIWindowHost.h"
+
+#include <QFont>
+#include <QIcon>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto displayName = "WZT Companion"_L1;
+
+QString applicationId()
+{
+    return QString::fromLatin1(BuildConstants::applicationId);
+}
+
+int &prepared(int &argc)
+{
+    Renderer::choose();
+    return argc;
+}
+
+Runtime::Settings settings()
+{
+    Runtime::Settings settings;
+    settings.applicationId = applicationId();
+    settings.urlSession.certificateAuthorityFile =
+        QString::fromUtf8(ServiceRoute::certificateAuthorityFile);
+    settings.urlSession.connectTo = QString::fromUtf8(ServiceRoute::connectTo);
+    return settings;
+}
+
+} // namespace
+
+Launch::Launch(int &argc, char *argv[])
+    : m_application(prepared(argc), argv), m_host(applicationId())
+{
+    QGuiApplication::setApplicationName(applicationId());
+    QGuiApplication::setApplicationDisplayName(displayName);
+    QGuiApplication::setApplicationVersion(QString::fromLatin1(BuildConstants::version));
+    QGuiApplication::setDesktopFileName(applicationId());
+    QGuiApplication::setFont(QFont(u"Inter"_s));
+}
+
+Launch::~Launch() = default;
+
+int Launch::run()
+{
+    const QStringList urls = QGuiApplication::arguments().mid(1);
+    const auto opened = [this](const QStringList &later) {
+        openURLs(later);
+        m_window->show();
+    };
+    if (!m_host.becomeOnlyInstance(urls, opened))
+        return 0;
+
+    const TerminationSignals terminationSignals(&QGuiApplication::quit);
+    start();
+    LifeCycle lifeCycle(m_runtime->delegate());
+    const QObject following;
+    QObject::connect(&m_application, &QGuiApplication::applicationStateChanged, &following,
+                     [&](Qt::ApplicationState state) { lifeCycle.enter(state); });
+    showWindow();
+    openURLs(urls);
+    const int status = QGuiApplication::exec();
+    end();
+    return status;
+}
+
+void Launch::start()
+{
+    m_runtime = std::make_unique<Runtime>(m_host, settings());
+    m_runtime->delegate().didFinishLaunchingWithOptions();
+}
+
+void Launch::showWindow()
+{
+    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName,
+                                              QIcon::fromTheme(applicationId()));
+    m_window->show();
+}
+
+void Launch::openURLs(const QStringList &urls)
+{
+    for (const QString &url : urls)
+        m_runtime->delegate().openURL(url);
+}
+
+void Launch::end()
+{
+    m_runtime->delegate().applicationWillTerminate();
+    m_runtime->finish();
+    m_window.reset();
+    m_runtime.reset();
+}

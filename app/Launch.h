@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Runtime.h"
+#include "platform/linux/LinuxHost.h"
+
+#include <QGuiApplication>
+
+class UIWindowHost;
+
+/// The program from its start to its end: the application on this machine, in its window.
+class Launch {
+public:
+    /// As `main` has them; URLs to open are arguments. Both outlive the launch.
+    Launch(int &argc, char *argv[]);
+    ~Launch();
+    Q_DISABLE_COPY_MOVE(Launch)
+
+    /// Runs the application until it is quit. Returns the process's exit status at once when
+    /// another instance runs already, which the URLs are handed to.
+    int run();
+
+private:
+    void start();
+    void showWindow();
+    void openURLs(const QStringList &urls);
+    void end();
+
+    QGuiApplication m_application;
+    LinuxHost m_host;
+    std::unique_ptr<Runtime> m_runtime;
+    std::unique_ptr<UIWindowHost> m_window;
+};

@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+
+// The QML modules of this program, linked into it.
+
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(ScreensPlugin)
+Q_IMPORT_QML_PLUGIN(UIKitPlugin)

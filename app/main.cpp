@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "app/Launch.h"
+
+int main(int argc, char *argv[])
+{
+    return Launch(argc, argv).run();
+}
