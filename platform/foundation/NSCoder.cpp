@@ -4,6 +4,18 @@
 
 #include "platform/foundation/NSNumberReading.h"
 
+namespace {
+
+/// The value under `key`, null unless it is a T.
+template <typename T>
+const T *find(const QMap<QString, NSCoder::Value> &values, const QString &key)
+{
+    const auto place = values.constFind(key);
+    return place == values.constEnd() ? nullptr : std::get_if<T>(&*place);
+}
+
+} // namespace
+
 void NSCoder::encodeObject(const QString &text, const QString &key)
 {
     encodeValue(text, key);
@@ -41,14 +53,13 @@ bool NSCoder::containsValueForKey(const QString &key) const
 
 std::optional<QString> NSCoder::decodeStringForKey(const QString &key) const
 {
-    const Value value = m_values.value(key);
-    if (const auto *text = std::get_if<QString>(&value)) {
+    if (const auto *text = find<QString>(m_values, key)) {
         return *text;
     }
-    if (const auto *number = std::get_if<qint64>(&value)) {
+    if (const auto *number = find<qint64>(m_values, key)) {
         return QString::number(*number);
     }
-    if (const auto *number = std::get_if<double>(&value)) {
+    if (const auto *number = find<double>(m_values, key)) {
         return textValue(*number);
     }
     return std::nullopt;
@@ -56,14 +67,13 @@ std::optional<QString> NSCoder::decodeStringForKey(const QString &key) const
 
 int NSCoder::decodeIntForKey(const QString &key) const
 {
-    const Value value = m_values.value(key);
-    if (const auto *text = std::get_if<QString>(&value)) {
+    if (const auto *text = find<QString>(m_values, key)) {
         return intValue(*text);
     }
-    if (const auto *number = std::get_if<qint64>(&value)) {
+    if (const auto *number = find<qint64>(m_values, key)) {
         return intValue(double(*number));
     }
-    if (const auto *number = std::get_if<double>(&value)) {
+    if (const auto *number = find<double>(m_values, key)) {
         return intValue(*number);
     }
     return decodeBoolForKey(key) ? 1 : 0;
@@ -71,20 +81,18 @@ int NSCoder::decodeIntForKey(const QString &key) const
 
 std::optional<NSDate> NSCoder::decodeDateForKey(const QString &key) const
 {
-    const Value value = m_values.value(key);
-    const auto *date = std::get_if<NSDate>(&value);
+    const auto *date = find<NSDate>(m_values, key);
     return date ? std::optional(*date) : std::nullopt;
 }
 
 bool NSCoder::decodeBoolForKey(const QString &key) const
 {
-    const Value value = m_values.value(key);
-    if (const auto *number = std::get_if<qint64>(&value)) {
+    if (const auto *number = find<qint64>(m_values, key)) {
         return *number != 0;
     }
-    if (const auto *number = std::get_if<double>(&value)) {
+    if (const auto *number = find<double>(m_values, key)) {
         return *number != 0;
     }
-    const auto *boolean = std::get_if<bool>(&value);
+    const auto *boolean = find<bool>(m_values, key);
     return boolean && *boolean;
 }

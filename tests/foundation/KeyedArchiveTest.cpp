@@ -199,7 +199,7 @@ private Q_SLOTS:
         const auto number = [&](int n) { return Record{n, u"nil"_s, {}, {}, false}; };
         const auto name = [&](const QString &text) { return Record{0, text, {}, {}, false}; };
         const auto date = [&](double time) { return Record{0, u"nil"_s, {}, NSDate{time}, false}; };
-        const auto object = [](const char *className, const char *values) {
+        const auto object = [](const char *className, const char *values) -> QByteArray {
             return QByteArray("<dict><key>$class</key>@4") + values
                 + "</dict><dict><key>$classname</key><string>" + className + "</string></dict>";
         };
