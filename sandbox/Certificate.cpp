@@ -17,7 +17,7 @@ namespace sandbox {
 namespace {
 
 constexpr qint64 hour = 3600;
-constexpr qint64 tenYears = 3652 * 24 * hour;
+constexpr qint64 tenYears = 87'648 * hour;
 
 using Extension = std::pair<int, QByteArray>;
 
@@ -77,8 +77,9 @@ bool addExtensions(X509 *x509, X509 *issuer, const QList<Extension> &extensions)
 std::optional<Certificate> make(const char *name, const Certificate *issuer, qint64 from,
                                 qint64 until, const QList<Extension> &extensions)
 {
-    const Certificate made{.x509 = {X509_new(), X509_free},
-                           .key = {EVP_EC_gen("P-256"), EVP_PKEY_free}};
+    const Certificate made{
+        .x509 = {X509_new(), X509_free},
+        .key = {EVP_PKEY_Q_keygen(nullptr, nullptr, "EC", "P-256"), EVP_PKEY_free}};
     if (!made.x509 || !made.key) {
         return {};
     }

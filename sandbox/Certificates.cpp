@@ -17,7 +17,7 @@ namespace sandbox {
 
 namespace {
 
-constexpr qint64 day = 24 * 3600;
+constexpr qint64 day = 86'400;
 constexpr qint64 leafLife = 397 * day;
 // A service that is started now may well run for some days.
 constexpr qint64 reserve = 7 * day;

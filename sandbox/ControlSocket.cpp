@@ -25,7 +25,7 @@ namespace sandbox {
 namespace {
 
 constexpr int patience = 5000;
-constexpr qsizetype longestLine = 1024 * 1024;
+constexpr qsizetype longestLine = qsizetype{1} << 20;
 
 QString failure()
 {

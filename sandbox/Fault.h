@@ -36,7 +36,7 @@ public:
     static Fault wrongLength(qint64 difference);
     /// The real answer in pieces of so many bytes, with a pause between them.
     static Fault drip(qint64 pieceSize, std::chrono::milliseconds pause);
-    /// The real answer's body under another HTTP status (100 to 999).
+    /// The real answer's body under another HTTP status (200 to 999).
     static Fault status(int code);
     /// This body, as application/json, under this HTTP status.
     static Fault json(const QByteArray &body, int code = 200);

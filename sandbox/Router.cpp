@@ -13,8 +13,8 @@ namespace sandbox {
 
 namespace {
 
-constexpr qsizetype longestTarget = 8 * 1024;
-constexpr qsizetype longestParameter = 2 * 1024;
+constexpr qsizetype longestTarget = 8'192;
+constexpr qsizetype longestParameter = 2'048;
 
 bool isReadable(const Request &request)
 {

@@ -55,8 +55,8 @@ std::optional<Account> Sandbox::addAccountWithDigest(const Account &account,
     if (added.joined.isEmpty()) {
         added.joined = m_service->clock.joinDate();
     }
-    const bool isAdded = isRunning()
-        && m_service->store.add(&added, m_service->hasher.hash(digest)) == Outcome::Done;
+    const QString hash = isRunning() ? m_service->hasher.hash(digest) : QString();
+    const bool isAdded = !hash.isEmpty() && m_service->store.add(&added, hash) == Outcome::Done;
     return isAdded ? std::optional(added) : std::nullopt;
 }
 

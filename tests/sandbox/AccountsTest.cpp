@@ -318,6 +318,7 @@ void AccountsTest::manyAtOnce()
     std::atomic<int> registered{0};
     std::atomic<int> signedIn{0};
     std::vector<std::thread> threads;
+    threads.reserve(16);
     for (int i = 0; i < 16; ++i) {
         threads.emplace_back([&] {
             Client client(m_service.port(), m_service.caFile());

@@ -18,7 +18,7 @@ using sandbox::Sandbox;
 
 namespace {
 
-constexpr qint64 day = 24 * 3600;
+constexpr qint64 day = 86'400;
 
 QByteArray contents(const QString &path)
 {

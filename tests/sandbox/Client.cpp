@@ -13,7 +13,7 @@ size_t collect(char *bytes, size_t, size_t size, void *into)
 {
     auto *collected = static_cast<QByteArray *>(into);
     collected->append(bytes, qsizetype(size));
-    return collected->size() > 1024 * 1024 ? 0 : size;
+    return collected->size() > 1'048'576 ? 0 : size;
 }
 
 } // namespace
