@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/UITableViewController.h"
+#include "tests/support/TestRunner.h"
+#include "tests/uikit/qml/QmlFixture.h"
+
+#include <QAccessible>
+#include <QElapsedTimer>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CountedCell : public UITableViewCell {
+    Q_OBJECT
+
+public:
+    inline static int living = 0;
+
+    CountedCell(UITableViewCellStyle style, const QString &identifier)
+        : UITableViewCell(style, identifier)
+    {
+        ++living;
+    }
+    ~CountedCell() override { --living; }
+};
+
+/// Sections of equal rows; the first has an image, a header and a footer.
+class Rows : public UITableViewController {
+    Q_OBJECT
+
+public:
+    int sections = 1;
+    int rows = 3;
+    QString prefix = u"Row"_s;
+    std::vector<NSIndexPath> chosen;
+
+    Rows() : UITableViewController(UITableViewStyle::Grouped)
+    {
+        tableView()->registerClass<CountedCell>(u"row"_s);
+    }
+    [[nodiscard]] int numberOfSections() const override { return sections; }
+    [[nodiscard]] int numberOfRowsInSection(int) const override { return rows; }
+    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &at) override
+    {
+        auto cell = tableView()->dequeueReusableCellWithIdentifier(u"row"_s);
+        cell->textLabel()->setText(u"%1 %2.%3"_s.arg(prefix).arg(at.section).arg(at.row));
+        if (at == NSIndexPath{0, 1})
+            cell->imageView()->setImage(UIImage::imageNamed(u"testMark"_s));
+        return cell;
+    }
+    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
+    {
+        return at == NSIndexPath{0, 2} ? 70 : UITableViewAutomaticDimension;
+    }
+    [[nodiscard]] double heightForFooterInSection(int section) const override
+    {
+        return section == 1 ? 14 : 0;
+    }
+    [[nodiscard]] std::optional<QString> titleForHeaderInSection(int section) const override
+    {
+        return section == 2 ? std::optional(u"Above"_s) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<QString> titleForFooterInSection(int section) const override
+    {
+        return section == 2 ? std::optional(u"Below, "_s.repeated(20)) : std::nullopt;
+    }
+    void didSelectRowAtIndexPath(const NSIndexPath &at) override
+    {
+        chosen.push_back(at);
+        tableView()->deselectRowAtIndexPath(at, false);
+    }
+};
+
+} // namespace
+
+/// Tables in a real window.
+class TableDrawingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_fixture = std::make_unique<QmlFixture>(); }
+
+    void cleanup()
+    {
+        m_fixture.reset();
+        m_rows.reset();
+        QTRY_COMPARE(CountedCell::living, 0);
+    }
+
+    void entriesStandWhereThePlatformPutsThem()
+    {
+        show(3, 3);
+        struct Expected {
+            int entry;
+            double y;
+            double height;
+        };
+        const Expected expected[] = {
+            {0, 0, 36},   {1, 36, 44},  {2, 80, 44},  {3, 124, 70}, // fixed height
+            {4, 194, 18}, {5, 212, 18}, {6, 230, 44}, {9, 362, 14}, // fixed footer
+        };
+        for (const auto &[entry, y, height] : expected) {
+            QCOMPARE(item(entry)->y(), y);
+            QCOMPARE(item(entry)->height(), height);
+            QCOMPARE(item(entry)->width(), 390);
+        }
+        QVERIFY(item(10)->height() > 18 + 7); // a header with its text
+        QVERIFY(item(14)->height() > 18 + 2 * 14); // a footer that wraps
+        QCOMPARE(QmlFixture::find(item(1), u"textLabel"_s)->x(), 16);
+        QCOMPARE(separator(1)->x(), 16); // between rows
+        QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
+        QCOMPARE(separator(3)->x(), 0); // at the end of a section
+        QCOMPARE(separator(1)->y() + separator(1)->height(), 44);
+
+        m_fixture->application.traits().setOverride(UIAppearance{.textScale = 2});
+        QTRY_VERIFY(item(1)->height() > 44);
+        m_rows->tableView()->setSeparatorStyle(UITableViewCellSeparatorStyle::None);
+        QVERIFY(!separator(1)->isVisible());
+    }
+
+    void aTapChoosesOnce_data()
+    {
+        QTest::addColumn<std::function<void(TableDrawingTest &)>>("choose");
+        using Test = TableDrawingTest;
+        const auto row = [](const std::function<void(Test &)> &choose) { return choose; };
+        QTest::newRow("finger") << row([](Test &test) { test.m_fixture->tap(test.second()); });
+        QTest::newRow("mouse") << row([](Test &test) {
+            QTest::mouseClick(test.window(), Qt::LeftButton, {}, test.second());
+        });
+        QTest::newRow("keyboard") << row([](Test &test) {
+            test.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        });
+        QTest::newRow("keyboard, from the end") << row([](Test &test) {
+            test.keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down,
+                       Qt::Key_Space});
+        });
+        QTest::newRow("screen reader") << row([](Test &test) {
+            test.accessible(2)->actionInterface()->doAction(
+                QAccessibleActionInterface::pressAction());
+        });
+    }
+
+    void aTapChoosesOnce()
+    {
+        QFETCH(const std::function<void(TableDrawingTest &)>, choose);
+        show(2, 2);
+        choose(*this);
+        QCOMPARE(m_rows->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+    }
+
+    void aPressedRowIsHighlightedUntilTheFingerLeaves()
+    {
+        show(1, 3);
+        QQuickItem *selection = QmlFixture::find(item(2), u"selection"_s);
+        QTest::mousePress(window(), Qt::LeftButton, {}, second());
+        QCOMPARE(selection->opacity(), 1);
+        QTest::mouseMove(window(), second() + QPoint(0, 100));
+        QTest::mouseRelease(window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
+        QTRY_COMPARE(selection->opacity(), 0);
+        QVERIFY(m_rows->chosen.empty());
+    }
+
+    void rowsSayNameAndPosition()
+    {
+        show(2, 2);
+        QAccessibleInterface *row = accessible(5);
+        QCOMPARE(row->role(), QAccessible::ListItem);
+        QCOMPARE(row->text(QAccessible::Name), u"Row 1.0"_s);
+        QCOMPARE(row->text(QAccessible::Description), u"1 of 2"_s);
+        QCOMPARE(row->parent()->role(), QAccessible::List);
+        QCOMPARE(row->childCount(), 0); // its label is not said twice
+        QCOMPARE(row->parent()->childCount(), 4);
+    }
+
+    void scrollingReusesCells()
+    {
+        show(1, 100000);
+        QVERIFY(CountedCell::living < 40);
+        for (int i = 0; i < 50; ++i) {
+            list()->setProperty("contentY", 300.0 * i);
+            m_fixture->grab();
+        }
+        QVERIFY(CountedCell::living < 60);
+        keys({Qt::Key_End});
+        QCOMPARE(cell(100000)->textLabel()->text(), u"Row 0.99999"_s);
+        keys({Qt::Key_PageUp, Qt::Key_Return});
+        QVERIFY(m_rows->chosen.at(0).row > 99950 && m_rows->chosen.at(0).row < 99990);
+        QTRY_VERIFY(CountedCell::living < 60);
+    }
+
+    void aReloadKeepsThePlace_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::newRow("as many rows") << 100;
+        QTest::newRow("more rows") << 200;
+        QTest::newRow("a few rows") << 3;
+        QTest::newRow("no rows") << 0;
+    }
+
+    void aReloadKeepsThePlace()
+    {
+        QFETCH(const int, rows);
+        show(1, 100);
+        list()->setProperty("contentY", 1000);
+        const double place = item(25)->y() - offset();
+        m_rows->rows = rows;
+        m_rows->prefix = u"New"_s;
+        m_rows->tableView()->reloadData();
+        m_fixture->grab();
+        if (rows >= 100)
+            QCOMPARE(item(25)->y() - offset(), place);
+        else
+            QTRY_COMPARE(offset(), list()->property("originY").toDouble());
+        if (rows > 0)
+            QCOMPARE(cell(rows < 100 ? 1 : 25)->textLabel()->text().left(3), u"New"_s);
+        QVERIFY(CountedCell::living < 60);
+    }
+
+    // In the order in which a stack lets go of a controller.
+    void aTableGoesTogetherWithItsController()
+    {
+        show(2, 50);
+        m_fixture->window.rootObject()->deleteLater();
+        m_rows.reset();
+        QTRY_COMPARE(CountedCell::living, 0);
+    }
+
+private:
+    void show(int sections, int rows)
+    {
+        m_rows = make<Rows>();
+        m_rows->sections = sections;
+        m_rows->rows = rows;
+        const auto controller = QVariant::fromValue(m_rows.get());
+        QVERIFY(
+            m_fixture->show(u"UITableViewControllerView.qml"_s, {{u"controller"_s, controller}}));
+        m_fixture->grab();
+    }
+
+    [[nodiscard]] QQuickWindow *window() const { return &m_fixture->window; }
+    [[nodiscard]] QQuickItem *list() const
+    {
+        return QmlFixture::find(m_fixture->window.rootObject(), u"list"_s);
+    }
+    [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
+    [[nodiscard]] QQuickItem *item(int entry) const
+    {
+        QQuickItem *found = nullptr;
+        QMetaObject::invokeMethod(list(), "itemAtIndex", Q_RETURN_ARG(QQuickItem *, found),
+                                  Q_ARG(int, entry));
+        return found;
+    }
+    [[nodiscard]] UITableViewCell *cell(int entry) const
+    {
+        return item(entry)->property("cell").value<UITableViewCell *>();
+    }
+    [[nodiscard]] QQuickItem *separator(int entry) const
+    {
+        return QmlFixture::find(item(entry), u"separator"_s);
+    }
+    [[nodiscard]] QPoint second() const { return QmlFixture::centre(item(2)); }
+    [[nodiscard]] QAccessibleInterface *accessible(int entry) const
+    {
+        QAccessible::setActive(true);
+        return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst());
+    }
+    void keys(const QList<Qt::Key> &keys) const
+    {
+        for (const Qt::Key key : keys)
+            QTest::keyClick(window(), key);
+    }
+
+    std::unique_ptr<QmlFixture> m_fixture;
+    std::shared_ptr<Rows> m_rows;
+};
+
+WZT_TEST(TableDrawingTest)
+#include "TableDrawingTest.moc"
