@@ -36,7 +36,9 @@ void UITableView::setDataSource(UITableViewDataSource *dataSource)
 void UITableView::reloadData()
 {
     m_selected.reset();
+    Q_EMIT reloading();
     m_entries.reload();
+    Q_EMIT reloaded();
 }
 
 void UITableView::deselectRowAtIndexPath(const NSIndexPath &indexPath, bool animated)

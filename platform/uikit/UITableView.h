@@ -80,6 +80,11 @@ public:
     /// Takes back a cell whose row has left the screen.
     void recycle(std::shared_ptr<UITableViewCell> cell);
 
+Q_SIGNALS:
+    // Around a reload, so that whoever draws the table keeps its place.
+    void reloading();
+    void reloaded();
+
 private:
     using Factory = std::function<std::shared_ptr<UITableViewCell>()>;
 

@@ -10,9 +10,11 @@ void UIFocusItem::setByKey(bool byKey)
 
 bool UIFocusItem::event(QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && !m_byKey)
+    const bool isKey = event->type() == QEvent::KeyPress; // the key may change what is current
+    const bool isHandled = QQuickItem::event(event);
+    if (isKey && !m_byKey)
         setByKey(true);
-    return QQuickItem::event(event);
+    return isHandled;
 }
 
 void UIFocusItem::focusInEvent(QFocusEvent *event)

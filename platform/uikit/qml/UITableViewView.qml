@@ -50,6 +50,23 @@ Rectangle {
             actions[event.key]?.();
         }
     }
+    Connections {
+        property int entry: -1
+        property real offset: 0
+
+        target: root.control
+        function onReloading() {
+            entry = list.indexAt(0, list.contentY);
+            offset = entry < 0 ? 0 : list.contentY - list.itemAtIndex(entry).y;
+        }
+        function onReloaded() {
+            if (entry < 0 || list.count === 0)
+                return;
+            list.positionViewAtIndex(Math.min(entry, list.count - 1), ListView.Beginning);
+            list.contentY += offset;
+            list.returnToBounds();
+        }
+    }
     ListView {
         id: list
 
@@ -60,6 +77,7 @@ Rectangle {
         objectName: "list"
         anchors.fill: parent
         clip: true
+        cacheBuffer: 0 // what is being made ahead when rows go is complained about
         currentIndex: -1
         highlightFollowsCurrentItem: false
         model: root.control.entries
