@@ -7,6 +7,12 @@
 
 #include <utility>
 
+void UITabBar::setItems(const std::vector<UITabBarItem *> &items)
+{
+    m_items = items;
+    Q_EMIT itemsChanged();
+}
+
 void UITabBar::choose(int index)
 {
     if (index >= 0 && std::cmp_less(index, m_items.size()))

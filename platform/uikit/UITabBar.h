@@ -15,12 +15,12 @@ class UITabBar : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a tab bar controller")
-    Q_PROPERTY(QQmlListProperty<UITabBarItem> items READ itemList NOTIFY changed)
+    Q_PROPERTY(QQmlListProperty<UITabBarItem> items READ itemList NOTIFY itemsChanged)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY changed)
 
 public:
     [[nodiscard]] const std::vector<UITabBarItem *> &items() const { return m_items; }
-    void setItems(const std::vector<UITabBarItem *> &items) { assign(m_items, items); }
+    void setItems(const std::vector<UITabBarItem *> &items);
 
     [[nodiscard]] int selectedIndex() const { return m_selectedIndex; }
     void setSelectedIndex(int index) { assign(m_selectedIndex, index); }
@@ -30,6 +30,8 @@ public:
     Q_INVOKABLE void choose(int index);
 
 Q_SIGNALS:
+    /// Apart from `changed`, or every selection would draw all the items anew.
+    void itemsChanged();
     void itemChosen(int index);
 
 private:

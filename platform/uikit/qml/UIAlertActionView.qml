@@ -16,8 +16,6 @@ UIPressArea {
 
     readonly property bool isCancel: action.style === UIAlertAction.Cancel
 
-    implicitHeight: Math.max(Metrics.row, title.implicitHeight + 16)
-
     Accessible.role: Accessible.Button
     Accessible.name: action.title
     Accessible.focusable: true
@@ -55,6 +53,8 @@ UIPressArea {
         textFormat: Text.PlainText
         font: root.isCancel ? Traits.headlineFont : Traits.bodyFont
         color: Traits.accentColor
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Math.round(0.6 * font.pixelSize)
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

@@ -3,8 +3,9 @@
 import QtQuick
 import UIKit
 
-/// An alert's buttons: two side by side if their titles fit, otherwise one below the other.
-Grid {
+/// An alert's buttons: two side by side if their titles fit, otherwise one below the other, with
+/// a cancel button that came first at the end.
+Item {
     id: root
 
     required property UIAlertController controller
@@ -13,12 +14,15 @@ Grid {
     readonly property bool sideBySide: actions.count === 2
         && fits(controller.actions[0].title, metrics.font)
         && fits(controller.actions[1].title, metrics.font)
+    readonly property int moved: !sideBySide && actions.count > 1
+        && controller.actions[0].style === UIAlertAction.Cancel ? 1 : 0
+    readonly property real actionHeight: Math.max(Metrics.row, Math.ceil(metrics.height) + 16)
 
     function fits(title: string, font: font): bool {
         return metrics.advanceWidth(title) <= titleRoom
     }
 
-    columns: sideBySide ? 2 : 1
+    implicitHeight: actionHeight * (sideBySide ? 1 : actions.count)
 
     FontMetrics {
         id: metrics
@@ -32,13 +36,17 @@ Grid {
             required property UIAlertAction modelData
             required property int index
 
-            readonly property bool last: index === actions.count - 1
+            readonly property int place: (index - root.moved + actions.count) % actions.count
+            readonly property bool last: place === actions.count - 1
 
             action: modelData
-            width: root.width / root.columns
+            x: root.sideBySide ? place * width : 0
+            y: root.sideBySide ? 0 : place * height
+            width: root.sideBySide ? root.width / 2 : root.width
+            height: root.actionHeight
             roundsLeft: root.sideBySide ? !last : last
             roundsRight: last
-            beside: index > 0 && root.sideBySide
+            beside: root.sideBySide && last
             onTriggered: root.controller.trigger(action)
         }
     }

@@ -14,6 +14,8 @@ FocusScope {
         Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
     readonly property real room: height - keyboard - 2 * Metrics.margin
 
+    focus: true
+
     Accessible.role: controller.textFields.length > 0 ? Accessible.Dialog : Accessible.AlertMessage
     Accessible.name: controller.title
     Accessible.description: controller.message

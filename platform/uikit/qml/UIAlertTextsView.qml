@@ -24,21 +24,22 @@ Column {
         text: root.controller.message
         font: Traits.footnoteFont
     }
-    Item {
-        width: 1
-        height: fields.count > 0 ? 10 : 0
+    Column {
+        topPadding: 13
         visible: fields.count > 0
-    }
-    Repeater {
-        id: fields
-        model: root.controller.textFields
+        spacing: 8
 
-        UITextFieldView {
-            required property UITextField modelData
+        Repeater {
+            id: fields
+            model: root.controller.textFields
 
-            width: root.width - 2 * root.padding
-            height: implicitHeight
-            control: modelData
+            UITextFieldView {
+                required property UITextField modelData
+
+                width: root.width - 2 * root.padding
+                height: implicitHeight
+                control: modelData
+            }
         }
     }
 }

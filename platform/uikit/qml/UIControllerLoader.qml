@@ -11,7 +11,7 @@ Loader {
     required property bool wanted
 
     function load() {
-        if (wanted && status === Loader.Null)
+        if (wanted && controller && status === Loader.Null)
             setSource(controller.viewUrl, {controller: controller})
     }
 

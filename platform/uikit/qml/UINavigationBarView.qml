@@ -15,10 +15,6 @@ Rectangle {
 
     implicitHeight: Metrics.navigationBar
     color: Traits.barColor
-    onPageChanged: {
-        if (!Traits.reduceMotion)
-            appearing.restart()
-    }
 
     UIBackButtonView {
         anchors.left: parent.left
@@ -51,6 +47,13 @@ Rectangle {
             from: 0
             to: 1
             duration: 300
+        }
+    }
+    Connections {
+        target: root.controller
+        function onTopViewControllerChanged() {
+            if (!Traits.reduceMotion)
+                appearing.restart()
         }
     }
     Separator { anchors.bottom: parent.bottom }

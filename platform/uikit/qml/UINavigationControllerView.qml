@@ -9,6 +9,8 @@ FocusScope {
 
     required property UINavigationController controller
 
+    focus: true
+
     // A page that has a use for these keys takes them first.
     Keys.onPressed: event => {
         event.accepted = controller.canGoBack

@@ -9,6 +9,8 @@ FocusScope {
 
     required property UITabBarController controller
 
+    focus: true
+
     Repeater {
         model: root.controller.viewControllers
 
@@ -25,7 +27,15 @@ FocusScope {
             wanted: selected
             visible: selected
             enabled: selected
-            focus: selected
+            focus: false
+            onSelectedChanged: takeFocus()
+            Component.onCompleted: takeFocus()
+
+            // Who chooses tabs by keyboard stays in the bar.
+            function takeFocus() {
+                if (!bar.activeFocus)
+                    focus = selected
+            }
         }
     }
     UITabBarView {

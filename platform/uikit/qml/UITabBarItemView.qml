@@ -13,8 +13,6 @@ UIPressArea {
 
     readonly property color shown: selected ? tint : Traits.unselectedTabColor
 
-    implicitHeight: item.title ? title.y + title.height + 3 : 0
-
     Accessible.role: Accessible.PageTab
     Accessible.name: item.accessibilityLabel || item.title
     Accessible.selectable: true
@@ -35,9 +33,12 @@ UIPressArea {
         id: title
         y: 33
         width: parent.width
+        height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
         font: Traits.tabTitleFont
+        fontSizeMode: Text.VerticalFit
+        minimumPixelSize: 9
         color: root.shown
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter

@@ -4,18 +4,21 @@ import QtQuick
 import UIKit
 
 /// The bar of tabs, which stand in the middle where it is wide.
-Rectangle {
+FocusScope {
     id: root
 
     required property UITabBar control
 
-    implicitHeight: Math.max(Metrics.tabBar, tabs.implicitHeight)
-    color: Traits.barColor
+    implicitHeight: Metrics.tabBar
 
     Accessible.role: Accessible.PageTabList
     Accessible.name: control.accessibilityLabel
     Accessible.ignored: !enabled
 
+    Rectangle {
+        anchors.fill: parent
+        color: Traits.barColor
+    }
     Row {
         id: tabs
         anchors.horizontalCenter: parent.horizontalCenter

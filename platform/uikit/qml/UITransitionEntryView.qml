@@ -23,11 +23,16 @@ FocusScope {
 
     /// How far the controller has come: from 0, away, to 1, in place.
     property real presence: 0
+    property bool placed: false
     readonly property bool leaving: phase === UITransitionStack.Leaving
     readonly property bool slides: !overlay && !Traits.reduceMotion
     readonly property int fromSide: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1
     readonly property bool drawable: animated && visible && content.status === Loader.Ready
 
+    // An item that is only made to have the focus loses it to the one that has it already.
+    function takeFocus() {
+        focus = !blocked && !leaving
+    }
     // The end is always told from the animation, never while the stack is still changing.
     function move() {
         content.load()
@@ -37,6 +42,8 @@ FocusScope {
             return
         }
         transition.to = leaving ? 0 : 1
+        if (!drawable)
+            presence = transition.to
         transition.duration = !drawable ? 1 : overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
         transition.restart()
     }
@@ -44,9 +51,17 @@ FocusScope {
     x: page && slides ? fromSide * width * (1 - presence - 0.3 * covered) : 0
     y: !page && slides ? height * (1 - presence) : 0
     visible: !concealed
-    focus: !blocked && !leaving
-    onPhaseChanged: move()
-    Component.onCompleted: move()
+    onBlockedChanged: takeFocus()
+    onLeavingChanged: takeFocus()
+    onPhaseChanged: {
+        if (placed)
+            move()
+    }
+    Component.onCompleted: {
+        placed = true
+        move()
+        takeFocus()
+    }
 
     NumberAnimation {
         id: transition

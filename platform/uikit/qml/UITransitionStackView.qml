@@ -21,7 +21,7 @@ FocusScope {
 
             stack: root.stack
             page: root.pages
-            covered: above ? Math.max(above.presence, above.covered) : 0
+            covered: above ? above.presence : 0
             width: root.width
             height: root.height
         }

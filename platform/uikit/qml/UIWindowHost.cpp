@@ -30,6 +30,5 @@ UIWindowHost::~UIWindowHost() = default;
 void UIWindowHost::show()
 {
     m_view.show();
-    m_view.raise();
     m_view.requestActivate();
 }
