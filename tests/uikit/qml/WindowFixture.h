@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/Make.h"
+#include "platform/uikit/UIAlertController.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIViewController.h"
+#include "platform/uikit/UIWindow.h"
+#include "platform/uikit/qml/UIWindowHost.h"
+#include "tests/support/RecordingHost.h"
+
+class QQuickItem;
+
+/// A page that writes down what it is told and what is counted for it.
+class TestPage : public UIViewController {
+    Q_OBJECT
+    Q_CLASSINFO("view", "Test/TestPage.qml")
+
+public:
+    explicit TestPage(const QString &title = {});
+
+    int appeared = 0;
+    /// How many of the completions made by `counted` have run.
+    int completed = 0;
+
+    [[nodiscard]] Completion counted();
+    void viewDidAppear(bool animated) override;
+};
+
+/// A page whose file does not exist.
+class BrokenPage : public TestPage {
+    Q_OBJECT
+    Q_CLASSINFO("view", "Test/Missing.qml")
+};
+
+/// An application with a shown window; anything that QML complains about fails the test.
+class WindowFixture {
+public:
+    explicit WindowFixture(const UIAppearance &appearance = {});
+    ~WindowFixture();
+
+    RecordingHost machine;
+    UIApplication application{machine};
+    std::unique_ptr<UIWindow> window = std::make_unique<UIWindow>();
+    std::unique_ptr<UIWindowHost> host;
+
+    /// Shows a window of that size: `root`, and over it, not animated, `presented` if there is one.
+    void show(const std::shared_ptr<UIViewController> &root,
+              const std::shared_ptr<UIViewController> &presented = {},
+              const QSize &size = {390, 844});
+    /// Waits until no controller of the window is in a transition.
+    void settle();
+
+    /// The items of that QML type in the window, in the order in which they are drawn.
+    [[nodiscard]] QList<QQuickItem *> items(const QString &type) const;
+    /// The first of them; null for none.
+    [[nodiscard]] QQuickItem *item(const QString &type) const { return items(type).value(0); }
+    /// The item of that objectName; null for none.
+    [[nodiscard]] QQuickItem *named(const QString &name) const;
+    /// `item`'s rectangle in the window.
+    [[nodiscard]] static QRectF rect(const QQuickItem *item);
+
+    void tap(const QQuickItem *item);
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// The title of the page, the alert's field or the button that has the keyboard.
+    [[nodiscard]] QString focused() const;
+    /// "role name" of everything that a screen reader finds, in order.
+    [[nodiscard]] QStringList accessible() const;
+};
