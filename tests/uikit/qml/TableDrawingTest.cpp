@@ -1,79 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/UITableViewController.h"
 #include "tests/support/TestRunner.h"
+#include "tests/uikit/SampleTable.h"
 #include "tests/uikit/qml/QmlFixture.h"
 
 #include <QAccessible>
-#include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class CountedCell : public UITableViewCell {
-    Q_OBJECT
-
-public:
-    inline static int living = 0;
-
-    CountedCell(UITableViewCellStyle style, const QString &identifier)
-        : UITableViewCell(style, identifier)
-    {
-        ++living;
-    }
-    ~CountedCell() override { --living; }
-};
-
-/// Sections of equal rows; the first has an image, a header and a footer.
-class Rows : public UITableViewController {
-    Q_OBJECT
-
-public:
-    int sections = 1;
-    int rows = 3;
-    QString prefix = u"Row"_s;
-    std::vector<NSIndexPath> chosen;
-
-    Rows() : UITableViewController(UITableViewStyle::Grouped)
-    {
-        tableView()->registerClass<CountedCell>(u"row"_s);
-    }
-    [[nodiscard]] int numberOfSections() const override { return sections; }
-    [[nodiscard]] int numberOfRowsInSection(int) const override { return rows; }
-    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &at) override
-    {
-        auto cell = tableView()->dequeueReusableCellWithIdentifier(u"row"_s);
-        cell->textLabel()->setText(u"%1 %2.%3"_s.arg(prefix).arg(at.section).arg(at.row));
-        if (at == NSIndexPath{0, 1})
-            cell->imageView()->setImage(UIImage::imageNamed(u"testMark"_s));
-        return cell;
-    }
-    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
-    {
-        return at == NSIndexPath{0, 2} ? 70 : UITableViewAutomaticDimension;
-    }
-    [[nodiscard]] double heightForFooterInSection(int section) const override
-    {
-        return section == 1 ? 14 : 0;
-    }
-    [[nodiscard]] std::optional<QString> titleForHeaderInSection(int section) const override
-    {
-        return section == 2 ? std::optional(u"Above"_s) : std::nullopt;
-    }
-    [[nodiscard]] std::optional<QString> titleForFooterInSection(int section) const override
-    {
-        return section == 2 ? std::optional(u"Below, "_s.repeated(20)) : std::nullopt;
-    }
-    void didSelectRowAtIndexPath(const NSIndexPath &at) override
-    {
-        chosen.push_back(at);
-        tableView()->deselectRowAtIndexPath(at, false);
-    }
-};
-
-} // namespace
 
 /// Tables in a real window.
 class TableDrawingTest : public QObject {
@@ -85,29 +19,39 @@ private Q_SLOTS:
     void cleanup()
     {
         m_fixture.reset();
-        m_rows.reset();
-        QTRY_COMPARE(CountedCell::living, 0);
+        m_table.reset();
+        QTRY_COMPARE(SampleCell::living, 0);
     }
 
     void entriesStandWhereThePlatformPutsThem()
     {
-        show(3, 3);
+        show({3, 3, 3});
         struct Expected {
             int entry;
             double y;
             double height;
         };
+        const double header = item(5)->height();
+        const double rows = 208 + header;
+        const double footer = item(9)->height();
+        QVERIFY(header > 18 + 7 + 10); // with its text
+        QVERIFY(footer > 18 + 2 * 14); // its text wraps
         const Expected expected[] = {
-            {0, 0, 36},   {1, 36, 44},  {2, 80, 44},  {3, 124, 70}, // fixed height
-            {4, 194, 18}, {5, 212, 18}, {6, 230, 44}, {9, 362, 14}, // fixed footer
+            {0, 0, 36},
+            {1, 36, 44},
+            {2, 80, 44},
+            {3, 124, 70}, // fixed height
+            {4, 194, 14}, // fixed footer
+            {6, rows, 44},
+            {8, rows + 88, 44},
+            {10, rows + 132 + footer, 18},
+            {14, rows + 132 + footer + 18 + 132, 18},
         };
         for (const auto &[entry, y, height] : expected) {
             QCOMPARE(item(entry)->y(), y);
             QCOMPARE(item(entry)->height(), height);
             QCOMPARE(item(entry)->width(), 390);
         }
-        QVERIFY(item(10)->height() > 18 + 7); // a header with its text
-        QVERIFY(item(14)->height() > 18 + 2 * 14); // a footer that wraps
         QCOMPARE(QmlFixture::find(item(1), u"textLabel"_s)->x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
@@ -116,7 +60,7 @@ private Q_SLOTS:
 
         m_fixture->application.traits().setOverride(UIAppearance{.textScale = 2});
         QTRY_VERIFY(item(1)->height() > 44);
-        m_rows->tableView()->setSeparatorStyle(UITableViewCellSeparatorStyle::None);
+        m_table->tableView()->setSeparatorStyle(UITableViewCellSeparatorStyle::None);
         QVERIFY(!separator(1)->isVisible());
     }
 
@@ -145,49 +89,50 @@ private Q_SLOTS:
     void aTapChoosesOnce()
     {
         QFETCH(const std::function<void(TableDrawingTest &)>, choose);
-        show(2, 2);
+        show({2, 2});
+        m_table->whenChosen = [&] { m_table->tableView()->reloadData(); }; // from its own action
         choose(*this);
-        QCOMPARE(m_rows->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+        QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
     }
 
     void aPressedRowIsHighlightedUntilTheFingerLeaves()
     {
-        show(1, 3);
+        show({3});
         QQuickItem *selection = QmlFixture::find(item(2), u"selection"_s);
         QTest::mousePress(window(), Qt::LeftButton, {}, second());
         QCOMPARE(selection->opacity(), 1);
         QTest::mouseMove(window(), second() + QPoint(0, 100));
         QTest::mouseRelease(window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
         QTRY_COMPARE(selection->opacity(), 0);
-        QVERIFY(m_rows->chosen.empty());
+        QVERIFY(m_table->chosen.empty());
     }
 
     void rowsSayNameAndPosition()
     {
-        show(2, 2);
+        show({2, 2});
         QAccessibleInterface *row = accessible(5);
         QCOMPARE(row->role(), QAccessible::ListItem);
         QCOMPARE(row->text(QAccessible::Name), u"Row 1.0"_s);
         QCOMPARE(row->text(QAccessible::Description), u"1 of 2"_s);
         QCOMPARE(row->parent()->role(), QAccessible::List);
         QCOMPARE(row->childCount(), 0); // its label is not said twice
-        QCOMPARE(row->parent()->childCount(), 4);
+        QCOMPARE(row->parent()->childCount(), 4 + 2); // and the two texts
     }
 
     void scrollingReusesCells()
     {
-        show(1, 100000);
-        QVERIFY(CountedCell::living < 40);
+        show({100000});
+        QVERIFY(SampleCell::living < 40);
         for (int i = 0; i < 50; ++i) {
             list()->setProperty("contentY", 300.0 * i);
             m_fixture->grab();
         }
-        QVERIFY(CountedCell::living < 60);
+        QVERIFY(SampleCell::living < 60);
         keys({Qt::Key_End});
         QCOMPARE(cell(100000)->textLabel()->text(), u"Row 0.99999"_s);
         keys({Qt::Key_PageUp, Qt::Key_Return});
-        QVERIFY(m_rows->chosen.at(0).row > 99950 && m_rows->chosen.at(0).row < 99990);
-        QTRY_VERIFY(CountedCell::living < 60);
+        QVERIFY(m_table->chosen.at(0).row > 99950 && m_table->chosen.at(0).row < 99990);
+        QTRY_VERIFY(SampleCell::living < 60);
     }
 
     void aReloadKeepsThePlace_data()
@@ -202,38 +147,35 @@ private Q_SLOTS:
     void aReloadKeepsThePlace()
     {
         QFETCH(const int, rows);
-        show(1, 100);
+        show({100});
         list()->setProperty("contentY", 1000);
         const double place = item(25)->y() - offset();
-        m_rows->rows = rows;
-        m_rows->prefix = u"New"_s;
-        m_rows->tableView()->reloadData();
+        m_table->rows = {rows};
+        m_table->tableView()->reloadData();
         m_fixture->grab();
         if (rows >= 100)
             QCOMPARE(item(25)->y() - offset(), place);
         else
             QTRY_COMPARE(offset(), list()->property("originY").toDouble());
-        if (rows > 0)
-            QCOMPARE(cell(rows < 100 ? 1 : 25)->textLabel()->text().left(3), u"New"_s);
-        QVERIFY(CountedCell::living < 60);
+        for (int i = 1; i <= rows && item(i); ++i)
+            QVERIFY(cell(i)->preparations > 0);
+        QVERIFY(SampleCell::living < 60);
     }
 
     // In the order in which a stack lets go of a controller.
     void aTableGoesTogetherWithItsController()
     {
-        show(2, 50);
+        show({50, 50});
         m_fixture->window.rootObject()->deleteLater();
-        m_rows.reset();
-        QTRY_COMPARE(CountedCell::living, 0);
+        m_table.reset();
+        QTRY_COMPARE(SampleCell::living, 0);
     }
 
 private:
-    void show(int sections, int rows)
+    void show(std::vector<int> rows)
     {
-        m_rows = make<Rows>();
-        m_rows->sections = sections;
-        m_rows->rows = rows;
-        const auto controller = QVariant::fromValue(m_rows.get());
+        m_table = make<SampleTable>(std::move(rows));
+        const auto controller = QVariant::fromValue(m_table.get());
         QVERIFY(
             m_fixture->show(u"UITableViewControllerView.qml"_s, {{u"controller"_s, controller}}));
         m_fixture->grab();
@@ -252,9 +194,9 @@ private:
                                   Q_ARG(int, entry));
         return found;
     }
-    [[nodiscard]] UITableViewCell *cell(int entry) const
+    [[nodiscard]] SampleCell *cell(int entry) const
     {
-        return item(entry)->property("cell").value<UITableViewCell *>();
+        return static_cast<SampleCell *>(item(entry)->property("cell").value<UITableViewCell *>());
     }
     [[nodiscard]] QQuickItem *separator(int entry) const
     {
@@ -273,7 +215,7 @@ private:
     }
 
     std::unique_ptr<QmlFixture> m_fixture;
-    std::shared_ptr<Rows> m_rows;
+    std::shared_ptr<SampleTable> m_table;
 };
 
 WZT_TEST(TableDrawingTest)

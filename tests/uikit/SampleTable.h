@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/UITableViewController.h"
+
+/// A cell that counts its uses.
+class SampleCell : public UITableViewCell {
+    Q_OBJECT
+
+public:
+    inline static int living = 0;
+    int preparations = 0;
+
+    SampleCell(UITableViewCellStyle style, const QString &identifier)
+        : UITableViewCell(style, identifier)
+    {
+        ++living;
+    }
+    ~SampleCell() override { --living; }
+    void prepareForReuse() override
+    {
+        UITableViewCell::prepareForReuse();
+        ++preparations;
+    }
+};
+
+/// A table of `rows`, section by section: an image in the second row, a tall third one, a fixed
+/// footer below the first section and texts around the second.
+class SampleTable : public UITableViewController {
+    Q_OBJECT
+
+public:
+    std::vector<int> rows;
+    std::vector<NSIndexPath> chosen;
+    std::function<void()> whenChosen;
+
+    explicit SampleTable(std::vector<int> counts)
+        : UITableViewController(UITableViewStyle::Grouped), rows(std::move(counts))
+    {
+        tableView()->registerClass<SampleCell>(QStringLiteral("sample"));
+    }
+    [[nodiscard]] int numberOfSections() const override { return static_cast<int>(rows.size()); }
+    [[nodiscard]] int numberOfRowsInSection(int section) const override
+    {
+        return rows.at(static_cast<std::size_t>(section));
+    }
+    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &at) override
+    {
+        auto cell = tableView()->dequeueReusableCellWithIdentifier(QStringLiteral("sample"));
+        cell->textLabel()->setText(QStringLiteral("Row %1.%2").arg(at.section).arg(at.row));
+        if (at == NSIndexPath{0, 1})
+            cell->imageView()->setImage(UIImage::imageNamed(QStringLiteral("testMark")));
+        return cell;
+    }
+    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
+    {
+        return at == NSIndexPath{0, 2} ? 70 : UITableViewAutomaticDimension;
+    }
+    [[nodiscard]] double heightForFooterInSection(int section) const override
+    {
+        return section == 0 ? 14 : 0;
+    }
+    [[nodiscard]] std::optional<QString> titleForHeaderInSection(int section) const override
+    {
+        return section == 1 ? std::optional(QStringLiteral("Above")) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<QString> titleForFooterInSection(int section) const override
+    {
+        return section == 1 ? std::optional(QStringLiteral("Below, ").repeated(20)) : std::nullopt;
+    }
+    void didSelectRowAtIndexPath(const NSIndexPath &at) override
+    {
+        chosen.push_back(at);
+        if (whenChosen)
+            whenChosen();
+    }
+};
