@@ -63,7 +63,8 @@ Item {
         visible: root.entry.table.drawsSeparators
     }
     FocusRing {
-        anchors.margins: Metrics.focusRing
+        anchors.leftMargin: 0 // a row reaches from edge to edge
+        anchors.rightMargin: 0
         shown: root.entry.hasFocus
     }
 }
