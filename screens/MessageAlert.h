@@ -5,6 +5,7 @@
 #include "platform/foundation/NSTypes.h"
 
 #include <QString>
+#include <QStringView>
 
 #include <memory>
 #include <span>
@@ -18,7 +19,7 @@ enum class MessageKind { Error, Success };
 struct Message {
     NSUInteger code;
     MessageKind kind;
-    const char16_t *text;
+    QStringView text;
 };
 
 /// The alert that reports an outcome: titled "Error" or "Great!", with the one action "Dismiss".

@@ -12,17 +12,12 @@ UIViewView {
 
     control: controller.view
 
-    Flickable {
+    RevealingFlickable {
         id: page
 
-        readonly property real keyboardHeight: Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
-
         anchors.fill: parent
-        anchors.bottomMargin: keyboardHeight
-        boundsBehavior: Flickable.StopAtBounds
-        clip: interactive
+        anchors.bottomMargin: Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
         contentHeight: indicator.y + indicator.implicitHeight + Metrics.margin
-        interactive: contentHeight > height
 
         UIImageViewView {
             id: logo

@@ -117,7 +117,7 @@ void WZTLoginViewController::requestReset(const UIAlertController &alert)
 void WZTLoginViewController::registerAccount(UIControl *)
 {
     struct Field {
-        const char16_t *placeholder;
+        QStringView placeholder;
         UITextInputTraits traits;
     };
     using Correction = UITextAutocorrectionType;
@@ -142,7 +142,7 @@ void WZTLoginViewController::registerAccount(UIControl *)
     const auto alert = make<UIAlertController>(u"New Account"_s, QString());
     for (const Field &row : fields) {
         alert->addTextFieldWithConfigurationHandler([&row](UITextField &field) {
-            field.setPlaceholder(QString(row.placeholder));
+            field.setPlaceholder(row.placeholder.toString());
             field.setInputTraits(row.traits);
             field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
         });
@@ -182,7 +182,7 @@ void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
 void WZTLoginViewController::displayMessage(const Message *message)
 {
     if (message)
-        presentViewController(messageAlert(message->kind, QString(message->text)), true);
+        presentViewController(messageAlert(message->kind, message->text.toString()), true);
 }
 
 void WZTLoginViewController::displayErrorMessage(const QString &message)

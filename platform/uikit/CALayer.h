@@ -19,7 +19,7 @@ public:
 
     double cornerRadius = 0;
     double borderWidth = 0;
-    UIColor borderColor;
+    UIColor borderColor = {};
     bool masksToBounds = false;
     CornerCurve cornerCurve = CornerCurve::Circular;
 
