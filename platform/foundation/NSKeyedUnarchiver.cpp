@@ -78,20 +78,20 @@ constexpr std::array readerTable{
 
 class Archive {
 public:
-    explicit Archive(const PropertyList &list) : m_list(list), m_objects(list.item(u"$objects"_s))
+    explicit Archive(const PropertyList &list)
+        : m_list(list), m_objects(list.item(u"$objects"_s).elements())
     {
     }
 
     [[nodiscard]] bool isValid() const
     {
         return m_list.item(u"$version"_s).integer() == 100000
-            && m_list.item(u"$archiver"_s).string() && m_objects.isArray();
+            && m_list.item(u"$archiver"_s).string();
     }
 
     [[nodiscard]] std::optional<NSCoder> root(const QString &className) const
     {
-        const auto uid = m_list.item(u"$top"_s).item(u"root"_s).uid();
-        const PropertyListNode object = uid ? m_objects.at(*uid) : PropertyListNode();
+        const PropertyListNode object = referred(m_list.item(u"$top"_s).item(u"root"_s).uid());
         if (!object.isDictionary() || !isOfClass(object, className)) {
             return std::nullopt;
         }
@@ -99,11 +99,17 @@ public:
     }
 
 private:
+    /// Nothing for what is no reference, or one to nowhere.
+    [[nodiscard]] PropertyListNode referred(std::optional<quint64> uid) const
+    {
+        const bool exists = uid && *uid < quint64(m_objects.size());
+        return exists ? m_objects[qsizetype(*uid)] : PropertyListNode();
+    }
+
     /// The description of an object's class, or nothing.
     [[nodiscard]] PropertyListNode classOf(const PropertyListNode &object) const
     {
-        const auto uid = object.item(u"$class"_s).uid();
-        return uid ? m_objects.at(*uid) : PropertyListNode();
+        return referred(object.item(u"$class"_s).uid());
     }
 
     [[nodiscard]] bool isOfClass(const PropertyListNode &object, const QString &className) const
@@ -112,33 +118,28 @@ private:
         if (description.item(u"$classname"_s).string() == className) {
             return true;
         }
-        const PropertyListNode classes = description.item(u"$classes"_s);
-        for (quint64 i = 0; const auto name = classes.at(i).string(); ++i) {
-            if (*name == className) {
-                return true;
-            }
-        }
-        return false;
+        const QList<PropertyListNode> classes = description.item(u"$classes"_s).elements();
+        return std::any_of(classes.begin(), classes.end(), [&](const PropertyListNode &name) {
+            return name.string() == className;
+        });
     }
 
     [[nodiscard]] std::optional<NSCoder> values(const PropertyListNode &object) const
     {
         NSCoder coder;
-        for (const QString &key : object.keys()) {
-            const PropertyListNode node = object.item(key);
-            const auto uid = node.uid();
-            if (key == "$class"_L1) {
-                continue;
-            }
-            if (uid && !exists(*uid)) {
+        const QMap<QString, PropertyListNode> items = object.items();
+        for (auto item = items.begin(); item != items.end(); ++item) {
+            const auto uid = item->uid();
+            const PropertyListNode target = referred(uid);
+            if (uid && !target.isPresent()) {
                 return std::nullopt;
             }
-            coder.encodeValue(uid ? valueOf(m_objects.at(*uid)) : plainValue(node), key);
+            if (item.key() != "$class"_L1) {
+                coder.encodeValue(uid ? valueOf(target) : plainValue(*item), item.key());
+            }
         }
         return coder;
     }
-
-    [[nodiscard]] bool exists(quint64 uid) const { return m_objects.at(uid).isPresent(); }
 
     /// Follows no reference further than to a class: a cycle is no danger.
     [[nodiscard]] Value valueOf(const PropertyListNode &object) const
@@ -151,7 +152,7 @@ private:
     }
 
     const PropertyList &m_list;
-    PropertyListNode m_objects;
+    QList<PropertyListNode> m_objects;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "platform/foundation/PrivateFile.h"
 #include "platform/foundation/PropertyList.h"
+#include "platform/foundation/PropertyListCheck.h"
 
 #include <QStandardPaths>
 
@@ -77,7 +78,9 @@ bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QStr
     } else {
         return true;
     }
-    return m_file.write(lock, values->toData());
+    const QByteArray content = values->toData();
+    // What would be refused when it is read must not be written.
+    return isBoundedPropertyList(content) && m_file.write(lock, content);
 }
 
 bool NSUserDefaults::removeObjectForKey(const QString &key)

@@ -28,8 +28,8 @@ public:
     [[nodiscard]] std::optional<QByteArray> dataForKey(const QString &key) const;
 
     /// Stores `data` under `key`, replacing what was there; nil removes the key. False when
-    /// nothing was changed: no writable folder, a full disk, or another process in the middle of
-    /// a write for more than half a second.
+    /// nothing was changed: no writable folder, a full disk, more than 4 MiB in all, or another
+    /// process in the middle of a write for more than half a second.
     [[nodiscard]] bool setObject(const std::optional<QByteArray> &data, const QString &key);
 
     [[nodiscard]] bool removeObjectForKey(const QString &key);

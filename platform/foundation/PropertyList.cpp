@@ -57,9 +57,9 @@ bool PropertyListNode::isArray() const
     return isOfType(m_node, PLIST_ARRAY);
 }
 
-QStringList PropertyListNode::keys() const
+QMap<QString, PropertyListNode> PropertyListNode::items() const
 {
-    QStringList result;
+    QMap<QString, PropertyListNode> result;
     if (!isDictionary()) {
         return result;
     }
@@ -69,13 +69,31 @@ QStringList PropertyListNode::keys() const
         char *key = nullptr;
         plist_t value = nullptr;
         plist_dict_next_item(m_node, iterator, &key, &value);
-        if (key) {
-            result.append(QString::fromUtf8(key));
-            free(key);
-        }
         if (!value) {
             break;
         }
+        result.insert(QString::fromUtf8(key), PropertyListNode(value));
+        free(key);
+    }
+    free(iterator);
+    return result;
+}
+
+QList<PropertyListNode> PropertyListNode::elements() const
+{
+    QList<PropertyListNode> result;
+    if (!isArray()) {
+        return result;
+    }
+    plist_array_iter iterator = nullptr;
+    plist_array_new_iter(m_node, &iterator);
+    for (;;) {
+        plist_t value = nullptr;
+        plist_array_next_item(m_node, iterator, &value);
+        if (!value) {
+            break;
+        }
+        result.append(PropertyListNode(value));
     }
     free(iterator);
     return result;
@@ -85,12 +103,6 @@ PropertyListNode PropertyListNode::item(const QString &key) const
 {
     return PropertyListNode(isDictionary() ? plist_dict_get_item(m_node, key.toUtf8().constData())
                                            : nullptr);
-}
-
-PropertyListNode PropertyListNode::at(quint64 index) const
-{
-    const bool present = isArray() && index < plist_array_get_size(m_node);
-    return PropertyListNode(present ? plist_array_get_item(m_node, uint32_t(index)) : nullptr);
 }
 
 std::optional<bool> PropertyListNode::boolean() const

@@ -5,8 +5,9 @@
 #include "platform/foundation/NSDate.h"
 
 #include <QByteArray>
+#include <QList>
+#include <QMap>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -21,11 +22,12 @@ public:
     [[nodiscard]] bool isArray() const;
 
     /// Empty for anything but a dictionary.
-    [[nodiscard]] QStringList keys() const;
-    /// Nothing when this is no dictionary or does not have the key.
+    [[nodiscard]] QMap<QString, PropertyListNode> items() const;
+    /// Nothing when this is no dictionary or does not have the key. Takes longer the longer the
+    /// dictionary is; so do the other look-ups of the library, which is why there are no more.
     [[nodiscard]] PropertyListNode item(const QString &key) const;
-    /// Nothing when this is no array or is not that long.
-    [[nodiscard]] PropertyListNode at(quint64 index) const;
+    /// Empty for anything but an array.
+    [[nodiscard]] QList<PropertyListNode> elements() const;
 
     /// Each is nil for a value of another type.
     [[nodiscard]] std::optional<bool> boolean() const;

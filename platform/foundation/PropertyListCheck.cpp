@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr qsizetype maximumLength = qsizetype(16) * 1024 * 1024;
-constexpr quint64 maximumExpansion = quint64(64) * 1024 * 1024;
+constexpr qsizetype maximumLength = qsizetype(4) * 1024 * 1024;
+constexpr quint64 maximumExpansion = quint64(32) * 1024 * 1024;
 /// What one object takes in memory, beside its bytes.
 constexpr quint64 objectOverhead = 64;
 constexpr int maximumDepth = 64;
@@ -72,17 +72,50 @@ private:
         return value;
     }
 
+    struct Object {
+        quint64 type = 0;
+        /// Bytes, characters, items or pairs; 0 for what has a fixed size.
+        quint64 count = 0;
+        quint64 content = 0;
+
+        [[nodiscard]] bool isContainer() const { return type >= 0xa; }
+        [[nodiscard]] bool isDictionary() const { return type == 0xd; }
+        [[nodiscard]] bool isText() const { return type == 0x5 || type == 0x6; }
+        [[nodiscard]] quint64 characterSize() const { return type == 0x6 ? 2 : 1; }
+    };
+
+    [[nodiscard]] std::optional<Object> object(quint64 index) const
+    {
+        const std::optional<quint64> offset =
+            number(m_offsets + index * m_offsetSize, m_offsetSize);
+        const std::optional<quint64> marker = offset ? number(*offset, 1) : std::nullopt;
+        if (!marker || index >= m_measures.size()) {
+            return std::nullopt;
+        }
+        Object result{*marker >> 4, *marker & 0xf, *offset + 1};
+        if (result.type < 0x4 || result.type == 0x8) {
+            result.count = 0;
+        } else if (result.count == 0xf) {
+            const quint64 size = quint64(1) << (number(result.content, 1).value_or(0) & 0x3);
+            result.count = number(result.content + 1, size).value_or(maximumExpansion);
+            result.content += 1 + size;
+        }
+        // More items than bytes cannot be, whatever they are.
+        return result.count > quint64(m_data.size()) ? std::nullopt : std::optional(result);
+    }
+
     /// Objects are reached from the top only, each is measured once.
     std::optional<Measure> measure(quint64 index, int depth)
     {
-        if (index >= m_measures.size() || depth > maximumDepth) {
+        const std::optional<Object> measured = object(index);
+        if (!measured || depth > maximumDepth) {
             return std::nullopt;
         }
         Measure &known = m_measures[size_t(index)];
         if (known.height == 0) {
-            const std::optional<quint64> offset =
-                number(m_offsets + index * m_offsetSize, m_offsetSize);
-            const std::optional<Measure> fresh = offset ? measureAt(*offset, depth) : std::nullopt;
+            const std::optional<Measure> fresh = measured->isContainer()
+                ? measureItems(*measured, depth)
+                : std::optional(Measure{objectOverhead + 2 * measured->count, 1});
             if (!fresh) {
                 return std::nullopt;
             }
@@ -91,43 +124,37 @@ private:
         return depth + known.height <= maximumDepth ? std::optional(known) : std::nullopt;
     }
 
-    std::optional<Measure> measureAt(quint64 offset, int depth)
-    {
-        const std::optional<quint64> marker = number(offset, 1);
-        if (!marker) {
-            return std::nullopt;
-        }
-        const quint64 type = *marker >> 4;
-        quint64 count = *marker & 0xf;
-        quint64 content = offset + 1;
-        const bool counted = type >= 0x4 && type != 0x8;
-        if (counted && count == 0xf) {
-            const quint64 size = quint64(1) << (number(content, 1).value_or(0) & 0x3);
-            count = number(content + 1, size).value_or(maximumExpansion);
-            content += 1 + size;
-        }
-        if (!counted || count > quint64(m_data.size())) {
-            return counted ? std::nullopt : std::optional(Measure{objectOverhead, 1});
-        }
-        const bool container = type >= 0xa;
-        return container ? measureItems(content, type == 0xd ? 2 * count : count, depth)
-                         : std::optional(Measure{objectOverhead + 2 * count, 1});
-    }
-
-    std::optional<Measure> measureItems(quint64 references, quint64 count, int depth)
+    std::optional<Measure> measureItems(const Object &container, int depth)
     {
         Measure sum{objectOverhead, 1};
-        for (quint64 i = 0; i < count && sum.expansion <= maximumExpansion; ++i) {
+        const quint64 keys = container.isDictionary() ? container.count : 0;
+        for (quint64 i = 0; i < keys + container.count && sum.expansion <= maximumExpansion; ++i) {
             const std::optional<quint64> index =
-                number(references + i * m_referenceSize, m_referenceSize);
+                number(container.content + i * m_referenceSize, m_referenceSize);
             const std::optional<Measure> item = index ? measure(*index, depth + 1) : std::nullopt;
-            if (!item) {
+            if (!item || (i < keys && !isKey(*index))) {
                 return std::nullopt;
             }
             sum.expansion += item->expansion;
             sum.height = std::max(sum.height, item->height + 1);
         }
         return sum;
+    }
+
+    /// A text without null characters: the parser ends the process over any other key.
+    [[nodiscard]] bool isKey(quint64 index) const
+    {
+        const std::optional<Object> key = object(index);
+        if (!key || !key->isText()) {
+            return false;
+        }
+        const quint64 size = key->characterSize();
+        for (quint64 i = 0; i < key->count; ++i) {
+            if (number(key->content + i * size, size).value_or(0) == 0) {
+                return false;
+            }
+        }
+        return true;
     }
 
     const QByteArray &m_data;

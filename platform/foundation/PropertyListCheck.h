@@ -5,6 +5,6 @@
 #include <QByteArray>
 
 /// Whether `data` can be handed to a property list parser that trusts its input: no longer than
-/// 16 MiB, nested at most 64 deep, and, once every object is copied to each place that refers to
-/// it, not above 64 MiB. Says nothing else about it being a property list.
+/// 4 MiB, nested at most 64 deep, and, once every object is copied to each place that refers to
+/// it, not above 32 MiB. Says nothing else about it being a property list.
 [[nodiscard]] bool isBoundedPropertyList(const QByteArray &data);

@@ -148,13 +148,13 @@ private Q_SLOTS:
         QVERIFY(data && data->startsWith("bplist00"));
         const auto list = PropertyList::fromData(*data);
         QVERIFY(list);
-        QCOMPARE(list->keys().size(), 4);
+        QCOMPARE(list->items().size(), 4);
         QCOMPARE(list->item(u"$version"_s).integer(), 100000);
         QCOMPARE(list->item(u"$archiver"_s).string(), u"NSKeyedArchiver"_s);
-        const PropertyListNode objects = list->item(u"$objects"_s);
+        const QList<PropertyListNode> objects = list->item(u"$objects"_s).elements();
         QCOMPARE(objects.at(0).string(), u"$null"_s);
         const auto object = [&](const PropertyListNode &node) {
-            return objects.at(node.uid().value_or(99));
+            return objects.value(qsizetype(node.uid().value_or(99)));
         };
         const PropertyListNode root = object(list->item(u"$top"_s).item(u"root"_s));
         QCOMPARE(root.item(u"flag"_s).boolean(), true);
@@ -168,8 +168,10 @@ private Q_SLOTS:
         for (const auto &[node, name] : classes) {
             const PropertyListNode description = object(node.item(u"$class"_s));
             QCOMPARE(description.item(u"$classname"_s).string(), name);
-            QCOMPARE(description.item(u"$classes"_s).at(0).string(), name);
-            QCOMPARE(description.item(u"$classes"_s).at(1).string(), u"NSObject"_s);
+            const QList<PropertyListNode> names = description.item(u"$classes"_s).elements();
+            QCOMPARE(names.size(), 2);
+            QCOMPARE(names[0].string(), name);
+            QCOMPARE(names[1].string(), u"NSObject"_s);
         }
     }
 
