@@ -97,8 +97,9 @@ public:
 
     void outwait() { outwait(tcpStream()); }
 
-    void closeIfIdle() override
+    void closeWhenIdle() override
     {
+        m_isLeaving = true;
         if (m_isIdle) {
             tcpStream().close();
         }
@@ -225,7 +226,7 @@ private:
     {
         switch (m_transmission.ending) {
         case Transmission::Ending::KeepOpen:
-            return read();
+            return m_isLeaving ? tcpStream().close() : read();
         case Transmission::Ending::Close:
             return farewell();
         case Transmission::Ending::Cut:
@@ -256,6 +257,7 @@ private:
     Transmission m_transmission;
     size_t m_sent = 0;
     bool m_isIdle = false;
+    bool m_isLeaving = false;
     std::array<char, 4096> m_dropped{};
 };
 

@@ -27,8 +27,8 @@ public:
     HttpsConnection(const HttpsConnection &) = delete;
     HttpsConnection &operator=(const HttpsConnection &) = delete;
 
-    /// Closes it if it waits for a request.
-    virtual void closeIfIdle() = 0;
+    /// Closes it: now if it waits for a request, else after the answer under way.
+    virtual void closeWhenIdle() = 0;
 };
 
 } // namespace sandbox

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <atomic>
+#include <future>
 #include <thread>
 
 namespace asio = boost::asio;
@@ -157,11 +158,17 @@ int HttpsServer::connectionCount() const
 
 void HttpsServer::closeIdleConnections()
 {
-    asio::post(m_state->io, [state = m_state.get()] {
-        for (HttpsConnection *connection : state->connections) {
-            connection->closeIfIdle();
+    if (!m_state->thread.joinable()) {
+        return;
+    }
+    std::promise<void> done;
+    asio::post(m_state->io, [&] {
+        for (HttpsConnection *connection : m_state->connections) {
+            connection->closeWhenIdle();
         }
+        done.set_value();
     });
+    done.get_future().wait();
 }
 
 } // namespace sandbox

@@ -41,7 +41,8 @@ public:
     [[nodiscard]] quint16 port() const;
     /// TCP connections accepted so far.
     [[nodiscard]] int connectionCount() const;
-    /// Closes the connections that wait for a request.
+    /// Closes the connections that wait for a request before it returns, and those on which one is
+    /// being answered after the answer. Not to be called by the handler.
     void closeIdleConnections();
 
 private:

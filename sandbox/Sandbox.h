@@ -98,7 +98,8 @@ public:
     [[nodiscard]] QList<Request> requests() const;
     /// TCP connections accepted so far, whatever became of them.
     [[nodiscard]] int connectionCount() const;
-    /// Closes the connections on which no request is being answered.
+    /// Closes the connections that wait for a request before it returns, and those on which one is
+    /// being answered after the answer.
     void closeIdleConnections();
 
     /// The reset messages written so far, oldest first, each a complete RFC 5322 message.
