@@ -16,7 +16,6 @@ FocusScope {
     required property int index
     required property UIViewController controller
     required property int phase
-    required property bool animated
     required property bool blocked
     required property bool concealed
     required property bool overlay
@@ -27,25 +26,24 @@ FocusScope {
     readonly property bool leaving: phase === UITransitionStack.Leaving
     readonly property bool slides: !overlay && !Traits.reduceMotion
     readonly property int fromSide: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1
-    readonly property bool drawable: animated && visible && content.status === Loader.Ready
 
     // An item that is only made to have the focus loses it to the one that has it already.
     function takeFocus() {
         focus = !blocked && !leaving
     }
-    // The end is always told from the animation, never while the stack is still changing.
+    // A transition that is not animated never comes to its first frame: the stack ends it itself.
+    // The end is told from the animation alone, never while the stack is still changing.
     function move() {
         content.load()
-        if (phase === UITransitionStack.Settled) {
-            transition.stop()
-            presence = 1
-            return
-        }
-        transition.to = leaving ? 0 : 1
-        if (!drawable)
+        transition.stop()
+        transition.to = phase === UITransitionStack.Leaving ? 0 : 1
+        const settled = phase === UITransitionStack.Settled
+        const drawn = visible && content.status === Loader.Ready
+        if (settled || !drawn)
             presence = transition.to
-        transition.duration = !drawable ? 1 : overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
-        transition.restart()
+        transition.duration = !drawn ? 1 : overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
+        if (!settled)
+            transition.start()
     }
 
     x: page && slides ? fromSide * width * (1 - presence - 0.3 * covered) : 0

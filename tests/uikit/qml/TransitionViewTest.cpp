@@ -68,7 +68,7 @@ void TransitionViewTest::everyTransitionEndsOnce()
     }
     root->presentViewController(modal, animated, modal->counted());
     QCOMPARE(modal->completed, animated ? 0 : 1);
-    const QQuickItem *entry = fixture.items(u"UITransitionEntryView"_s).value(1);
+    const QPointer<QQuickItem> entry = fixture.items(u"UITransitionEntryView"_s).value(1);
     QVERIFY(entry);
     QTEST(entry->y() > 0 && entry->isVisible(), "slides");
     fixture.settle();
@@ -78,6 +78,9 @@ void TransitionViewTest::everyTransitionEndsOnce()
     QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
 
     modal->dismissViewControllerAnimated(animated, modal->counted());
+    QFETCH(const bool, slides);
+    if (slides)
+        QTRY_VERIFY(entry && entry->y() > 0);
     fixture.settle();
     QCOMPARE(modal->completed, 2);
     QCOMPARE(root->appeared, 2);
@@ -155,6 +158,8 @@ void TransitionViewTest::tabsAreBuiltWhenTheyAreSeen()
     QVERIFY(!fixture.item(u"UITabBarView"_s));
 
     login->dismissViewControllerAnimated(true);
+    QTRY_VERIFY(fixture.item(u"UITabBarView"_s));
+    QTRY_VERIFY(fixture.named(u"Login"_s)->mapToScene(QPointF()).y() > 0);
     fixture.settle();
     QCOMPARE(fixture.focused(), u"Home"_s);
     const QPointer<QQuickItem> home = fixture.named(u"Home"_s);
