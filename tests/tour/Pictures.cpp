@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/tour/Pictures.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using enum Step::Kind;
+using sandbox::Fault;
+using Steps = std::vector<Step>;
+
+Steps operator+(Steps first, const Steps &second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+Fault result(const char *text)
+{
+    return Fault::json(R"({"result":")" + QByteArray(text) + R"("})");
+}
+
+// By keyboard alone up to the button, which a finger taps.
+Steps filled(const QString &email, const QString &password)
+{
+    return {{Type, email}, {Return}, {Type, password}};
+}
+
+Steps signIn(const QString &email, const QString &password)
+{
+    return filled(email, password) + Steps{{Tap, u"Login"_s}};
+}
+
+const Steps reset{{Tap, u"Forgot Password?"_s}, {Await, u"Reset Password"_s}};
+const Steps account{{Tap, u"Need an Account?"_s}, {Await, u"New Account"_s}};
+const Steps sendReset = reset + Steps{{Type, u"jo@wzt.example"_s}, {Return}};
+const Steps filledAccount = account
+    + Steps{
+        {Type, u"Kim"_s}, {Return}, {Type, u"kim@wzt.example"_s}, {Return}, {Type, u"secret"_s}};
+const Steps sendAccount = filledAccount + Steps{{Return}};
+const Steps error{{Await, u"Error"_s}};
+const Steps success{{Await, u"Great!"_s}};
+const Steps tabs{{Await, u"Home"_s}};
+
+} // namespace
+
+std::vector<Picture> allPictures()
+{
+    const QString jo = u"jo@wzt.example"_s;
+    const Steps enter = signIn(jo, u"secret"_s);
+    return {
+        {u"login-empty"_s, {{Await, u"Account Login"_s}}},
+        {u"login-filled"_s, filled(jo, u"secret"_s)},
+        {u"login-spinner"_s, enter + Steps{{Await, u"Loading"_s}}, "/login.php", Fault::silence()},
+        {u"login-fields-missing"_s, Steps{{Tap, u"Login"_s}} + error},
+        {u"login-wrong-password"_s, signIn(jo, u"wrong"_s) + error},
+        {u"login-unknown-address"_s, signIn(u"nobody@wzt.example"_s, u"secret"_s) + error},
+        {u"login-unknown-error"_s, enter + error, "/login.php", Fault::close()},
+
+        {u"reset-empty"_s, reset},
+        {u"reset-sent"_s, sendReset + success},
+        {u"reset-not-sent"_s, sendReset + error, "/passwordreset.php", result("User Not Found")},
+        {u"reset-unknown-error"_s, sendReset + error, "/passwordreset.php", Fault::close()},
+
+        {u"register-empty"_s, account},
+        {u"register-filled"_s, filledAccount},
+        {u"register-taken"_s, sendAccount + error, "/register.php", result("User Exists")},
+        {u"register-improper"_s, sendAccount + error, "/register.php", result("Improper request")},
+        {u"register-unexpected"_s, sendAccount + error, "/register.php", Fault::json("{}")},
+        {u"register-unknown-error"_s, sendAccount + error, "/register.php", Fault::close()},
+
+        {u"home"_s, enter + tabs},
+        {u"home-after-registration"_s, sendAccount + tabs},
+        {u"account"_s, enter + tabs + Steps{{Tap, u"Account"_s}}},
+        {u"home-after-restart"_s, enter + tabs + Steps{{Restart}} + tabs},
+    };
+}

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sandbox/Fault.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// One thing that a person does, or waits for.
+struct Step {
+    enum class Kind { Tap, Type, Return, Await, Restart };
+
+    Kind kind;
+    QString what = {};
+};
+
+/// One picture of the tour: how to get there from a first start.
+struct Picture {
+    QString name;
+    std::vector<Step> steps = {};
+    /// What the service answers on that path, if not the truth.
+    QByteArray path = {};
+    std::optional<sandbox::Fault> answer = {};
+};
+
+/// Every picture of the tour. The service knows jo@wzt.example, whose password is "secret".
+[[nodiscard]] std::vector<Picture> allPictures();

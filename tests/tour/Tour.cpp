@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/tour/Tour.h"
+
+#include "tests/support/TestWindow.h"
+
+#include <QAccessible>
+#include <QPointingDevice>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Look {
+    const char *name;
+    QSize size;
+    UIAppearance appearance;
+};
+
+const Look looks[] = {
+    {"light", {390, 844}, {.style = UIUserInterfaceStyle::Light}},
+    {"dark", {390, 844}, {.style = UIUserInterfaceStyle::Dark}},
+};
+
+QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &name)
+{
+    if (!parent || parent->state().invisible)
+        return nullptr;
+    if (parent->text(QAccessible::Name) == name)
+        return parent;
+    // What is drawn last lies on top.
+    for (int i = parent->childCount() - 1; i >= 0; --i) {
+        if (QAccessibleInterface *found = findBelow(parent->child(i), name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Tour::Tour(const QDir &folder) : m_folder(folder) { }
+Tour::~Tour() = default;
+
+void Tour::picture_data()
+{
+    QTest::addColumn<Picture>("picture");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<UIAppearance>("appearance");
+    for (const Look &look : looks) {
+        for (const Picture &picture : allPictures()) {
+            const QByteArray name = picture.name.toLatin1() + '-' + look.name;
+            QTest::newRow(name.constData()) << picture << look.size << look.appearance;
+        }
+    }
+}
+
+void Tour::picture()
+{
+    QFETCH(const Picture, picture);
+    QFETCH(const QSize, size);
+    QFETCH(const UIAppearance, appearance);
+    m_size = size;
+    m_appearance = appearance;
+    m_app = std::make_unique<TestApp>();
+    m_app->service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s}, u"secret"_s);
+    if (picture.answer)
+        m_app->service().stage(picture.path, *picture.answer);
+    launch();
+    for (const Step &step : picture.steps) {
+        take(step);
+        if (QTest::currentTestFailed())
+            break;
+    }
+    m_window->settle();
+    const QString file = m_folder.filePath(QLatin1String(QTest::currentDataTag()) + u".png"_s);
+    QVERIFY2(m_window->view().grabWindow().save(file), qPrintable(file));
+    m_window.reset();
+    m_app.reset();
+}
+
+void Tour::launch()
+{
+    m_window.reset();
+    m_app->launch();
+    m_window = std::make_unique<TestWindow>(*m_app, m_size, m_appearance);
+}
+
+void Tour::take(const Step &step)
+{
+    m_window->settle();
+    switch (step.kind) {
+    case Step::Kind::Tap:
+        tap(step.what);
+        break;
+    case Step::Kind::Type:
+        m_window->type(step.what);
+        break;
+    case Step::Kind::Return:
+        m_window->key(Qt::Key_Return);
+        break;
+    case Step::Kind::Await:
+        await(step.what);
+        break;
+    case Step::Kind::Restart:
+        launch();
+        break;
+    }
+}
+
+void Tour::tap(const QString &name)
+{
+    static QPointingDevice *const screen = QTest::createTouchDevice();
+    await(name);
+    QAccessibleInterface *found = find(name);
+    if (!found)
+        return;
+    QQuickView &view = m_window->view();
+    const QPoint point = view.mapFromGlobal(found->rect().center());
+    QTest::touchEvent(&view, screen).press(0, point, &view);
+    QTest::touchEvent(&view, screen).release(0, point, &view);
+}
+
+void Tour::await(const QString &name)
+{
+    QTRY_VERIFY2(find(name), qPrintable(u"nothing is named \"%1\""_s.arg(name)));
+}
+
+QAccessibleInterface *Tour::find(const QString &name)
+{
+    return findBelow(QAccessible::queryAccessibleInterface(&m_window->view()), name);
+}
