@@ -11,7 +11,7 @@ FocusScope {
     required property UIAlertController controller
 
     readonly property real keyboard:
-        Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
+        InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
     readonly property real room: height - keyboard - 2 * Metrics.margin
 
     focus: true

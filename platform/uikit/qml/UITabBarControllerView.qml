@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import UIKit
 
@@ -20,6 +22,12 @@ FocusScope {
 
             readonly property bool selected: index === root.controller.tabBar.selectedIndex
 
+            // Who chooses tabs by keyboard stays in the bar.
+            function takeFocus() {
+                if (!bar.activeFocus)
+                    focus = selected
+            }
+
             anchors.top: parent.top
             anchors.bottom: bar.top
             width: root.width
@@ -30,12 +38,6 @@ FocusScope {
             focus: false
             onSelectedChanged: takeFocus()
             Component.onCompleted: takeFocus()
-
-            // Who chooses tabs by keyboard stays in the bar.
-            function takeFocus() {
-                if (!bar.activeFocus)
-                    focus = selected
-            }
         }
     }
     UITabBarView {

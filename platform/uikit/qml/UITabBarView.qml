@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import UIKit
 
@@ -29,6 +31,8 @@ FocusScope {
             model: root.control.items
 
             UITabBarItemView {
+                id: tab
+
                 required property UITabBarItem modelData
                 required property int index
 
@@ -38,8 +42,8 @@ FocusScope {
                 width: Math.min(Metrics.widestTab, root.width / items.count)
                 height: tabs.height
                 onTriggered: root.control.choose(index)
-                Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onLeftPressed: tab.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                Keys.onRightPressed: tab.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             }
         }
     }

@@ -25,7 +25,7 @@ FocusScope {
     property bool placed: false
     readonly property bool leaving: phase === UITransitionStack.Leaving
     readonly property bool slides: !overlay && !Traits.reduceMotion
-    readonly property int fromSide: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1
+    readonly property int fromSide: Application.layoutDirection === Qt.RightToLeft ? -1 : 1
 
     // An item that is only made to have the focus loses it to the one that has it already.
     function takeFocus() {

@@ -10,7 +10,7 @@ FocusScope {
     required property UIWindow control
 
     focus: true
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Rectangle {
