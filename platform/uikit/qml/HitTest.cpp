@@ -17,7 +17,8 @@ bool isAbove(const QQuickItem *left, const QQuickItem *right)
 QQuickItem *HitTest::itemAt(QQuickItem *root, const QPointF &scene)
 {
     const QPointF point = root->mapFromScene(scene);
-    const bool within = root->boundingRect().contains(point);
+    const bool within =
+        root->containmentMask() ? root->contains(point) : root->boundingRect().contains(point);
     if (!root->isVisible() || !root->isEnabled() || (root->clip() && !within))
         return nullptr;
     const QList<QQuickItem *> inOrder = root->childItems();

@@ -9,6 +9,7 @@ Rectangle {
 
     width: 2
     radius: 1
+    visible: parent.activeFocus
     color: Traits.accentColor
     opacity: blink.lit ? 1 : 0
 

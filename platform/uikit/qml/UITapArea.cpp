@@ -4,7 +4,9 @@
 
 #include "platform/uikit/qml/HitTest.h"
 
+#include <QGuiApplication>
 #include <QQuickWindow>
+#include <QStyleHints>
 
 void UITapArea::setReceiver(UIView *receiver)
 {
@@ -14,11 +16,58 @@ void UITapArea::setReceiver(UIView *receiver)
     Q_EMIT receiverChanged();
 }
 
-void UITapArea::tap(const QPointF &point)
+void UITapArea::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    if (!m_receiver || !window())
+    if (change == ItemSceneChange) {
+        if (m_window)
+            m_window->removeEventFilter(this);
+        m_window = data.window;
+        if (m_window)
+            m_window->installEventFilter(this);
+    }
+    QQuickItem::itemChange(change, data);
+}
+
+bool UITapArea::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool touch = event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchUpdate
+        || event->type() == QEvent::TouchEnd;
+    const bool mouse = event->type() == QEvent::MouseButtonPress
+        || event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonRelease;
+    if (event->type() == QEvent::TouchCancel)
+        m_press.reset();
+    // What is made of a touch that nobody took was seen as a touch.
+    else if (touch
+             || (mouse
+                 && static_cast<QMouseEvent *>(event)->source() == Qt::MouseEventNotSynthesized))
+        watch(*static_cast<QPointerEvent *>(event));
+    return QQuickItem::eventFilter(watched, event);
+}
+
+void UITapArea::watch(const QPointerEvent &event)
+{
+    const QPointF at = event.points().first().position();
+    if (event.isBeginEvent())
+        m_press = takes(at) ? std::optional(at) : std::nullopt;
+    if (!m_press)
         return;
-    const QQuickItem *hit = HitTest::itemAt(window()->contentItem(), mapToScene(point));
-    if (!hit || !hit->flags().testFlag(ItemAcceptsInputMethod))
-        m_receiver->tapped();
+    const bool still =
+        (at - *m_press).manhattanLength() < QGuiApplication::styleHints()->startDragDistance();
+    if (event.pointCount() > 1 || !still) {
+        m_press.reset();
+    } else if (event.isEndEvent()) {
+        m_press.reset();
+        if (m_receiver && isVisible() && isEnabled())
+            m_receiver->tapped();
+    }
+}
+
+bool UITapArea::takes(const QPointF &scene) const
+{
+    if (!m_receiver || !m_receiver->recognizesTaps() || !isVisible() || !isEnabled()
+        || !parentItem()->contains(parentItem()->mapFromScene(scene)))
+        return false;
+    const QQuickItem *hit = HitTest::itemAt(m_window->contentItem(), scene);
+    const bool own = !hit || hit->isAncestorOf(this) || parentItem()->isAncestorOf(hit);
+    return own && !(hit && hit->flags().testFlag(ItemAcceptsInputMethod));
 }

@@ -7,8 +7,11 @@
 #include <QPointer>
 #include <QQuickItem>
 
-/// The place of a view's tap recognisers: tells the view of the taps on it and on what it holds,
-/// save those on text fields, which would lose the keyboard again at once.
+#include <optional>
+
+/// Tells a view of the taps on it: put into the item that draws the view, it sees the taps on all
+/// of that item, without taking them from the controls there. A tap on a text field is left to the
+/// field, which would lose the keyboard again at once.
 class UITapArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -18,12 +21,20 @@ public:
     [[nodiscard]] UIView *receiver() const { return m_receiver; }
     void setReceiver(UIView *receiver);
 
-    /// A tap at `point` of this item has ended.
-    Q_INVOKABLE void tap(const QPointF &point);
+    /// Watches the window, where no grab hides a touch.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void receiverChanged();
 
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+
 private:
+    void watch(const QPointerEvent &event);
+    [[nodiscard]] bool takes(const QPointF &scene) const;
+
     QPointer<UIView> m_receiver;
+    QPointer<QQuickWindow> m_window;
+    std::optional<QPointF> m_press;
 };

@@ -3,8 +3,7 @@
 import QtQuick
 import UIKit
 
-/// One line of text to edit. The field is first responder while it has the keyboard, whichever of
-/// the two comes first.
+/// One line of text to edit.
 Rectangle {
     id: root
 
@@ -20,51 +19,16 @@ Rectangle {
     border.width: rounded ? Metrics.hairline : control.layer.borderWidth
     border.color: rounded ? Traits.separatorColor : control.layer.borderColor.drawn(Traits.dark)
 
-    TextInput {
+    TextFieldInput {
         id: input
+        // What screen readers find here, who would find the secret itself otherwise.
+        readonly property string text: control.secureTextEntry ? "" : displayText
+
         anchors.fill: parent
         anchors.leftMargin: root.inset
         anchors.rightMargin: root.inset
         containmentMask: reach
-        verticalAlignment: TextInput.AlignVCenter
-        clip: true
-        text: root.control.text
-        font: root.control.font.drawn(Traits.textScale)
-        color: root.control.textColor.drawn(Traits.dark)
-        selectionColor: Qt.alpha(Traits.accentColor, 0.3)
-        selectedTextColor: color
-        selectByMouse: true
-        activeFocusOnTab: true
-        echoMode: root.control.secureTextEntry ? TextInput.Password : TextInput.Normal
-        passwordCharacter: "\u2022"
-        inputMethodHints: root.control.inputMethodHints
-        cursorDelegate: TextCursor {}
-
-        // After the item, which has put what was being composed in place; and no further, or
-        // whatever the field stands in would take Return as well.
-        Keys.priority: Keys.AfterItem
-        Keys.onReturnPressed: event => event.accepted = true
-        Keys.onEnterPressed: event => event.accepted = true
-
-        onAccepted: root.control.returnPressed()
-        onTextChanged: root.control.edit(text)
-        onActiveFocusChanged: {
-            if (activeFocus)
-                root.control.becomeFirstResponder()
-            else
-                root.control.resignFirstResponder()
-        }
-        Component.onCompleted: {
-            if (root.control.firstResponder)
-                forceActiveFocus()
-        }
-
-        Accessible.role: Accessible.EditableText
-        Accessible.name: root.control.accessibilityLabel
-        Accessible.editable: true
-        Accessible.focusable: true
-        Accessible.passwordEdit: root.control.secureTextEntry
-        Accessible.ignored: !enabled
+        control: root.control
 
         Item {
             id: reach
@@ -82,15 +46,6 @@ Rectangle {
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
-        }
-    }
-    Connections {
-        target: root.control
-        function onFirstResponderChanged() {
-            if (root.control.firstResponder)
-                input.forceActiveFocus()
-            else if (input.activeFocus)
-                input.focus = false
         }
     }
 }

@@ -17,13 +17,5 @@ Rectangle {
     border.color: control.layer.borderColor.drawn(Traits.dark)
     clip: control.layer.masksToBounds
 
-    UITapArea {
-        id: taps
-        anchors.fill: parent
-        receiver: root.control
-    }
-    TapHandler {
-        enabled: root.control.recognizesTaps
-        onTapped: eventPoint => taps.tap(eventPoint.position)
-    }
+    UITapArea { receiver: root.control }
 }

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// Where a field's text is edited. It has the keyboard while the field is first responder,
+/// whichever of the two comes first.
+TextInput {
+    id: root
+
+    required property UITextField control
+
+    verticalAlignment: TextInput.AlignVCenter
+    clip: true
+    text: control.text
+    font: control.font.drawn(Traits.textScale)
+    color: control.textColor.drawn(Traits.dark)
+    selectionColor: Qt.alpha(Traits.accentColor, 0.3)
+    selectedTextColor: color
+    selectByMouse: true
+    activeFocusOnTab: true
+    echoMode: control.secureTextEntry ? TextInput.Password : TextInput.Normal
+    passwordCharacter: "\u2022"
+    inputMethodHints: control.inputMethodHints
+    cursorDelegate: TextCursor {}
+
+    // After the item, which has put what was being composed in place; and no further, or whatever
+    // the field stands in would take Return as well.
+    Keys.priority: Keys.AfterItem
+    Keys.onReturnPressed: event => event.accepted = true
+    Keys.onEnterPressed: event => event.accepted = true
+
+    onAccepted: control.returnPressed()
+    onTextChanged: control.edit(text)
+    onActiveFocusChanged: {
+        if (activeFocus)
+            control.becomeFirstResponder()
+        else
+            control.resignFirstResponder()
+    }
+    Component.onCompleted: {
+        if (control.firstResponder)
+            forceActiveFocus()
+    }
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: control.accessibilityLabel
+    Accessible.editable: true
+    Accessible.focusable: true
+    Accessible.ignored: !enabled
+
+    Connections {
+        target: root.control
+        function onFirstResponderChanged() {
+            if (root.control.firstResponder)
+                root.forceActiveFocus()
+            else if (root.activeFocus)
+                root.focus = false
+        }
+    }
+}
