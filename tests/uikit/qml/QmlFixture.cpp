@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/uikit/qml/QmlFixture.h"
 
+#include "platform/uikit/qml/UIImageProvider.h"
+
 #include <QPointingDevice>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -11,6 +13,7 @@ QmlFixture::QmlFixture()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    UIImageProvider::install(*window.engine());
     window.setResizeMode(QQuickView::SizeRootObjectToView);
     window.resize(390, 844);
 }
