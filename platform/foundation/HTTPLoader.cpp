@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/HTTPLoader.h"
 
+#include "platform/foundation/URLOrigin.h"
+
 #include <curl/curl.h>
 
 #include <QFile>
@@ -20,14 +22,13 @@ constexpr size_t maximumHeaderLength = size_t(256) * 1024;
 constexpr char systemAuthorities[] = "/etc/ssl/certs";
 
 struct ErrorRow {
-    CURLcode reported;
+    long reported;
     NSURLErrorCode code;
 };
 
-/// Anything that is not listed is NSURLErrorUnknown.
+/// By CURLcode. Anything that is not listed is NSURLErrorUnknown.
 constexpr std::array errorTable{
     ErrorRow{CURLE_URL_MALFORMAT, NSURLErrorBadURL},
-    ErrorRow{CURLE_LOGIN_DENIED, NSURLErrorBadURL},
     ErrorRow{CURLE_COULDNT_RESOLVE_HOST, NSURLErrorCannotFindHost},
     ErrorRow{CURLE_COULDNT_RESOLVE_PROXY, NSURLErrorCannotFindHost},
     ErrorRow{CURLE_COULDNT_CONNECT, NSURLErrorCannotConnectToHost},
@@ -43,74 +44,57 @@ constexpr std::array errorTable{
     ErrorRow{CURLE_UNSUPPORTED_PROTOCOL, NSURLErrorBadServerResponse},
     ErrorRow{CURLE_SSL_CONNECT_ERROR, NSURLErrorSecureConnectionFailed},
     ErrorRow{CURLE_SSL_CACERT_BADFILE, NSURLErrorSecureConnectionFailed},
-    ErrorRow{CURLE_PEER_FAILED_VERIFICATION, NSURLErrorServerCertificateUntrusted},
 };
 
-struct VerificationRow {
-    long result;
-    NSURLErrorCode code;
+/// By OpenSSL's verification result, after CURLE_PEER_FAILED_VERIFICATION. Anything that is not
+/// listed (a certificate for another host, above all) is NSURLErrorServerCertificateUntrusted.
+constexpr std::array certificateTable{
+    ErrorRow{9, NSURLErrorServerCertificateNotYetValid},
+    ErrorRow{10, NSURLErrorServerCertificateHasBadDate},
+    ErrorRow{18, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{19, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{20, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{21, NSURLErrorServerCertificateHasUnknownRoot},
 };
 
-/// OpenSSL's verification results, where the platform has a code of its own for them.
-constexpr std::array verificationTable{
-    VerificationRow{9, NSURLErrorServerCertificateNotYetValid},
-    VerificationRow{10, NSURLErrorServerCertificateHasBadDate},
-    VerificationRow{18, NSURLErrorServerCertificateHasUnknownRoot},
-    VerificationRow{19, NSURLErrorServerCertificateHasUnknownRoot},
-    VerificationRow{20, NSURLErrorServerCertificateHasUnknownRoot},
-    VerificationRow{21, NSURLErrorServerCertificateHasUnknownRoot},
-};
+template <size_t size>
+NSURLErrorCode lookUp(const std::array<ErrorRow, size> &table, long reported,
+                      NSURLErrorCode otherwise)
+{
+    const auto *row = std::find_if(table.begin(), table.end(),
+                                   [&](const ErrorRow &r) { return r.reported == reported; });
+    return row == table.end() ? otherwise : row->code;
+}
+
+NSURLErrorCode errorOf(CURL *easy, CURLcode reported)
+{
+    if (reported != CURLE_PEER_FAILED_VERIFICATION) {
+        return lookUp(errorTable, reported, NSURLErrorUnknown);
+    }
+    long verification = 0;
+    curl_easy_getinfo(easy, CURLINFO_SSL_VERIFYRESULT, &verification);
+    return lookUp(certificateTable, verification, NSURLErrorServerCertificateUntrusted);
+}
 
 struct Freer {
     void operator()(CURL *easy) const { curl_easy_cleanup(easy); }
     void operator()(curl_slist *list) const { curl_slist_free_all(list); }
-    void operator()(CURLU *url) const { curl_url_cleanup(url); }
 };
 template <typename T>
 using Owned = std::unique_ptr<T, Freer>;
-using OwnedList = Owned<curl_slist>;
-
-/// What decides whether two URLs lead to the same service; empty when the URL cannot be read.
-QByteArray partOf(CURLU *url, CURLUPart part)
-{
-    char *text = nullptr;
-    if (curl_url_get(url, part, &text, CURLU_DEFAULT_PORT) != CURLUE_OK) {
-        return {};
-    }
-    const QByteArray result = QByteArray(text).toLower();
-    curl_free(text);
-    return result;
-}
-
-struct Origin {
-    QByteArray scheme;
-    QByteArray host;
-    QByteArray port;
-
-    explicit Origin(const char *text)
-    {
-        const Owned<CURLU> url(curl_url());
-        if (curl_url_set(url.get(), CURLUPART_URL, text, CURLU_NON_SUPPORT_SCHEME) == CURLUE_OK) {
-            scheme = partOf(url.get(), CURLUPART_SCHEME);
-            host = partOf(url.get(), CURLUPART_HOST);
-            port = partOf(url.get(), CURLUPART_PORT);
-        }
-    }
-
-    bool operator==(const Origin &) const = default;
-
-    [[nodiscard]] bool isLoopback() const
-    {
-        return host == "localhost" || host == "[::1]" || host.startsWith("127.");
-    }
-};
 
 struct Transfer {
+    Transfer(NSMutableURLRequest request_, HTTPLoader::Finished finished_)
+        : request(std::move(request_)), finished(std::move(finished_))
+    {
+    }
+
     NSMutableURLRequest request;
+    URLOrigin origin = URLOrigin::of(request.URL()).value_or(URLOrigin());
     HTTPLoader::Finished finished;
     Owned<CURL> easy{curl_easy_init()};
-    OwnedList headers;
-    OwnedList connectTo;
+    Owned<curl_slist> headers;
+    Owned<curl_slist> connectTo;
     qsizetype maximumBodyLength = 0;
 
     QByteArray body;
@@ -181,7 +165,7 @@ void setRequest(Transfer &transfer)
     // Over a connection that was open before, an unanswered request would be sent again.
     curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, transfer.request.isRepeatable() ? 0L : 1L);
     curl_easy_setopt(easy, CURLOPT_URL, transfer.request.URL().constData());
-    if (Origin(transfer.request.URL().constData()).isLoopback()) {
+    if (transfer.origin.isLoopback()) {
         curl_easy_setopt(easy, CURLOPT_NOPROXY, "*");
     }
 }
@@ -196,7 +180,6 @@ void setConnection(Transfer &transfer, const NSURLSessionConfiguration &configur
     }
     curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
     curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
-    curl_easy_setopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
     curl_easy_setopt(easy, CURLOPT_ACCEPT_ENCODING, "");
     curl_easy_setopt(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
@@ -217,31 +200,15 @@ void setCallbacks(Transfer &transfer)
     curl_easy_setopt(easy, CURLOPT_NOPROGRESS, 0L);
 }
 
-NSURLErrorCode errorOf(CURL *easy, CURLcode reported)
-{
-    long verification = 0;
-    curl_easy_getinfo(easy, CURLINFO_SSL_VERIFYRESULT, &verification);
-    if (reported == CURLE_PEER_FAILED_VERIFICATION) {
-        for (const VerificationRow &row : verificationTable) {
-            if (row.result == verification) {
-                return row.code;
-            }
-        }
-    }
-    const auto *row = std::find_if(errorTable.begin(), errorTable.end(),
-                                   [&](const ErrorRow &r) { return r.reported == reported; });
-    return row == errorTable.end() ? NSURLErrorUnknown : row->code;
-}
-
 /// Why a request cannot be sent at all.
 std::optional<NSURLErrorCode> objectionTo(const NSMutableURLRequest &request)
 {
-    const Origin origin(request.URL().constData());
-    if (origin.host.isEmpty()) {
+    const std::optional<URLOrigin> origin = URLOrigin::of(request.URL());
+    if (!origin) {
         return NSURLErrorBadURL;
     }
     const QByteArray &method = request.HTTPMethod();
-    const bool supported = origin.scheme == "https" && (method == "GET" || method == "POST");
+    const bool supported = origin->scheme == "https" && (method == "GET" || method == "POST");
     return supported ? std::nullopt : std::optional(NSURLErrorUnsupportedURL);
 }
 
@@ -294,8 +261,7 @@ void HTTPLoader::State::ended(Transfer &transfer, CURLcode result)
 void HTTPLoader::State::redirect(Transfer &transfer, const char *location)
 {
     CURL *easy = transfer.easy.get();
-    if (transfer.request.HTTPMethod() != "GET"
-        || Origin(location) != Origin(transfer.request.URL().constData())) {
+    if (transfer.request.HTTPMethod() != "GET" || URLOrigin::of(location) != transfer.origin) {
         finish(&transfer, NSURLErrorBadServerResponse);
     } else if (++transfer.redirects > maximumRedirects) {
         finish(&transfer, NSURLErrorHTTPTooManyRedirects);

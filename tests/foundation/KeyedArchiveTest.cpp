@@ -6,6 +6,7 @@
 #include "tests/support/TestRunner.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -61,29 +62,41 @@ const QByteArray foreignArchive = QByteArray::fromBase64(
     "AFEAUwBdAGMAaABzAHwAgwCGAI8AlACbAJ4AowCqALIAtAC9AM4A1QDaAOAA5QDqAO8A9AD2APgA+gD8"
     "AP4BAAECAQMBBQESARcBIQEwATIBNwFJAU0AAAAAAAACAQAAAAAAAAA0AAAAAAAAAAAAAAAAAAABVg==");
 
-/// An archive in XML around these objects; `@n` stands for the UID n.
-QByteArray xmlArchive(QByteArray objects, const QByteArray &root = "@1",
-                      const QByteArray &header = "<key>$version</key><integer>100000</integer>"
-                                                 "<key>$archiver</key><string>Keyed</string>")
+/// An archive in XML around these objects, in short: `@n` stands for the UID n, i, r, s and k for
+/// integer, real, string and key.
+QByteArray xmlArchive(const QByteArray &objects, const QByteArray &root = "@1",
+                      const QByteArray &header = "<k>$version</k><i>100000</i>"
+                                                 "<k>$archiver</k><s>Keyed</s>")
 {
-    objects = "<plist version=\"1.0\"><dict>" + header + "<key>$top</key><dict><key>root</key>"
-        + root + "</dict><key>$objects</key><array><string>$null</string>" + objects
-        + "</array></dict></plist>";
-    for (int uid = 9; uid >= 0; --uid) {
-        const QByteArray number = QByteArray::number(uid);
-        const QByteArray full = "<dict><key>CF$UID</key><integer>" + number + "</integer></dict>";
-        objects.replace(QByteArray("@" + number), full);
+    QString text = QString::fromUtf8(
+        "<plist version=\"1.0\"><dict>" + header + "<k>$top</k><dict><k>root</k>" + root
+        + "</dict><k>$objects</k><array><s>$null</s>" + objects + "</array></dict></plist>");
+    const std::pair<const char *, const char *> replacements[] = {
+        {"@(.)", "<dict><k>CF$UID</k><i>\\1</i></dict>"},
+        {"<(/?)i>", "<\\1integer>"},
+        {"<(/?)r>", "<\\1real>"},
+        {"<(/?)s>", "<\\1string>"},
+        {"<(/?)k>", "<\\1key>"}};
+    for (const auto &[before, after] : replacements) {
+        text.replace(QRegularExpression(QString::fromLatin1(before)), QString::fromLatin1(after));
     }
-    return objects;
+    return text.toUtf8();
 }
 
-const QByteArray recordDescription = "<dict><key>$classname</key><string>Record</string></dict>";
+const QByteArray recordDescription = "<dict><k>$classname</k><s>Record</s></dict>";
 
 /// A record of one value, which may refer to the objects from @3 on.
 QByteArray archiveOf(const QByteArray &key, const QByteArray &value, const QByteArray &more = {})
 {
-    return xmlArchive("<dict><key>$class</key>@2<key>" + key + "</key>" + value + "</dict>"
+    return xmlArchive("<dict><k>$class</k>@2<k>" + key + "</k>" + value + "</dict>"
                       + recordDescription + more);
+}
+
+/// The object @3, of the class @4.
+QByteArray objectOf(const QByteArray &className, const QByteArray &values)
+{
+    return "<dict><k>$class</k>@4" + values + "</dict><dict><k>$classname</k><s>" + className
+        + "</s></dict>";
 }
 
 /// A binary property list of these objects, references and offsets of four bytes.
@@ -197,65 +210,49 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("archive");
         QTest::addColumn<Record>("record");
-        const Record nothing{0, u"nil"_s, {}, {}, false};
-        const auto number = [&](int n) { return Record{n, u"nil"_s, {}, {}, false}; };
-        const auto name = [&](const QString &text) { return Record{0, text, {}, {}, false}; };
-        const auto date = [&](double time) { return Record{0, u"nil"_s, {}, NSDate{time}, false}; };
-        const auto object = [](const char *className, const char *values) -> QByteArray {
-            return QByteArray("<dict><key>$class</key>@4") + values
-                + "</dict><dict><key>$classname</key><string>" + className + "</string></dict>";
-        };
+        const QString no = u"nil"_s;
+        const Record nothing{0, no, {}, {}, false};
+        const Record flagged{0, no, {}, {}, true};
+        const QByteArray text = "<k>NS.string</k><s>x</s>";
         const struct {
             const char *name;
             QByteArray archive;
             Record record;
         } rows[] = {
             {"no values", archiveOf("other", "<true/>"), nothing},
-            {"text for a number", archiveOf("number", "@3", "<string> 12abc</string>"), number(12)},
-            {"real for a number", archiveOf("number", "@3", "<real>-2.9</real>"), number(-2)},
-            {"large number", archiveOf("number", "@3", "<integer>4294967297</integer>"),
-             number(INT_MAX)},
-            {"number in place", archiveOf("number", "<integer>-5</integer>"), number(-5)},
+            {"text for a number", archiveOf("number", "@3", "<s> 12abc</s>"), {12, no, {}, {}}},
+            {"real for a number", archiveOf("number", "@3", "<r>-2.9</r>"), {-2, no, {}, {}}},
+            {"large number", archiveOf("number", "@3", "<i>4294967297</i>"), {INT_MAX, no, {}, {}}},
+            {"number in place", archiveOf("number", "<i>-5</i>"), {-5, no, {}, {}}},
             {"number object",
-             archiveOf("number", "@3",
-                       object("NSNumber",
-                              "<key>NS.intval</key><integer>8"
-                              "</integer>")),
-             number(8)},
-            {"number for a text", archiveOf("name", "@3", "<integer>17</integer>"), name(u"17"_s)},
+             archiveOf("number", "@3", objectOf("NSNumber", "<k>NS.intval</k><i>8</i>")),
+             {8, no, {}, {}}},
+            {"number for a text", archiveOf("name", "@3", "<i>17</i>"), {0, u"17"_s, {}, {}}},
             {"boolean for a text", archiveOf("name", "@3", "<true/>"), nothing},
             {"list for a text", archiveOf("name", "@3", "<array/>"), nothing},
-            {"text in place", archiveOf("name", "<string>Jo</string>"), name(u"Jo"_s)},
+            {"text in place", archiveOf("name", "<s>Jo</s>"), {0, u"Jo"_s, {}, {}}},
             {"bytes of a text",
-             archiveOf("name", "@3", object("NSString", "<key>NS.bytes</key><data>w6Q=</data>")),
-             name(u"ä"_s)},
-            {"null object", archiveOf("name", "@3", object("NSNull", "")), nothing},
-            {"another object",
-             archiveOf("name", "@3",
-                       object("NSURL",
-                              "<key>NS.string</key>"
-                              "<string>x</string>")),
-             nothing},
-            {"plain date", archiveOf("date", "<date>2001-01-01T00:00:10Z</date>"), date(10)},
+             archiveOf("name", "@3", objectOf("NSString", "<k>NS.bytes</k><data>w6Q=</data>")),
+             {0, u"ä"_s, {}, {}}},
+            {"null object", archiveOf("name", "@3", objectOf("NSNull", "")), nothing},
+            {"another object", archiveOf("name", "@3", objectOf("NSURL", text)), nothing},
+            {"plain date",
+             archiveOf("date", "<date>2001-01-01T00:00:10Z</date>"),
+             {0, no, {}, NSDate{10}}},
             {"plain date as an object",
-             archiveOf("date", "@3", "<date>2001-01-01T00:01:00Z</date>"), date(60)},
+             archiveOf("date", "@3", "<date>2001-01-01T00:01:00Z</date>"),
+             {0, no, {}, NSDate{60}}},
             {"whole seconds",
-             archiveOf("date", "@3", object("NSDate", "<key>NS.time</key><integer>-3</integer>")),
-             date(-3)},
-            {"date without time", archiveOf("date", "@3", object("NSDate", "")), nothing},
-            {"boolean as an object",
-             archiveOf("flag", "@3", "<true/>"),
-             {0, u"nil"_s, {}, {}, true}},
-            {"number for a boolean",
-             archiveOf("flag", "<integer>2</integer>"),
-             {0, u"nil"_s, {}, {}, true}},
+             archiveOf("date", "@3", objectOf("NSDate", "<k>NS.time</k><i>-3</i>")),
+             {0, no, {}, NSDate{-3}}},
+            {"date without time", archiveOf("date", "@3", objectOf("NSDate", "")), nothing},
+            {"boolean as an object", archiveOf("flag", "@3", "<true/>"), flagged},
+            {"number for a boolean", archiveOf("flag", "<i>2</i>"), flagged},
             {"itself", archiveOf("name", "@1"), nothing},
-            {"a reference to a reference", archiveOf("name", "@3", "@4<string>x</string>"),
-             nothing},
+            {"a reference to a reference", archiveOf("name", "@3", "@4<s>x</s>"), nothing},
             {"derived class",
-             xmlArchive("<dict><key>$class</key>@2</dict><dict><key>$classname</key>"
-                        "<string>Derived</string><key>$classes</key><array><string>Derived</string>"
-                        "<string>Record</string></array></dict>"),
+             xmlArchive("<dict><k>$class</k>@2</dict><dict><k>$classname</k><s>Derived</s>"
+                        "<k>$classes</k><array><s>Derived</s><s>Record</s></array></dict>"),
              nothing},
         };
         for (const auto &row : rows) {
@@ -273,34 +270,27 @@ private Q_SLOTS:
     void refuses_data()
     {
         QTest::addColumn<QByteArray>("data");
-        const QByteArray root = "<dict><key>$class</key>@2</dict>" + recordDescription;
-        const QByteArray version = "<key>$version</key><integer>100000</integer>";
-        const QByteArray archiver = "<key>$archiver</key><string>Keyed</string>";
+        const QByteArray root = "<dict><k>$class</k>@2</dict>" + recordDescription;
+        const QByteArray version = "<k>$version</k><i>100000</i>";
+        const QByteArray archiver = "<k>$archiver</k><s>Keyed</s>";
         QVERIFY(unarchived(xmlArchive(root)));
         const std::pair<const char *, QByteArray> rows[] = {
             {"nothing", ""},
             {"text", "hello"},
-            {"JSON", R"({"$version":100000})"},
             {"a list", "<plist version=\"1.0\"><array/></plist>"},
             {"no version", xmlArchive(root, "@1", archiver)},
-            {"text as version",
-             xmlArchive(root, "@1", archiver + "<key>$version</key><string>100000</string>")},
-            {"another version",
-             xmlArchive(root, "@1", archiver + "<key>$version</key><integer>1</integer>")},
+            {"text as version", xmlArchive(root, "@1", archiver + "<k>$version</k><s>100000</s>")},
+            {"another version", xmlArchive(root, "@1", archiver + "<k>$version</k><i>1</i>")},
             {"no archiver", xmlArchive(root, "@1", version)},
-            {"number as archiver",
-             xmlArchive(root, "@1", version + "<key>$archiver</key><integer>1</integer>")},
+            {"number as archiver", xmlArchive(root, "@1", version + "<k>$archiver</k><i>1</i>")},
             {"nil root", xmlArchive(root, "@0")},
-            {"root in place", xmlArchive(root, "<string>x</string>")},
+            {"root in place", xmlArchive(root, "<s>x</s>")},
             {"root out of range", xmlArchive(root, "@9")},
-            {"root below range",
-             xmlArchive(root,
-                        "<dict><key>CF$UID</key><integer>-1</integer>"
-                        "</dict>")},
-            {"root of another type", xmlArchive("<string>x</string>")},
-            {"class out of range", xmlArchive("<dict><key>$class</key>@7</dict>")},
-            {"class is itself", xmlArchive("<dict><key>$class</key>@1</dict>")},
-            {"class as text", xmlArchive("<dict><key>$class</key><string>Record</string></dict>")},
+            {"root below range", xmlArchive(root, "<dict><k>CF$UID</k><i>-1</i></dict>")},
+            {"root of another type", xmlArchive("<s>x</s>")},
+            {"class out of range", xmlArchive("<dict><k>$class</k>@7</dict>")},
+            {"class is itself", xmlArchive("<dict><k>$class</k>@1</dict>")},
+            {"class as text", xmlArchive("<dict><k>$class</k><s>Record</s></dict>")},
             {"value out of range", archiveOf("name", "@8")},
             {"nested too deep",
              "<plist version=\"1.0\">" + QByteArray("<array>").repeated(100000)
@@ -311,6 +301,9 @@ private Q_SLOTS:
              binary({QByteArray("\xaf\x13\xff\xff\xff\xff\xff\xff\xff\xff")}, 1)},
             {"huge length of text",
              binary({QByteArray("\x5f\x13\x7f\xff\xff\xff\xff\xff\xff\xff")}, 1)},
+            {"null character in a key",
+             binary({"\xd1" + reference(1) + reference(2), QByteArray("\x62\0a\0\0", 5), "\x09"},
+                    3)},
             {"contains itself", binary({"\xa1" + reference(0)}, 1)},
             {"refers to nothing", binary({"\xa1" + reference(7)}, 1)},
         };

@@ -24,6 +24,7 @@ namespace {
 
 const QString id = u"example.wzt.Test"_s;
 const QString userKey = u"currentUser"_s;
+constexpr qsizetype tooLong = qsizetype(5) * 1024 * 1024;
 
 QByteArray contentOf(const QString &path)
 {
@@ -161,7 +162,7 @@ private Q_SLOTS:
         QTest::newRow("a list") << QByteArray("<plist version=\"1.0\"><array/></plist>");
         QTest::newRow("a folder") << QByteArray("folder");
         QTest::newRow("a pipe") << QByteArray("pipe");
-        QTest::newRow("too long") << QByteArray(5 * 1024 * 1024, ' ');
+        QTest::newRow("too long") << QByteArray(tooLong, ' ');
     }
 
     /// Twice, first found by reading, then by writing.
@@ -208,7 +209,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_folder));
 
         QVERIFY(defaults().setObject(QByteArray("a"), userKey));
-        QVERIFY(!defaults().setObject(QByteArray(5 * 1024 * 1024, 'x'), userKey));
+        QVERIFY(!defaults().setObject(QByteArray(tooLong, 'x'), userKey));
         const QByteArray folder = QFile::encodeName(m_folder);
         const FileDescriptor other(open(folder.constData(), O_RDONLY | O_DIRECTORY));
         QCOMPARE(flock(other.get(), LOCK_EX), 0);
