@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/TestRunner.h"
+
+#include <QFont>
+#include <QGuiApplication>
+
+int main(int argc, char *argv[])
+{
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    return TestRunner::run();
+}
