@@ -3,10 +3,25 @@
 import QtQuick
 import UIKit
 
-/// A hairline across its parent, between rows.
-Rectangle {
+/// A hairline across its parent, between rows; down its parent, between columns.
+Item {
+    id: root
+
+    property bool vertical: false
+
     anchors.left: parent.left
-    anchors.right: parent.right
-    height: Metrics.hairline
-    color: Traits.separatorColor
+    anchors.right: vertical ? undefined : parent.right
+    width: Metrics.hairline
+    height: vertical ? parent.height : Metrics.hairline
+
+    // The software renderer draws no rectangle thinner than a point, but scales one down exactly.
+    Rectangle {
+        width: root.vertical ? 1 : root.width
+        height: root.vertical ? root.height : 1
+        color: Traits.separatorColor
+        transform: Scale {
+            xScale: root.vertical ? Metrics.hairline : 1
+            yScale: root.vertical ? 1 : Metrics.hairline
+        }
+    }
 }

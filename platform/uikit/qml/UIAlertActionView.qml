@@ -61,11 +61,9 @@ UIPressArea {
         Accessible.ignored: true
     }
     Separator { anchors.top: parent.top }
-    Rectangle {
-        width: Metrics.hairline
-        height: parent.height
+    Separator {
+        vertical: true
         visible: root.beside
-        color: Traits.separatorColor
     }
     FocusRing {
         anchors.margins: 4
