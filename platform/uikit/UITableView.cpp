@@ -89,11 +89,13 @@ std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &inde
 void UITableView::recycle(std::shared_ptr<UITableViewCell> cell)
 {
     auto &pooled = m_pool[cell->reuseIdentifier()];
-    if (!cell->reuseIdentifier().isEmpty() && pooled.size() < pooledCells)
+    if (!cell->reuseIdentifier().isEmpty() && pooled.size() < pooledCells) {
         pooled.push_back(std::move(cell));
-    else // what drew the cell goes by a deferred delete that is still to be posted
-        QMetaObject::invokeMethod(
-            this, [cell = std::move(cell)] {}, Qt::QueuedConnection);
+        return;
+    }
+    // What drew the cell goes by a deferred delete that is still to be posted.
+    auto release = [cell = std::move(cell)] {};
+    QMetaObject::invokeMethod(this, std::move(release), Qt::QueuedConnection);
 }
 
 std::shared_ptr<UITableViewCell> UITableView::dequeue(const QString &identifier)

@@ -11,11 +11,12 @@ UITableViewEntries::~UITableViewEntries() = default;
 
 void UITableViewEntries::reload()
 {
-    if (m_loaded)
-        reset([this] {
-            m_loaded = false;
-            load();
-        });
+    if (!m_loaded)
+        return;
+    reset([this] {
+        m_loaded = false;
+        load();
+    });
 }
 
 void UITableViewEntries::clear()
@@ -155,6 +156,8 @@ QVariant UITableViewEntries::data(const QModelIndex &index, int role) const
         return {};
     const int entry = index.row();
     switch (role) {
+    case TableRole:
+        return QVariant::fromValue(&m_table);
     case CellRole:
         return QVariant::fromValue(cellOf(entry));
     case TextRole:
@@ -172,9 +175,7 @@ QVariant UITableViewEntries::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> UITableViewEntries::roleNames() const
 {
-    return {{CellRole, "cell"},
-            {TextRole, "text"},
-            {FixedHeightRole, "fixedHeight"},
-            {PositionRole, "position"},
-            {RowsRole, "rows"}};
+    return {{TableRole, "table"},       {CellRole, "cell"},
+            {TextRole, "text"},         {FixedHeightRole, "fixedHeight"},
+            {PositionRole, "position"}, {RowsRole, "rows"}};
 }

@@ -28,7 +28,14 @@ public:
     /// `cell`: null for a header or footer. `text`: of a header or footer, empty for none.
     /// `fixedHeight`: in points, negative where the drawing decides. `position`: 0 for a header,
     /// 1 and up for a row, one more than `rows` for the footer. `rows`: of the section.
-    enum Role { CellRole = Qt::UserRole, TextRole, FixedHeightRole, PositionRole, RowsRole };
+    enum Role {
+        TableRole = Qt::UserRole,
+        CellRole,
+        TextRole,
+        FixedHeightRole,
+        PositionRole,
+        RowsRole
+    };
 
     explicit UITableViewEntries(UITableView &table);
     ~UITableViewEntries() override;

@@ -8,15 +8,12 @@ Loader {
     id: root
 
     required property UITableView table
-    required property UIFocusItem focusItem
     required property int index
     required property UITableViewCell cell
     required property string text
     required property real fixedHeight
     required property int position
     required property int rows
-
-    readonly property bool hasFocus: focusItem.focusVisible && ListView.isCurrentItem
 
     width: ListView.view?.width ?? 0
     height: fixedHeight >= 0 ? fixedHeight : implicitHeight

@@ -19,7 +19,7 @@ Item {
     Accessible.selectable: true
     Accessible.selected: cell.selected
     Accessible.focusable: true
-    Accessible.focused: entry.hasFocus
+    Accessible.focused: entry.ListView.isCurrentItem
     Accessible.ignored: !cell.accessibilityLabel || !enabled
     Accessible.onPressAction: entry.table.chooseEntry(entry.index)
 
@@ -40,7 +40,6 @@ Item {
     }
     MouseArea {
         anchors.fill: parent
-        onPressed: root.entry.focusItem.byKey = false
         onContainsPressChanged: root.cell.setHighlighted(containsPress)
         onClicked: root.entry.table.chooseEntry(root.entry.index)
     }
@@ -61,10 +60,5 @@ Item {
         anchors.leftMargin: root.entry.position < root.entry.rows ? root.separatorInset : 0
         y: root.height - height
         visible: root.entry.table.drawsSeparators
-    }
-    FocusRing {
-        anchors.leftMargin: 0 // a row reaches from edge to edge
-        anchors.rightMargin: 0
-        shown: root.entry.hasFocus
     }
 }

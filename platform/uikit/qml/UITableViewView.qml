@@ -14,7 +14,12 @@ Rectangle {
         if (entry < 0)
             return;
         list.currentIndex = entry;
-        list.positionViewAtIndex(entry, ListView.Contain);
+        if (list.beside(entry, -1) < 0)
+            list.positionViewAtBeginning(); // the header is seen as well
+        else if (list.beside(entry, 1) < 0)
+            list.positionViewAtEnd();
+        else
+            list.positionViewAtIndex(entry, ListView.Contain);
     }
     function turnPage(step: int) {
         const edge = list.indexAt(0, list.contentY + (step > 0 ? list.height - 1 : 0));
@@ -81,12 +86,19 @@ Rectangle {
         currentIndex: -1
         highlightFollowsCurrentItem: false
         model: root.control.entries
-        delegate: UITableViewEntryView {
-            table: root.control
-            focusItem: keyboard
-        }
+        delegate: UITableViewEntryView { }
 
         Accessible.role: Accessible.List
         Accessible.ignored: !enabled
+    }
+    FocusRing {
+        parent: list.currentItem
+        anchors.leftMargin: 0 // a row reaches from edge to edge
+        anchors.rightMargin: 0
+        z: 1
+        shown: keyboard.focusVisible
+    }
+    PointHandler {
+        onActiveChanged: keyboard.byKey = false
     }
 }
