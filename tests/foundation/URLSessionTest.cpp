@@ -14,7 +14,7 @@ using sandbox::Fault;
 
 namespace {
 
-constexpr auto idle = 400ms;
+constexpr auto idle = 300ms;
 
 /// What the completion of one task was called with, and how often.
 struct Outcome {
@@ -90,6 +90,8 @@ private Q_SLOTS:
     {
         m_service = std::make_unique<sandbox::Sandbox>();
         QVERIFY2(m_service->isRunning(), qPrintable(m_service->errorString()));
+        // A long reply for the drip, most of it body.
+        QVERIFY(m_service->addAccount({.email = u"secret"_s, .name = QString(900, u'a')}, u""_s));
     }
 
     void init()
@@ -129,7 +131,7 @@ private Q_SLOTS:
             {"body of a POST", Fault::json("{}"), 0, "{}", "POST"},
             {"any status", Fault::json("no", 503), 0, "no"},
             {"no content", Fault::raw("HTTP/1.1 204 No\r\n\r\n")},
-            {"slow drip", Fault::drip(20, 60ms)},
+            {"slow drip", Fault::drip(50, 30ms)},
             {"late", Fault::json("x").after(idle / 2), 0, "x"},
             {"compressed", deflated("hello"), 0, "hello"},
             {"chunked", rawReply(pieces + "0\r\n\r\n"), 0, "hello"},

@@ -236,6 +236,7 @@ private Q_SLOTS:
             QVERIFY(WIFSIGNALED(status));
 
             const QByteArray value = defaults().dataForKey(userKey).value_or(QByteArray());
+            QVERIFY(!value.isEmpty());
             QCOMPARE(value, QByteArray(100000, value.at(0)));
             QCOMPARE(defaults().dataForKey(u"other"_s), QByteArray("kept"));
             QVERIFY(entries().size() <= 2);
