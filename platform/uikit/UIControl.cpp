@@ -66,9 +66,10 @@ void UIControl::continueTracking(bool inside)
         sendActionsForControlEvent(inside ? UIControlEvent::TouchDragEnter
                                           : UIControlEvent::TouchDragExit);
     }
-    if (self && m_tracking)
+    if (self && m_tracking) {
         sendActionsForControlEvent(inside ? UIControlEvent::TouchDragInside
                                           : UIControlEvent::TouchDragOutside);
+    }
 }
 
 void UIControl::endTracking(bool inside)

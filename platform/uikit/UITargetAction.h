@@ -29,10 +29,11 @@ public:
     {
         if (!m_target)
             return;
-        if constexpr (std::is_invocable_v<Method, Target *, Sender *>)
+        if constexpr (std::is_invocable_v<Method, Target *, Sender *>) {
             (m_target.data()->*m_method)(sender);
-        else
+        } else {
             (m_target.data()->*m_method)();
+        }
     }
 
     [[nodiscard]] const QObject *target() const override { return m_target; }

@@ -7,9 +7,7 @@ import QtQuick
 /// Lengths that everything drawn shares, in points.
 QtObject {
     /// One device pixel.
-    // qmllint disable missing-property
-    readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio
-    // qmllint enable missing-property
+    readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio // qmllint disable
 
     readonly property real margin: 16
     readonly property real row: 44

@@ -17,9 +17,7 @@ Rectangle {
         property bool lit: true
 
         id: blink
-        // qmllint disable missing-property
-        interval: Qt.styleHints.cursorFlashTime / 2
-        // qmllint enable missing-property
+        interval: Qt.styleHints.cursorFlashTime / 2 // qmllint disable
         repeat: true
         running: root.visible && interval > 0
         onTriggered: lit = !lit

@@ -33,6 +33,8 @@ Item {
             model: 8
 
             Rectangle {
+                id: spoke
+
                 required property int index
 
                 x: 8.75
@@ -41,11 +43,11 @@ Item {
                 radius: 1.25
                 antialiasing: true
                 color: Traits.secondaryLabelColor
-                opacity: 1 - 0.1 * index
+                opacity: 1 - 0.1 * spoke.index
                 transform: Rotation {
                     origin.x: 1.25
                     origin.y: 10
-                    angle: -45 * index
+                    angle: -45 * spoke.index
                 }
             }
         }

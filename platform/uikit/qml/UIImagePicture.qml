@@ -11,7 +11,7 @@ Image {
 
     readonly property string path: "image://uiimage/" + encodeURIComponent(name)
 
-    visible: name
+    visible: name !== ""
     source: !name ? "" : tint.a === 0 ? path : path + "/" + encodeURIComponent(tint)
     sourceSize.width: width
     sourceSize.height: height

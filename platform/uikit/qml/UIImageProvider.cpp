@@ -21,6 +21,8 @@ QImage UIImageProvider::requestImage(const QString &id, QSize *size, const QSize
     const QStringList parts = id.split(u'/');
     const QString name = QUrl::fromPercentEncoding(parts.first().toUtf8());
     QSvgRenderer svg(UIImage::pathOfImageNamed(name));
+    if (!svg.isValid())
+        return {};
     svg.setAspectRatioMode(Qt::KeepAspectRatio);
     *size = svg.defaultSize();
     const QSize pixels = requestedSize.isEmpty() ? *size : requestedSize;

@@ -34,12 +34,12 @@ bool UITapArea::eventFilter(QObject *watched, QEvent *event)
         || event->type() == QEvent::TouchEnd;
     const bool mouse = event->type() == QEvent::MouseButtonPress
         || event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonRelease;
+    // What the system makes of a touch that nobody took was seen as that touch.
+    const bool made =
+        mouse && static_cast<QMouseEvent *>(event)->source() != Qt::MouseEventNotSynthesized;
     if (event->type() == QEvent::TouchCancel)
         m_press.reset();
-    // What is made of a touch that nobody took was seen as a touch.
-    else if (touch
-             || (mouse
-                 && static_cast<QMouseEvent *>(event)->source() == Qt::MouseEventNotSynthesized))
+    if ((touch || mouse) && !made)
         watch(*static_cast<QPointerEvent *>(event));
     return QQuickItem::eventFilter(watched, event);
 }
