@@ -56,6 +56,12 @@ WindowFixture::WindowFixture(const UIAppearance &appearance)
 
 WindowFixture::~WindowFixture()
 {
+    if (host) {
+        // The software renderer frees a picture in the frame after the one that had it last.
+        host->view().setSource(QUrl());
+        host->view().releaseResources();
+        host->view().grabWindow();
+    }
     host.reset();
     window.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
