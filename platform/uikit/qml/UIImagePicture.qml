@@ -15,6 +15,7 @@ Image {
     source: !name ? "" : tint.a === 0 ? path : path + "/" + encodeURIComponent(tint)
     sourceSize.width: width
     sourceSize.height: height
+    cache: false // what is cached and unused at the end would never be freed
     fillMode: Image.PreserveAspectFit
     Accessible.ignored: true
 }
