@@ -7,9 +7,9 @@
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 #include "tests/support/TestWindow.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QAccessible>
-#include <QQuickItem>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -28,21 +28,15 @@ struct Stage {
 
     [[nodiscard]] QRectF rect(const QObject *control)
     {
-        return TestWindow::rect(window->drawing(control));
+        return WindowDriver::rect(WindowDriver::drawing(window->view(), control));
     }
     [[nodiscard]] QAccessibleInterface *accessible(const QString &name)
     {
-        return find(QAccessible::queryAccessibleInterface(&window->view()), name);
+        return WindowDriver::accessible(window->view(), name);
     }
-    static QAccessibleInterface *find(QAccessibleInterface *parent, const QString &name)
+    [[nodiscard]] qsizetype tabBars()
     {
-        if (!parent || parent->text(QAccessible::Name) == name)
-            return parent;
-        for (int i = parent->childCount() - 1; i >= 0; --i) {
-            if (auto *found = find(parent->child(i), name))
-                return found;
-        }
-        return nullptr;
+        return WindowDriver::items(window->view(), u"UITabBarView"_s).size();
     }
 
     TestApp app;
@@ -152,9 +146,9 @@ private Q_SLOTS:
         for (int i = 0; i < 5; ++i)
             window.key(Qt::Key_Backspace);
         window.type(u"secret"_s);
-        window.tap(window.drawing(stage.login->loginButton()));
+        window.tap(stage.login->loginButton());
         QTRY_VERIFY(stage.app.top<WZTTabBarController>());
-        QTRY_COMPARE(window.items(u"UITabBarView"_s).size(), 1);
+        QTRY_COMPARE(stage.tabBars(), 1);
         QCOMPARE(stage.app.delegate().currentUser()->userName, u"Jo"_s);
     }
 
@@ -162,16 +156,16 @@ private Q_SLOTS:
     {
         Stage stage;
         TestWindow &window = *stage.window;
-        window.tap(window.drawing(stage.login->passwordTextField()));
+        window.tap(stage.login->passwordTextField());
         QTRY_VERIFY(stage.login->passwordTextField()->isFirstResponder());
-        window.tap(window.drawing(stage.login->passwordTextField()));
+        window.tap(stage.login->passwordTextField());
         QVERIFY2(stage.login->passwordTextField()->isFirstResponder(),
                  "a tap in the field that is edited ends editing");
-        window.tap(window.drawing(stage.login->logoImageView()));
+        window.tap(stage.login->logoImageView());
         QTRY_VERIFY(!stage.login->passwordTextField()->isFirstResponder());
-        window.tap(window.drawing(stage.login->emailTextField()));
+        window.tap(stage.login->emailTextField());
         QTRY_VERIFY(stage.login->emailTextField()->isFirstResponder());
-        window.tap(window.drawing(stage.login->registerButton())); // ends editing and still counts
+        window.tap(stage.login->registerButton()); // ends editing and still counts
         QTRY_VERIFY(stage.app.top<UIAlertController>());
         QCOMPARE(stage.app.host().taps, 1);
     }
@@ -185,7 +179,7 @@ private Q_SLOTS:
                                        login.loginButton(),    login.forgotPasswordButton(),
                                        login.registerButton(), login.emailTextField()};
         for (const UIView *expected : order) {
-            const QQuickItem *drawing = window.drawing(expected);
+            const QQuickItem *drawing = WindowDriver::drawing(window.view(), expected);
             const QQuickItem *focused = window.view().activeFocusItem();
             QVERIFY2(focused && (focused == drawing || drawing->isAncestorOf(focused)),
                      qPrintable(expected->accessibilityLabel()));
@@ -235,7 +229,7 @@ private Q_SLOTS:
     void tabsAreDrawnOnlyOnceUncovered()
     {
         Stage stage;
-        QCOMPARE(stage.window->items(u"UITabBarView"_s).size(), 0);
+        QCOMPARE(stage.tabBars(), 0);
         QCOMPARE(stage.app.delegate().window()->presentation()->rowCount(), 2);
     }
 };

@@ -3,25 +3,15 @@
 #include "tests/support/TestWindow.h"
 
 #include "tests/support/TestApp.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QAccessible>
 #include <QIcon>
-#include <QPointingDevice>
-#include <QQuickItem>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void collectBelow(QQuickItem *item, const std::function<bool(QQuickItem *)> &wanted,
-                  QList<QQuickItem *> &found)
-{
-    if (wanted(item))
-        found.append(item);
-    for (QQuickItem *child : item->childItems())
-        collectBelow(child, wanted, found);
-}
 
 bool isSettled(const UITransitionStack &stack)
 {
@@ -54,54 +44,17 @@ void TestWindow::settle()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QList<QQuickItem *> TestWindow::collect(const std::function<bool(QQuickItem *)> &wanted)
+void TestWindow::tap(const QObject *control)
 {
-    QList<QQuickItem *> found;
-    collectBelow(view().contentItem(), wanted, found);
-    return found;
+    WindowDriver::tap(view(), WindowDriver::centre(WindowDriver::drawing(view(), control)));
 }
 
-QList<QQuickItem *> TestWindow::items(const QString &type)
+void TestWindow::key(Qt::Key key)
 {
-    const QByteArray prefix = type.toLatin1() + "_QML";
-    return collect([&](QQuickItem *item) {
-        return item->isVisible() && QByteArray(item->metaObject()->className()).startsWith(prefix);
-    });
-}
-
-QQuickItem *TestWindow::named(const QString &name)
-{
-    return collect([&](QQuickItem *item) { return item->objectName() == name; }).value(0);
-}
-
-QQuickItem *TestWindow::drawing(const QObject *control)
-{
-    return collect([&](QQuickItem *item) {
-               return item->property("control").value<QObject *>() == control;
-           })
-        .value(0);
-}
-
-QRectF TestWindow::rect(const QQuickItem *item)
-{
-    return item->mapRectToScene(item->boundingRect());
-}
-
-void TestWindow::tap(const QQuickItem *item)
-{
-    static QPointingDevice *const screen = QTest::createTouchDevice();
-    const QPoint point = rect(item).center().toPoint();
-    QTest::touchEvent(&view(), screen).press(0, point, &view());
-    QTest::touchEvent(&view(), screen).release(0, point, &view());
-}
-
-void TestWindow::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyClick(&view(), key, modifiers);
+    QTest::keyClick(&view(), key);
 }
 
 void TestWindow::type(const QString &text)
 {
-    for (const QChar character : text)
-        QTest::keyClick(&view(), character.toLatin1());
+    WindowDriver::type(view(), text);
 }

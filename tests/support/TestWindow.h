@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QQuickItem;
 class TestApp;
 
 /// The window of a launched TestApp: the real drawings, touches and keys. Whatever QML complains
@@ -24,22 +23,12 @@ public:
     /// Waits until no controller of the window is in a transition.
     void settle();
 
-    /// The shown items of that QML type ("UIButtonView"), in the order in which they are drawn.
-    [[nodiscard]] QList<QQuickItem *> items(const QString &type);
-    /// The item of that objectName; null for none.
-    [[nodiscard]] QQuickItem *named(const QString &name);
-    /// The item that draws that view or control; null for none.
-    [[nodiscard]] QQuickItem *drawing(const QObject *control);
-    /// `item`'s rectangle in the window.
-    [[nodiscard]] static QRectF rect(const QQuickItem *item);
-
-    void tap(const QQuickItem *item);
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Taps what draws that view or control.
+    void tap(const QObject *control);
+    void key(Qt::Key key);
     void type(const QString &text);
 
 private:
-    QList<QQuickItem *> collect(const std::function<bool(QQuickItem *)> &wanted);
-
     TestApp &m_app;
     std::unique_ptr<UIWindowHost> m_host;
 };

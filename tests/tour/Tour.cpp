@@ -3,9 +3,9 @@
 #include "tests/tour/Tour.h"
 
 #include "tests/support/TestWindow.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QAccessible>
-#include <QPointingDevice>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -22,20 +22,6 @@ const Look looks[] = {
     {"light", {390, 844}, {.style = UIUserInterfaceStyle::Light}},
     {"dark", {390, 844}, {.style = UIUserInterfaceStyle::Dark}},
 };
-
-QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &name)
-{
-    if (!parent || parent->state().invisible)
-        return nullptr;
-    if (parent->text(QAccessible::Name) == name)
-        return parent;
-    // What is drawn last lies on top.
-    for (int i = parent->childCount() - 1; i >= 0; --i) {
-        if (QAccessibleInterface *found = findBelow(parent->child(i), name))
-            return found;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -110,23 +96,14 @@ void Tour::take(const Step &step)
 
 void Tour::tap(const QString &name)
 {
-    static QPointingDevice *const screen = QTest::createTouchDevice();
     await(name);
-    QAccessibleInterface *found = find(name);
-    if (!found)
-        return;
     QQuickView &view = m_window->view();
-    const QPoint point = view.mapFromGlobal(found->rect().center());
-    QTest::touchEvent(&view, screen).press(0, point, &view);
-    QTest::touchEvent(&view, screen).release(0, point, &view);
+    if (const QAccessibleInterface *found = WindowDriver::accessible(view, name))
+        WindowDriver::tap(view, view.mapFromGlobal(found->rect().center()));
 }
 
 void Tour::await(const QString &name)
 {
-    QTRY_VERIFY2(find(name), qPrintable(u"nothing is named \"%1\""_s.arg(name)));
-}
-
-QAccessibleInterface *Tour::find(const QString &name)
-{
-    return findBelow(QAccessible::queryAccessibleInterface(&m_window->view()), name);
+    QTRY_VERIFY2(WindowDriver::accessible(m_window->view(), name),
+                 qPrintable(u"nothing is named \"%1\""_s.arg(name)));
 }

@@ -7,7 +7,6 @@
 
 #include <QDir>
 
-class QAccessibleInterface;
 class TestWindow;
 
 /// A person at the application's window: finds things by the names that a screen reader says,
@@ -28,7 +27,6 @@ private:
     void take(const Step &step);
     void tap(const QString &name);
     void await(const QString &name);
-    [[nodiscard]] QAccessibleInterface *find(const QString &name);
 
     QDir m_folder;
     QSize m_size;

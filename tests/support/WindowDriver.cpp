@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/WindowDriver.h"
+
+#include <QAccessible>
+#include <QPointingDevice>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+using Wanted = std::function<bool(const QQuickItem *)>;
+
+QList<QQuickItem *> collect(QQuickItem *item, const Wanted &wanted)
+{
+    QList<QQuickItem *> found;
+    if (wanted(item))
+        found.append(item);
+    for (QQuickItem *child : item->childItems())
+        found += collect(child, wanted);
+    return found;
+}
+
+QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &name)
+{
+    if (!parent || parent->state().invisible)
+        return nullptr;
+    if (parent->text(QAccessible::Name) == name)
+        return parent;
+    // What is drawn last lies on top.
+    for (int i = parent->childCount() - 1; i >= 0; --i) {
+        if (QAccessibleInterface *found = findBelow(parent->child(i), name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QList<QQuickItem *> WindowDriver::items(const QQuickWindow &window, const QString &type)
+{
+    const QByteArray prefix = type.toLatin1() + "_QML";
+    return collect(window.contentItem(), [&](const QQuickItem *item) {
+        return item->isVisible() && QByteArray(item->metaObject()->className()).startsWith(prefix);
+    });
+}
+
+QQuickItem *WindowDriver::named(const QQuickWindow &window, const QString &name)
+{
+    return collect(window.contentItem(),
+                   [&](const QQuickItem *item) { return item->objectName() == name; })
+        .value(0);
+}
+
+QQuickItem *WindowDriver::drawing(const QQuickWindow &window, const QObject *control)
+{
+    return collect(window.contentItem(),
+                   [&](const QQuickItem *item) {
+                       return item->property("control").value<QObject *>() == control;
+                   })
+        .value(0);
+}
+
+QAccessibleInterface *WindowDriver::accessible(QQuickWindow &window, const QString &name)
+{
+    return findBelow(QAccessible::queryAccessibleInterface(&window), name);
+}
+
+QRectF WindowDriver::rect(const QQuickItem *item)
+{
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+QPoint WindowDriver::centre(const QQuickItem *item)
+{
+    return rect(item).center().toPoint();
+}
+
+void WindowDriver::tap(QQuickWindow &window, const QPoint &point)
+{
+    static QPointingDevice *const screen = QTest::createTouchDevice();
+    QTest::touchEvent(&window, screen).press(0, point, &window);
+    QTest::touchEvent(&window, screen).release(0, point, &window);
+}
+
+void WindowDriver::type(QQuickWindow &window, const QString &text)
+{
+    for (const QChar character : text)
+        QTest::keyClick(&window, character.toLatin1());
+}
