@@ -12,7 +12,8 @@ class NSCoder;
 class QJsonObject;
 
 /// An account as the web service describes it: a plain value.
-struct WZTUser {
+class WZTUser {
+public:
     /// The class name under which archives keep a user.
     static constexpr QLatin1StringView className{"WZTUser"};
 

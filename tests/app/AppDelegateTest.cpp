@@ -53,6 +53,13 @@ private:
     QSignalSpy m_account;
 };
 
+/// How the controller over the tabs was presented.
+bool presentedAnimated(TestApp &app)
+{
+    const UITransitionStack &stack = *app.delegate().window()->presentation();
+    return stack.index(1).data(UITransitionStack::AnimatedRole).toBool();
+}
+
 /// The signals that a process has handlers for, the lowest bit standing for signal 1.
 quint64 caughtSignals(pid_t pid)
 {
@@ -72,6 +79,7 @@ private Q_SLOTS:
     void aFirstStartShowsLoginOverHome();
     void theTabsStandInOrder();
     void aSignInIsKeptForTheNextStart();
+    void anArchiveThatLacksFieldsSignsInAndIsNotWrittenBack();
     void aReplacedRecordReplacesTheArchive();
     void aRecordThatCannotBeArchivedIsHeldInMemoryOnly();
     void signingOutForgetsAndAsksAgain();
@@ -93,8 +101,7 @@ void AppDelegateTest::aFirstStartShowsLoginOverHome()
     auto *login = app.top<WZTLoginViewController>();
     QVERIFY(login);
     QCOMPARE(login->presentingViewController(), app.delegate().tabController());
-    // Not animated: the transition is over already.
-    QCOMPARE(login->appearanceState(), UIAppearanceState::Appeared);
+    QVERIFY(!presentedAnimated(app));
     QCOMPARE(app.delegate().tabController()->selectedIndex(), 0);
     QVERIFY(!app.delegate().currentUser());
     QVERIFY(!app.keptData());
@@ -144,6 +151,20 @@ void AppDelegateTest::aSignInIsKeptForTheNextStart()
     QCOMPARE(app.keptData(), kept);
 }
 
+void AppDelegateTest::anArchiveThatLacksFieldsSignsInAndIsNotWrittenBack()
+{
+    NSCoder coder;
+    coder.encodeObject(u"jo@wzt.example"_s, u"email"_s);
+    const QByteArray data =
+        NSKeyedArchiver::archivedDataWithCoder(coder, WZTUser::className).value();
+    TestApp app;
+    app.keepData(data);
+    app.launch();
+    QVERIFY(app.delegate().currentUser() == WZTUser(0, u"jo@wzt.example"_s, {}));
+    QCOMPARE(app.top(), app.delegate().tabController());
+    QCOMPARE(app.keptData(), data);
+}
+
 void AppDelegateTest::aReplacedRecordReplacesTheArchive()
 {
     TestApp app;
@@ -185,7 +206,7 @@ void AppDelegateTest::signingOutForgetsAndAsksAgain()
     QVERIFY(reloads.were(1));
     QCOMPARE(app.delegate().tabController()->selectedIndex(), 0);
     QCOMPARE(app.host().taps, 0);
-    QVERIFY(app.top<WZTLoginViewController>());
+    QVERIFY(app.top<WZTLoginViewController>() && presentedAnimated(app));
     app.launch();
     QVERIFY(app.top<WZTLoginViewController>());
 }

@@ -108,15 +108,15 @@ void WZTUserTest::archivesUseTheirOwnKeys()
 {
     NSCoder coder;
     usualUser().encodeWithCoder(coder);
-    QCOMPARE(coder.values()[u"tavloId"_s], NSCoder::Value(qint64(7)));
-    QCOMPARE(coder.values()[u"earlyAdopter"_s], NSCoder::Value(true));
+    QCOMPARE(coder.decodeIntForKey(u"tavloId"_s), 7);
+    QVERIFY(coder.decodeBoolForKey(u"earlyAdopter"_s));
     QCOMPARE(coder.decodeDateForKey(u"joinDate"_s), usualUser().joinDate);
     const std::pair<QString, QString> texts[] = {
         {u"email"_s, u"jo@wzt.example"_s}, {u"username"_s, u"Jo"_s},  {u"reddit"_s, u"jo_r"_s},
         {u"twitter"_s, u"jo_t"_s},         {u"discord"_s, u"jo#1"_s}, {u"cydiaId"_s, u"123"_s},
     };
     for (const auto &[key, text] : texts)
-        QCOMPARE(coder.values()[key], NSCoder::Value(text));
+        QCOMPARE(coder.decodeStringForKey(key), text);
 
     NSCoder bare;
     WZTUser(1, {}, {}).encodeWithCoder(bare);
