@@ -96,7 +96,8 @@ icu::DateFormat *shared(const Key &key)
     if (cache.size() == cacheSize) {
         cache.pop_front();
     }
-    return cache.emplace_back(key, make(key)).formatter.get();
+    cache.push_back({key, make(key)});
+    return cache.back().formatter.get();
 }
 
 icu::DateFormat *sharedFor(const QString &format, NSDateFormatterStyle style, const QString &locale,
