@@ -44,6 +44,12 @@ void tapHaptically()
     UIImpactFeedbackGenerator(UIImpactFeedbackStyle::Light).impactOccurred();
 }
 
+void stopSpinner(const std::weak_ptr<WZTLoginViewController> &weakScreen)
+{
+    if (const auto screen = weakScreen.lock())
+        screen->activityIndicator()->stopAnimating();
+}
+
 QString trimmedText(const UITextField &field)
 {
     return field.text().value_or(QString()).trimmed();
@@ -73,14 +79,18 @@ void WZTLoginViewController::login(UIControl *)
                            [self = strong(this), weakSelf = weak(this)](
                                NSUInteger code, const std::optional<WZTUser> &user) {
                                dispatchAsyncMain([self, weakSelf, code, user] {
-                                   if (const auto screen = weakSelf.lock())
-                                       screen->m_activityIndicator.stopAnimating();
-                                   if (code == loginSucceeded)
-                                       self->enter(user);
-                                   else
-                                       self->displayMessage(messageForCode(loginMessages, code));
+                                   stopSpinner(weakSelf);
+                                   self->loginEnded(code, user);
                                });
                            });
+}
+
+void WZTLoginViewController::loginEnded(NSUInteger code, const std::optional<WZTUser> &user)
+{
+    if (code == loginSucceeded)
+        enter(user);
+    else
+        displayMessage(messageForCode(loginMessages, code));
 }
 
 void WZTLoginViewController::forgot(UIControl *)
@@ -107,11 +117,15 @@ void WZTLoginViewController::requestReset(const UIAlertController &alert)
     WZTAPI::resetAccountPassword(email,
                                  [self = strong(this), weakSelf = weak(this)](NSUInteger code) {
                                      dispatchAsyncMain([self, weakSelf, code] {
-                                         if (const auto screen = weakSelf.lock())
-                                             screen->m_activityIndicator.stopAnimating();
-                                         self->displayMessage(messageForCode(resetMessages, code));
+                                         stopSpinner(weakSelf);
+                                         self->resetEnded(code);
                                      });
                                  });
+}
+
+void WZTLoginViewController::resetEnded(NSUInteger code)
+{
+    displayMessage(messageForCode(resetMessages, code));
 }
 
 void WZTLoginViewController::registerAccount(UIControl *)
@@ -162,12 +176,17 @@ void WZTLoginViewController::requestAccount(const UIAlertController &alert)
         [self = strong(this)](NSUInteger code, const std::optional<WZTUser> &user) {
             dispatchAsyncMain([self, code, user] {
                 self->m_activityIndicator.stopAnimating();
-                if (code == registrationSucceeded)
-                    self->enter(user);
-                else
-                    self->displayMessage(messageForCode(registrationMessages, code));
+                self->registrationEnded(code, user);
             });
         });
+}
+
+void WZTLoginViewController::registrationEnded(NSUInteger code, const std::optional<WZTUser> &user)
+{
+    if (code == registrationSucceeded)
+        enter(user);
+    else
+        displayMessage(messageForCode(registrationMessages, code));
 }
 
 void WZTLoginViewController::enter(const std::optional<WZTUser> &user)

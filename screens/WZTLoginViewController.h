@@ -58,6 +58,12 @@ public:
     /// Asks for name, e-mail and password and makes an account of them, as typed.
     void registerAccount(UIControl *sender);
 
+    // What becomes of an operation, by its own codes: a message, the way out with or without
+    // a user, or, for a code that is none of them, nothing.
+    void loginEnded(NSUInteger code, const std::optional<WZTUser> &user);
+    void resetEnded(NSUInteger code);
+    void registrationEnded(NSUInteger code, const std::optional<WZTUser> &user);
+
     /// An alert titled "Error".
     void displayErrorMessage(const QString &message);
     /// An alert titled "Great!".

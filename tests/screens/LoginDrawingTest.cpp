@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "app/WZTTabBarController.h"
+#include "platform/uikit/Make.h"
 #include "platform/uikit/UIAlertController.h"
 #include "screens/WZTLoginViewController.h"
 #include "tests/support/TestApp.h"
@@ -224,6 +225,48 @@ private Q_SLOTS:
         stage.app.application().traits().setOverride(
             UIAppearance{.style = UIUserInterfaceStyle::Dark});
         QCOMPARE(colors(), std::pair(QColor(0, 0, 0), QColor(28, 28, 30)));
+    }
+
+    void aHeldReturnActsOnce()
+    {
+        Stage stage;
+        const auto hold = [&] {
+            QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+            QCoreApplication::sendEvent(&stage.window->view(), &repeat);
+        };
+        stage.window->key(Qt::Key_Tab);
+        stage.window->key(Qt::Key_Return); // nothing is typed: an alert
+        hold();
+        stage.window->settle();
+        hold();
+        QVERIFY(stage.app.top<UIAlertController>());
+        QCOMPARE(stage.app.host().taps, 1);
+    }
+
+    void closedScreensDieWithWhatDrewThem()
+    {
+        Stage stage({390, 844}, {.reduceMotion = true});
+        const auto root = stage.window->view().contentItem();
+        qsizetype items = 0;
+        std::vector<QPointer<QObject>> closed;
+        for (int i = 0; i < 500; ++i) {
+            auto *login = stage.app.top<WZTLoginViewController>();
+            closed.emplace_back(login);
+            login->registerButton()->activate();
+            closed.emplace_back(stage.app.top());
+            stage.app.delegate().tabController()->dismissViewControllerAnimated(false);
+            stage.app.delegate().tabController()->presentViewController(
+                make<WZTLoginViewController>(), false);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            if (i == 0)
+                items = root->findChildren<QObject *>().size();
+        }
+        const auto alive = [&] {
+            return std::count_if(closed.begin(), closed.end(),
+                                 [](const auto &controller) { return !controller.isNull(); });
+        };
+        QTRY_COMPARE(alive(), 0);
+        QCOMPARE(root->findChildren<QObject *>().size(), items);
     }
 
     void tabsAreDrawnOnlyOnceUncovered()

@@ -202,22 +202,35 @@ private Q_SLOTS:
         }
     }
 
-    void alertFieldsAskForTheRightKeyboards()
+    void codesWithoutAUserOrAMeaning()
     {
-        TestApp app;
-        app.launch();
-        app.application().traits().setSystemVersion(11);
-        login(app).registerButton()->activate();
-        const auto &older = app.top<UIAlertController>()->textFields();
-        QCOMPARE(older[2]->inputTraits().textContentType, UITextContentType::Unspecified);
-        app.top<UIAlertController>()->triggerCancel();
-        app.application().traits().setSystemVersion(12);
-        login(app).registerButton()->activate();
-        const auto *alert = app.top<UIAlertController>();
-        QCOMPARE(alert->title(), u"New Account"_s);
-        QCOMPARE(alert->actions()[0]->title(), u"Dismiss"_s);
-        QCOMPARE(alert->actions()[1]->title(), u"Register"_s);
+        using Screen = WZTLoginViewController;
+        const struct {
+            std::function<void(Screen &)> end;
+            const char16_t *message;
+            bool leaves;
+        } rows[] = {
+            {[](Screen &screen) { screen.loginEnded(1, std::nullopt); }, u"", true},
+            {[](Screen &screen) { screen.registrationEnded(2, std::nullopt); }, u"", true},
+            {[](Screen &screen) { screen.loginEnded(4, std::nullopt); }, u"", false},
+            {[](Screen &screen) { screen.resetEnded(4); }, u"", false},
+            {[](Screen &screen) { screen.resetEnded(1); },
+             u"An account doesn't exists for this email.", false},
+            {[](Screen &screen) { screen.registrationEnded(5, std::nullopt); }, u"", false},
+        };
+        for (const auto &row : rows) {
+            TestApp app;
+            app.launch();
+            row.end(login(app));
+            QCOMPARE(app.top<WZTTabBarController>() != nullptr, row.leaves);
+            const auto *alert = app.top<UIAlertController>();
+            QCOMPARE(alert ? alert->message() : QString(), QString::fromUtf16(row.message));
+            QVERIFY(!app.delegate().currentUser());
+        }
+    }
 
+    void alertsHaveTheirFieldsAndActions()
+    {
         const UITextInputTraits name{.keyboardType = UIKeyboardType::ASCIICapable,
                                      .autocorrectionType = UITextAutocorrectionType::Yes,
                                      .textContentType = UITextContentType::Name};
@@ -226,19 +239,52 @@ private Q_SLOTS:
                                       .textContentType = UITextContentType::EmailAddress};
         const UITextInputTraits password{.textContentType = UITextContentType::NewPassword,
                                          .secureTextEntry = true};
-        const std::pair<QString, UITextInputTraits> rows[] = {
-            {u"Name"_s, name}, {u"Email"_s, email}, {u"Password"_s, password}};
-        for (std::size_t i = 0; i < std::size(rows); ++i) {
-            const UITextField &field = *alert->textFields().at(i);
-            QCOMPARE(field.placeholder(), rows[i].first);
-            QVERIFY(field.inputTraits() == rows[i].second);
-            QCOMPARE(field.borderStyle(), UITextField::BorderStyle::RoundedRect);
+        const UITextInputTraits older{.secureTextEntry = true};
+        using Fields = std::vector<std::pair<const char16_t *, UITextInputTraits>>;
+        const struct {
+            double version;
+            UIButton *(WZTLoginViewController::*button)();
+            const char16_t *title;
+            const char16_t *action;
+            Fields fields;
+        } rows[] = {
+            {12,
+             &WZTLoginViewController::registerButton,
+             u"New Account",
+             u"Register",
+             {{u"Name", name}, {u"Email", email}, {u"Password", password}}},
+            {11,
+             &WZTLoginViewController::registerButton,
+             u"New Account",
+             u"Register",
+             {{u"Name", name}, {u"Email", email}, {u"Password", older}}},
+            {12,
+             &WZTLoginViewController::forgotPasswordButton,
+             u"Reset Password",
+             u"Reset",
+             {{u"Email", email}}},
+        };
+        for (const auto &row : rows) {
+            TestApp app;
+            app.launch();
+            app.application().traits().setSystemVersion(row.version);
+            (login(app).*row.button)()->activate();
+            const auto *alert = app.top<UIAlertController>();
+            QCOMPARE(alert->title(), QString::fromUtf16(row.title));
+            QCOMPARE(alert->message(), QString());
+            QCOMPARE(alert->actions().size(), std::size_t(2));
+            QCOMPARE(alert->actions()[0]->title(), u"Dismiss"_s);
+            QCOMPARE(alert->actions()[0]->style(), UIAlertAction::Style::Cancel);
+            QCOMPARE(alert->actions()[1]->title(), QString::fromUtf16(row.action));
+            QCOMPARE(alert->actions()[1]->style(), UIAlertAction::Style::Default);
+            QCOMPARE(alert->textFields().size(), row.fields.size());
+            for (std::size_t i = 0; i < row.fields.size(); ++i) {
+                const UITextField &field = *alert->textFields()[i];
+                QCOMPARE(field.placeholder(), QString::fromUtf16(row.fields[i].first));
+                QVERIFY(field.inputTraits() == row.fields[i].second);
+                QCOMPARE(field.borderStyle(), UITextField::BorderStyle::RoundedRect);
+            }
         }
-        app.top<UIAlertController>()->triggerCancel();
-        login(app).forgotPasswordButton()->activate();
-        QCOMPARE(app.top<UIAlertController>()->title(), u"Reset Password"_s);
-        QVERIFY(app.top<UIAlertController>()->textFields().at(0)->inputTraits() == email);
-        QCOMPARE(app.top<UIAlertController>()->textFields().size(), std::size_t(1));
     }
 
     void theKeyboardFollowsReturnAndTaps()
@@ -273,37 +319,70 @@ private Q_SLOTS:
         QCOMPARE(app.service().requests().size(), 2);
     }
 
-    void fallbacksOfOlderSystems()
+    void looksByVersion_data()
     {
-        TestApp app;
-        app.launch();
-        app.application().traits().setSystemVersion(10);
-        const auto screen = make<WZTLoginViewController>();
-        screen->loadViewIfNeeded();
-        QCOMPARE(screen->view()->backgroundColor(), UIColor::colorWithRed(0.949, 0.945, 0.965, 1));
-        QCOMPARE(screen->formContainer()->backgroundColor(), UIColor::whiteColor());
-        QCOMPARE(screen->emailTextField()->placeholderColor(), UIColor::lightGrayColor());
-        QCOMPARE(screen->emailTextField()->layer().borderColor, UIColor::grayColor());
-        QCOMPARE(screen->passwordTextField()->inputTraits().textContentType,
-                 UITextContentType::Unspecified);
+        QTest::addColumn<double>("version");
+        QTest::addColumn<UIColor>("background");
+        QTest::addColumn<UIColor>("card");
+        QTest::addColumn<UIColor>("text");
+        QTest::addColumn<UIColor>("placeholder");
+        QTest::addColumn<UIColor>("line");
+        QTest::addColumn<bool>("continuous");
+        const auto drawn = [](const UIColor &color) {
+            const QColor c = color.drawn(true);
+            return UIColor::colorWithRed(c.redF(), c.greenF(), c.blueF(), c.alphaF());
+        };
+        QTest::newRow("10") << 10.0 << drawn(UIColor::colorWithRed(0.949, 0.945, 0.965, 1))
+                            << drawn(UIColor::whiteColor()) << drawn(UIColor::blackColor())
+                            << drawn(UIColor::lightGrayColor()) << drawn(UIColor::grayColor())
+                            << false;
+        QTest::newRow("13") << 13.0 << drawn(UIColor::systemGroupedBackgroundColor())
+                            << drawn(UIColor::secondarySystemGroupedBackgroundColor())
+                            << drawn(UIColor::labelColor()) << drawn(UIColor::tertiaryLabelColor())
+                            << drawn(UIColor::separatorColor()) << true;
     }
 
-    void closedScreensDie()
+    void looksByVersion()
     {
+        QFETCH(const double, version);
         TestApp app;
         app.launch();
-        std::vector<std::weak_ptr<UIViewController>> screens;
-        for (int i = 0; i < 500; ++i) {
-            screens.push_back(login(app).weak_from_this());
-            login(app).registerButton()->activate();
-            screens.push_back(app.top()->weak_from_this());
-            app.delegate().tabController()->dismissViewControllerAnimated(true);
-            app.delegate().logout();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        app.application().traits().setSystemVersion(version);
+        const auto screen = make<WZTLoginViewController>();
+        screen->loadViewIfNeeded();
+        const auto matches = [](const UIColor &color, const char *column) {
+            const auto *expected =
+                static_cast<UIColor *>(QTest::qData(column, qMetaTypeId<UIColor>()));
+            return color.drawn(true) == expected->drawn(true);
+        };
+        QVERIFY(matches(screen->view()->backgroundColor(), "background"));
+        QVERIFY(matches(screen->formContainer()->backgroundColor(), "card"));
+        QVERIFY(matches(screen->headerLabel()->textColor(), "text"));
+        QTEST(screen->formContainer()->layer().cornerCurve == CALayer::CornerCurve::Continuous,
+              "continuous");
+        QCOMPARE(screen->formContainer()->layer().cornerRadius, 12);
+        QCOMPARE(screen->headerLabel()->font().pointSize(), 22);
+        QCOMPARE(screen->forgotPasswordButton()->titleFont().pointSize(), 13);
+        for (UITextField *field : {screen->emailTextField(), screen->passwordTextField()}) {
+            QVERIFY(matches(field->textColor(), "text"));
+            QVERIFY(matches(field->placeholderColor(), "placeholder"));
+            QVERIFY(matches(field->layer().borderColor, "line"));
+            QCOMPARE(field->layer().borderWidth, 2);
+            QCOMPARE(field->layer().cornerRadius, 12);
+            QCOMPARE(field->leftViewWidth(), 14);
         }
-        const auto alive = std::count_if(screens.begin(), screens.end(),
-                                         [](const auto &screen) { return !screen.expired(); });
-        QCOMPARE(alive, 0);
+        using Capitals = UITextAutocapitalizationType;
+        QVERIFY(screen->emailTextField()->inputTraits()
+                == (UITextInputTraits{.keyboardType = UIKeyboardType::EmailAddress,
+                                      .autocapitalizationType = Capitals::None,
+                                      .textContentType = UITextContentType::EmailAddress}));
+        QVERIFY(
+            screen->passwordTextField()->inputTraits()
+            == (UITextInputTraits{.keyboardType = UIKeyboardType::ASCIICapable,
+                                  .autocapitalizationType = Capitals::None,
+                                  .textContentType = version < 11 ? UITextContentType::Unspecified
+                                                                  : UITextContentType::Password,
+                                  .secureTextEntry = true}));
     }
 };
 
