@@ -58,6 +58,8 @@ int Launch::run()
 {
     const QStringList urls = QGuiApplication::arguments().mid(1);
     const auto opened = [this](const QStringList &later) {
+        if (!m_window)
+            return;
         openURLs(later);
         m_window->show();
     };
@@ -98,6 +100,8 @@ void Launch::openURLs(const QStringList &urls)
 
 void Launch::end()
 {
+    // A start from now on is not handed to an application that is about to go.
+    m_host.resignOnlyInstance();
     m_runtime->delegate().applicationWillTerminate();
     m_runtime->finish();
     m_window.reset();

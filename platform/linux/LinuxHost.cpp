@@ -63,3 +63,8 @@ bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
         std::make_unique<SingleInstance>(m_bus->connection(), m_applicationId, std::move(opened));
     return m_instance->claimOrHandOver(urls);
 }
+
+void LinuxHost::resignOnlyInstance()
+{
+    m_instance.reset();
+}

@@ -29,6 +29,8 @@ public:
     void observeAppearance(std::function<void(const UIAppearance &)> changed) override;
     [[nodiscard]] bool becomeOnlyInstance(const QStringList &urls,
                                           std::function<void(const QStringList &)> opened) override;
+    /// A later start of the application is on its own from now on.
+    void resignOnlyInstance();
 
 private:
     void tellAppearance();

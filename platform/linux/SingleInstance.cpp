@@ -57,6 +57,13 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
     m_bus.registerObject(m_path, this, QDBusConnection::ExportAllSlots);
 }
 
+SingleInstance::~SingleInstance()
+{
+    if (QDBusConnectionInterface *daemon = m_bus.interface())
+        daemon->unregisterService(m_name);
+    m_bus.unregisterObject(m_path);
+}
+
 bool SingleInstance::claimOrHandOver(const QStringList &urls)
 {
     // The owner may end while it is being asked.

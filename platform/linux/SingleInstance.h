@@ -20,6 +20,9 @@ public:
     /// `opened` is called for each list of URLs handed over, empty for a mere activation.
     SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                    std::function<void(const QStringList &)> opened);
+    /// Gives the name up, if it has it.
+    ~SingleInstance() override;
+    Q_DISABLE_COPY_MOVE(SingleInstance)
 
     /// True when this process owns the name now. Otherwise `urls` went to the owner; one that does
     /// not answer within two seconds finds them when it wakes up.
