@@ -22,7 +22,7 @@ QList<DemoAccount> demoAccounts()
           .name = u"Bartłomiej Wróblewski-Szczęśniewicz z Żółkiewki"_s,
           .discord = u"wróbel"_s,
           .joined = u"2021-03-28 01:59:59"_s},
-         u"zielona-łąka-7"_s},
+         u"zielona-laka-7"_s},
         {{.email = u"sam.okafor@wzt.example"_s,
           .name = u"Sam Okafor"_s,
           .joined = u"2023-11-02 08:30:00"_s},

@@ -37,7 +37,8 @@ const QList<QCommandLineOption> &options()
         {u"directory"_s, u"State of the service: certificates, accounts, messages."_s, u"DIR"_s},
         {u"port"_s, u"Port on 127.0.0.1 and ::1; 0, the default, picks a free one."_s, u"N"_s,
          u"0"_s},
-        {u"demo"_s, u"Make the demo accounts that are missing, and print them all."_s},
+        {u"demo"_s,
+         u"Make the demo accounts, or give them their first passwords again, and print them."_s},
         {u"stage"_s, u"Hand a line to the service that runs in DIR, and end."_s, u"LINE"_s},
     };
     return all;
@@ -60,7 +61,7 @@ void makeDemoAccounts(sandbox::Sandbox &service)
 {
     const auto accounts = sandbox::demoAccounts();
     for (const auto &[account, password] : accounts) {
-        if (!service.account(account.email)) {
+        if (!service.setPassword(account.email, password)) {
             service.addAccount(account, password);
         }
         print(u"account\t%1\t%2\t%3"_s.arg(account.email, password, account.name));
