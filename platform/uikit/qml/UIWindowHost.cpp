@@ -3,7 +3,6 @@
 #include "platform/uikit/qml/UIWindowHost.h"
 
 #include "platform/uikit/UIWindow.h"
-#include "platform/uikit/qml/UIImageProvider.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -13,7 +12,6 @@ UIWindowHost::UIWindowHost(UIWindow &window, const QString &title, const QIcon &
 {
     QQmlEngine &engine = *m_view.engine();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    UIImageProvider::install(engine);
     QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(),
                      &QCoreApplication::quit);
     m_view.setTitle(title);

@@ -4,7 +4,6 @@
 #include "tests/uikit/qml/ControlsPage.h"
 
 #include <QAccessible>
-#include <QPointingDevice>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -47,9 +46,6 @@ private Q_SLOTS:
     void coloursFollowTheStyle();
     void picturesAreCrispAndTinted();
     void labelsAndSpinnersTakeNothingWhenIdle();
-
-private:
-    QPointingDevice *const m_screen = QTest::createTouchDevice();
 };
 
 void ControlsTest::touches_data()
@@ -83,6 +79,7 @@ void ControlsTest::touches()
     EventLog log(page.button);
     EventLog neighbour(page.link);
     QQuickView *window = &page.fixture.window;
+    QPointingDevice *screen = page.fixture.screen.get();
     const QPoint middle = page.at("button");
     for (qsizetype step = 0; step < path.size(); ++step) {
         const QPoint at = middle + path[step];
@@ -91,9 +88,9 @@ void ControlsTest::touches()
         else if (mouse)
             QTest::mouseMove(window, at);
         else if (step == 0)
-            QTest::touchEvent(window, m_screen).press(0, at, window);
+            QTest::touchEvent(window, screen).press(0, at, window);
         else
-            QTest::touchEvent(window, m_screen).move(0, at, window);
+            QTest::touchEvent(window, screen).move(0, at, window);
         QSignalSpy frame(window, &QQuickWindow::frameSwapped); // which moves are delivered with
         window->update();
         QVERIFY(frame.wait());
@@ -101,7 +98,7 @@ void ControlsTest::touches()
     if (mouse)
         QTest::mouseRelease(window, Qt::LeftButton, {}, middle + path.last());
     else
-        QTest::touchEvent(window, m_screen).release(0, middle + path.last(), window);
+        QTest::touchEvent(window, screen).release(0, middle + path.last(), window);
     QTEST(log.take(), "events");
     QTEST(neighbour.take(), "neighbour");
 }
@@ -112,8 +109,8 @@ void ControlsTest::touchesAreTakenAway_data()
     QTest::addColumn<Taking>("take");
     QTest::newRow("covered") << Taking([](ControlsPage &p) { p.item("page")->setEnabled(false); });
     QTest::newRow("hidden") << Taking([](ControlsPage &p) { p.item("page")->setVisible(false); });
-    QTest::newRow("system") << Taking([this](ControlsPage &page) {
-        QTouchEvent cancel(QEvent::TouchCancel, m_screen);
+    QTest::newRow("system") << Taking([](ControlsPage &page) {
+        QTouchEvent cancel(QEvent::TouchCancel, page.fixture.screen.get());
         QCoreApplication::sendEvent(&page.fixture.window, &cancel);
     });
 }
@@ -125,9 +122,10 @@ void ControlsTest::touchesAreTakenAway()
     ControlsPage page;
     EventLog log(page.button);
     QQuickView *window = &page.fixture.window;
-    QTest::touchEvent(window, m_screen).press(0, page.at("button"), window);
+    QPointingDevice *screen = page.fixture.screen.get();
+    QTest::touchEvent(window, screen).press(0, page.at("button"), window);
     take(page);
-    QTest::touchEvent(window, m_screen).release(0, page.at("button"), window);
+    QTest::touchEvent(window, screen).release(0, page.at("button"), window);
     QCOMPARE(log.take(), u"down* cancel"_s);
     QCOMPARE(page.taps, 0);
 }

@@ -2,18 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/uikit/qml/QmlFixture.h"
 
-#include "platform/uikit/qml/UIImageProvider.h"
-
-#include <QPointingDevice>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTest>
 
-QmlFixture::QmlFixture()
+QmlFixture::QmlFixture() : screen(QTest::createTouchDevice())
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    UIImageProvider::install(*window.engine());
     window.setResizeMode(QQuickView::SizeRootObjectToView);
     window.resize(390, 844);
 }
@@ -68,7 +64,6 @@ QImage QmlFixture::grab()
 
 void QmlFixture::tap(const QPoint &point)
 {
-    static QPointingDevice *const screen = QTest::createTouchDevice();
-    QTest::touchEvent(&window, screen).press(0, point, &window);
-    QTest::touchEvent(&window, screen).release(0, point, &window);
+    QTest::touchEvent(&window, screen.get()).press(0, point, &window);
+    QTest::touchEvent(&window, screen.get()).release(0, point, &window);
 }

@@ -5,8 +5,11 @@
 #include "platform/uikit/UIApplication.h"
 #include "tests/support/RecordingHost.h"
 
+#include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickView>
+
+#include <memory>
 
 /// An application and a window to draw in, 390x844, shown and active. Anything that QML complains
 /// about fails the test.
@@ -17,6 +20,8 @@ public:
     RecordingHost host;
     UIApplication application{host};
     QQuickView window;
+    /// What a finger touches.
+    const std::unique_ptr<QPointingDevice> screen;
 
     /// Shows the drawing `file` ("UILabelView.qml") of the module UIKit with these properties and
     /// returns its root item; null, with the test failed, when it cannot be loaded.
