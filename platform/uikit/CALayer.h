@@ -21,6 +21,7 @@ public:
     double borderWidth = 0;
     UIColor borderColor = {};
     bool masksToBounds = false;
+    /// Kept for whoever can draw it: Qt's rounded rectangle has circular corners only.
     CornerCurve cornerCurve = CornerCurve::Circular;
 
     bool operator==(const CALayer &) const = default;

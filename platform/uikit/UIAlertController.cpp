@@ -41,7 +41,7 @@ void UIAlertController::viewWillAppear(bool animated)
 
 void UIAlertController::trigger(UIAlertAction *action)
 {
-    if (std::exchange(m_triggered, true))
+    if (!isOnTop())
         return;
     UIAlertAction::Handler handler = std::move(action->m_handler);
     for (const auto &other : m_actions)

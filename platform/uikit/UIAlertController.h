@@ -44,7 +44,7 @@ public:
         return m_textFields;
     }
 
-    /// What the button of that action does. A second trigger does nothing.
+    /// What the button of that action does; nothing unless the alert is the topmost, not leaving.
     Q_INVOKABLE void trigger(UIAlertAction *action);
     /// Return: the only action, or else the first of the default style. In a field before the last
     /// one Return moves to the next field instead.
@@ -65,5 +65,4 @@ private:
     QString m_message;
     std::vector<std::unique_ptr<UIAlertAction>> m_actions;
     std::vector<std::unique_ptr<UITextField>> m_textFields;
-    bool m_triggered = false;
 };

@@ -48,11 +48,6 @@ UIColor UIColor::initWithDynamicProvider(Provider provider)
     return color;
 }
 
-UIColor UIColor::clearColor()
-{
-    return colorWithWhite(0, 0);
-}
-
 UIColor UIColor::blackColor()
 {
     return colorWithWhite(0, 1);
@@ -83,11 +78,6 @@ UIColor UIColor::systemTealColor()
     return systemColor({48, 176, 199, 1}, {64, 200, 224, 1});
 }
 
-UIColor UIColor::systemGrayColor()
-{
-    return systemColor({142, 142, 147, 1}, {142, 142, 147, 1});
-}
-
 UIColor UIColor::labelColor()
 {
     return systemColor({0, 0, 0, 1}, {255, 255, 255, 1});
@@ -106,11 +96,6 @@ UIColor UIColor::tertiaryLabelColor()
 UIColor UIColor::separatorColor()
 {
     return systemColor({60, 60, 67, 0.29}, {84, 84, 88, 0.6});
-}
-
-UIColor UIColor::systemBackgroundColor()
-{
-    return systemColor({255, 255, 255, 1}, {0, 0, 0, 1});
 }
 
 UIColor UIColor::systemGroupedBackgroundColor()

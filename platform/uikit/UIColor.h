@@ -28,7 +28,6 @@ public:
     /// A dynamic colour; `provider` is called whenever the colour is resolved.
     [[nodiscard]] static UIColor initWithDynamicProvider(Provider provider);
 
-    [[nodiscard]] static UIColor clearColor();
     [[nodiscard]] static UIColor blackColor();
     [[nodiscard]] static UIColor whiteColor();
     [[nodiscard]] static UIColor grayColor();
@@ -37,12 +36,10 @@ public:
     // The platform's public values for light and dark.
     [[nodiscard]] static UIColor systemBlueColor();
     [[nodiscard]] static UIColor systemTealColor();
-    [[nodiscard]] static UIColor systemGrayColor();
     [[nodiscard]] static UIColor labelColor();
     [[nodiscard]] static UIColor secondaryLabelColor();
     [[nodiscard]] static UIColor tertiaryLabelColor();
     [[nodiscard]] static UIColor separatorColor();
-    [[nodiscard]] static UIColor systemBackgroundColor();
     [[nodiscard]] static UIColor systemGroupedBackgroundColor();
     [[nodiscard]] static UIColor secondarySystemGroupedBackgroundColor();
 

@@ -31,7 +31,8 @@ void UIResponder::moveFirstResponder(UIResponder *to)
         return;
     const QPointer<UIResponder> from = std::exchange(application->m_firstResponder, to);
     for (const QPointer<UIResponder> &responder : {from, QPointer<UIResponder>(to)}) {
-        if (!responder)
+        // The one that lost the keyboard may have moved it on.
+        if (!responder || (responder == to && !to->isFirstResponder()))
             continue;
         responder->firstResponderDidChange();
         if (responder)

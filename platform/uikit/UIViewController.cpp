@@ -5,8 +5,7 @@
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UINavigationItem.h"
 #include "platform/uikit/UITabBarItem.h"
-
-#include <QMetaClassInfo>
+#include "platform/uikit/UIViewUrl.h"
 
 namespace {
 
@@ -28,11 +27,7 @@ void UIViewController::setTabBarItem(std::unique_ptr<UITabBarItem> item)
 
 QUrl UIViewController::viewUrl() const
 {
-    const int index = metaObject()->indexOfClassInfo("view");
-    if (index < 0)
-        return {};
-    const auto file = QString::fromLatin1(metaObject()->classInfo(index).value());
-    return QUrl(QStringLiteral("qrc:/qt/qml/") + file);
+    return viewUrlOf(*this);
 }
 
 void UIViewController::loadViewIfNeeded()
@@ -94,10 +89,10 @@ UIViewController *UIViewController::presentingViewController() const
     return entry ? entry->m_stack->below(entry) : nullptr;
 }
 
-UIViewController *UIViewController::presentedViewController() const
+bool UIViewController::isOnTop() const
 {
     const UIViewController *entry = presentedEntry();
-    return entry ? entry->m_stack->above(entry) : nullptr;
+    return entry && entry->m_stack->top() == entry;
 }
 
 void UIViewController::showViewController(std::shared_ptr<UIViewController> controller)

@@ -68,14 +68,11 @@ public:
     void dismissViewControllerAnimated(bool animated, Completion completion = {});
     /// The controller that this one, or the container it is in, is presented over; null for none.
     [[nodiscard]] UIViewController *presentingViewController() const;
-    /// The controller that is presented over this one; null for none.
-    [[nodiscard]] UIViewController *presentedViewController() const;
 
     /// Pushes `controller` on the nearest navigation controller, or presents it where there is
     /// none.
     void showViewController(std::shared_ptr<UIViewController> controller);
 
-    [[nodiscard]] UIViewController *parentViewController() const { return m_parent; }
     [[nodiscard]] UINavigationController *navigationController() const;
 
     [[nodiscard]] UIAppearanceState appearanceState() const { return m_appearance; }
@@ -83,6 +80,8 @@ public:
 protected:
     /// For a container: the appearance changed, the children follow.
     virtual void appearanceStateDidChange(UITransitionStack::Motion motion);
+    /// Whether the controller is presented, not leaving, and nothing is presented over it.
+    [[nodiscard]] bool isOnTop() const;
     /// For a container: `child` is now part of this controller.
     void adopt(UIViewController &child) { child.m_parent = this; }
     static void beginAppearance(UIViewController &controller, UITransitionStack::Motion motion);

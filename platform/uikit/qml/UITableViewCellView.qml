@@ -18,6 +18,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: Metrics.rowImage
         height: width
+        visible: name !== ""
         name: root.control.imageView.image.name
         tint: root.control.imageView.tintColor.drawn(Traits.dark)
     }

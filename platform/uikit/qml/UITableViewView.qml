@@ -43,7 +43,10 @@ Rectangle {
         Keys.onDownPressed: root.goTo(list.beside(list.currentIndex, 1))
         Keys.onReturnPressed: root.control.chooseEntry(list.currentIndex)
         Keys.onEnterPressed: root.control.chooseEntry(list.currentIndex)
-        Keys.onSpacePressed: root.control.chooseEntry(list.currentIndex)
+        Keys.onSpacePressed: event => {
+            if (!event.isAutoRepeat)
+                root.control.chooseEntry(list.currentIndex)
+        }
         Keys.onPressed: event => {
             const actions = {
                 [Qt.Key_Home]: () => root.goTo(list.beside(-1, 1)),

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/uikit/qml/KeyRepeatFilter.h"
+
 #include <QQuickView>
 
 class UIWindow;
@@ -23,4 +25,5 @@ public:
 
 private:
     QQuickView m_view;
+    KeyRepeatFilter m_keyRepeatFilter{m_view};
 };

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QWindow;
+
+/// Keeps a held Return or Escape from acting again and again: through an alert, what is below it
+/// and the alert that comes of that. In text of several lines Return repeats.
+class KeyRepeatFilter : public QObject {
+    Q_OBJECT
+
+public:
+    /// Filters what `window` is sent from now on.
+    explicit KeyRepeatFilter(QWindow &window);
+
+    bool eventFilter(QObject *window, QEvent *event) override;
+};
