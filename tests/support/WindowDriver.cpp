@@ -41,9 +41,11 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 
 QList<QQuickItem *> WindowDriver::items(const QQuickWindow &window, const QString &type)
 {
-    const QByteArray prefix = type.toLatin1() + "_QML";
+    const QByteArray name = type.toLatin1();
+    const QByteArray prefix = name + "_QML";
     return collect(window.contentItem(), [&](const QQuickItem *item) {
-        return item->isVisible() && QByteArray(item->metaObject()->className()).startsWith(prefix);
+        const QByteArrayView itemType = item->metaObject()->className();
+        return itemType == name || itemType.startsWith(prefix);
     });
 }
 

@@ -11,7 +11,7 @@ class QQuickWindow;
 /// screen reader says, and touches and types. Items made by Repeaters and Loaders are found too.
 namespace WindowDriver {
 
-/// The items of that QML type ("UIButtonView"), in the order in which they are drawn.
+/// The items of that type ("UIButtonView"), in the order in which they are drawn.
 [[nodiscard]] QList<QQuickItem *> items(const QQuickWindow &window, const QString &type);
 /// The item of that objectName; null for none.
 [[nodiscard]] QQuickItem *named(const QQuickWindow &window, const QString &name);

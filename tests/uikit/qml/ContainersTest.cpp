@@ -161,10 +161,11 @@ void ContainersTest::waysBack()
     QVERIFY(names.contains(u"Button Back to Home"_s) && names.contains(u"Heading Projects"_s));
     QVERIFY(!names.contains(u"EditableText Home"_s));
 
-    if (key == Qt::Key_unknown)
+    if (key == Qt::Key_unknown) {
         fixture.tap(fixture.item(u"UIBackButtonView"_s));
-    else
+    } else {
         fixture.key(key, modifiers);
+    }
     fixture.settle();
     QCOMPARE(shell.navigation->topViewController(), shell.home.get());
     QCOMPARE(fixture.focused(), u"Home"_s);
@@ -184,8 +185,8 @@ void ContainersTest::longTitlesLeaveTheBackButton()
     const QRectF back = WindowFixture::rect(fixture.item(u"UIBackButtonView"_s));
     QCOMPARE(back.size(), QSizeF(44, 44));
     for (const QQuickItem *item : fixture.item(u"UINavigationBarView"_s)->childItems()) {
-        if (item->property("text").isValid())
-            QVERIFY(!WindowFixture::rect(item).intersects(back));
+        const bool isTitle = item->property("text").isValid();
+        QVERIFY(!isTitle || !WindowFixture::rect(item).intersects(back));
     }
 }
 

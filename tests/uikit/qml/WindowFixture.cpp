@@ -3,23 +3,14 @@
 #include "tests/uikit/qml/WindowFixture.h"
 
 #include "platform/uikit/UINavigationItem.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QAccessible>
 #include <QIcon>
-#include <QPointingDevice>
 #include <QQuickItem>
 #include <QTest>
 
 namespace {
-
-void collect(QQuickItem *item, const std::function<bool(QQuickItem *)> &wanted,
-             QList<QQuickItem *> &found)
-{
-    if (wanted(item))
-        found.append(item);
-    for (QQuickItem *child : item->childItems())
-        collect(child, wanted, found);
-}
 
 void collect(QAccessibleInterface *interface, QStringList &found)
 {
@@ -95,37 +86,22 @@ void WindowFixture::settle()
 
 QList<QQuickItem *> WindowFixture::items(const QString &type) const
 {
-    QList<QQuickItem *> found;
-    const QByteArray prefix = type.toLatin1() + "_QML";
-    collect(
-        host->view().contentItem(),
-        [&](QQuickItem *item) {
-            return QByteArray(item->metaObject()->className()).startsWith(prefix);
-        },
-        found);
-    return found;
+    return WindowDriver::items(host->view(), type);
 }
 
 QQuickItem *WindowFixture::named(const QString &name) const
 {
-    QList<QQuickItem *> found;
-    collect(
-        host->view().contentItem(), [&](QQuickItem *item) { return item->objectName() == name; },
-        found);
-    return found.value(0);
+    return WindowDriver::named(host->view(), name);
 }
 
 QRectF WindowFixture::rect(const QQuickItem *item)
 {
-    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    return WindowDriver::rect(item);
 }
 
 void WindowFixture::tap(const QQuickItem *item)
 {
-    static QPointingDevice *const screen = QTest::createTouchDevice();
-    const QPoint point = rect(item).center().toPoint();
-    QTest::touchEvent(&host->view(), screen).press(0, point, &host->view());
-    QTest::touchEvent(&host->view(), screen).release(0, point, &host->view());
+    WindowDriver::tap(host->view(), WindowDriver::centre(item));
 }
 
 void WindowFixture::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
