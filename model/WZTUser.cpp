@@ -33,9 +33,9 @@ struct OptionalText {
 };
 
 constexpr OptionalText optionalTexts[] = {
+    {&WZTUser::discordUsername, {"userDiscord"_L1, "discord"_L1}},
     {&WZTUser::redditUsername, {"userReddit"_L1, "reddit"_L1}},
     {&WZTUser::twitterUsername, {"userTwitter"_L1, "twitter"_L1}},
-    {&WZTUser::discordUsername, {"userDiscord"_L1, "discord"_L1}},
     {&WZTUser::cydiaId, {"userCydiaID"_L1, "cydiaId"_L1}},
 };
 
