@@ -16,7 +16,7 @@ UIViewView {
         id: page
 
         anchors.fill: parent
-        anchors.bottomMargin: Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
+        anchors.bottomMargin: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
         contentHeight: indicator.y + indicator.implicitHeight + Metrics.margin
 
         UIImageViewView {

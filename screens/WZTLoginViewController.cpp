@@ -59,10 +59,11 @@ QString trimmedText(const UITextField &field)
 
 void WZTLoginViewController::handleSingleTap(UITapGestureRecognizer *)
 {
-    if (m_emailTextField.isFirstResponder())
+    if (m_emailTextField.isFirstResponder()) {
         m_emailTextField.resignFirstResponder();
-    else if (m_passwordTextField.isFirstResponder())
+    } else if (m_passwordTextField.isFirstResponder()) {
         m_passwordTextField.resignFirstResponder();
+    }
 }
 
 void WZTLoginViewController::login(UIControl *)
@@ -87,10 +88,11 @@ void WZTLoginViewController::login(UIControl *)
 
 void WZTLoginViewController::loginEnded(NSUInteger code, const std::optional<WZTUser> &user)
 {
-    if (code == loginSucceeded)
+    if (code == loginSucceeded) {
         enter(user);
-    else
+    } else {
         displayMessage(messageForCode(loginMessages, code));
+    }
 }
 
 void WZTLoginViewController::forgot(UIControl *)
@@ -183,10 +185,11 @@ void WZTLoginViewController::requestAccount(const UIAlertController &alert)
 
 void WZTLoginViewController::registrationEnded(NSUInteger code, const std::optional<WZTUser> &user)
 {
-    if (code == registrationSucceeded)
+    if (code == registrationSucceeded) {
         enter(user);
-    else
+    } else {
         displayMessage(messageForCode(registrationMessages, code));
+    }
 }
 
 void WZTLoginViewController::enter(const std::optional<WZTUser> &user)

@@ -76,10 +76,11 @@ void UIAlertController::fieldReturned(UIControl *sender)
 {
     auto next = std::find_if(m_textFields.begin(), m_textFields.end(),
                              [sender](const auto &field) { return field.get() == sender; });
-    if (next != m_textFields.end() && ++next != m_textFields.end())
+    if (next != m_textFields.end() && ++next != m_textFields.end()) {
         (*next)->becomeFirstResponder();
-    else
+    } else {
         triggerDefault();
+    }
 }
 
 QQmlListProperty<UIAlertAction> UIAlertController::actionList()

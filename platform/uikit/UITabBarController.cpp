@@ -59,10 +59,11 @@ void UITabBarController::appearanceStateDidChange(UITransitionStack::Motion moti
     if (m_viewControllers.empty())
         return;
     const auto shown = m_viewControllers[static_cast<std::size_t>(selectedIndex())];
-    if (appearanceState() == UIAppearanceState::Disappeared)
+    if (appearanceState() == UIAppearanceState::Disappeared) {
         disappear(*shown, motion);
-    else
+    } else {
         beginAppearance(*shown, motion);
+    }
     if (appearanceState() == UIAppearanceState::Appeared)
         endAppearance(*shown, motion);
 }

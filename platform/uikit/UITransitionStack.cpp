@@ -40,14 +40,16 @@ void UITransitionStack::push(std::shared_ptr<UIViewController> controller, Cover
     }
     controller->m_stack = this;
     controller->loadViewIfNeeded(); // what draws it binds to a finished view
+    const UIViewController *pushed = controller.get();
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_entries.push_back({controller, cover, motion, Phase::Entering, std::move(completion), {}});
+    m_entries.push_back(
+        {std::move(controller), cover, motion, Phase::Entering, std::move(completion), {}});
     endInsertRows();
     announce();
     reconcile(motion);
     if (!isDrawn(motion))
-        settle(controller.get());
+        settle(pushed);
 }
 
 void UITransitionStack::remove(const UIViewController *controller, Motion motion,
@@ -324,10 +326,7 @@ QVariant UITransitionStack::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> UITransitionStack::roleNames() const
 {
-    return {{ControllerRole, "controller"},
-            {PhaseRole, "phase"},
-            {AnimatedRole, "animated"},
-            {BlockedRole, "blocked"},
-            {ConcealedRole, "concealed"},
-            {OverlayRole, "overlay"}};
+    return {{ControllerRole, "controller"}, {PhaseRole, "phase"},
+            {AnimatedRole, "animated"},     {BlockedRole, "blocked"},
+            {ConcealedRole, "concealed"},   {OverlayRole, "overlay"}};
 }

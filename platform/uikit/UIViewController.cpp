@@ -75,12 +75,13 @@ void UIViewController::presentViewController(std::shared_ptr<UIViewController> c
 void UIViewController::dismissViewControllerAnimated(bool animated, Completion completion)
 {
     const UIViewController *entry = presentedEntry();
-    if (entry && entry->m_stack->above(entry))
+    if (entry && entry->m_stack->above(entry)) {
         entry->m_stack->removeAbove(entry, motionIf(animated), std::move(completion));
-    else if (entry && entry->m_stack->below(entry))
+    } else if (entry && entry->m_stack->below(entry)) {
         entry->m_stack->remove(entry, motionIf(animated), std::move(completion));
-    else if (completion)
+    } else if (completion) {
         completion();
+    }
 }
 
 UIViewController *UIViewController::presentingViewController() const
@@ -97,10 +98,11 @@ bool UIViewController::isOnTop() const
 
 void UIViewController::showViewController(std::shared_ptr<UIViewController> controller)
 {
-    if (UINavigationController *navigation = navigationController())
+    if (UINavigationController *navigation = navigationController()) {
         navigation->pushViewController(std::move(controller), true);
-    else
+    } else {
         presentViewController(std::move(controller), true);
+    }
 }
 
 UINavigationController *UIViewController::navigationController() const

@@ -58,6 +58,7 @@ void ControlsTest::touches_data()
         {"slide back in", {{0, 0}, {150, 0}, {0, 5}}, "down* exit outside enter* inside* up", ""},
         {"just above", {{0, -20}}, "down* up", ""},
         {"too far above", {{0, -25}}, "", ""},
+        {"at the edge to the neighbour", {{0, 12}}, "down* up", ""},
         {"on the neighbour", {{0, 19}}, "", "down* up"},
     };
     QTest::addColumn<bool>("mouse");
