@@ -7,3 +7,4 @@
 
 Q_IMPORT_QML_PLUGIN(ScreensPlugin)
 Q_IMPORT_QML_PLUGIN(UIKitPlugin)
+Q_IMPORT_QML_PLUGIN(ViewsPlugin)

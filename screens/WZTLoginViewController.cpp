@@ -8,6 +8,7 @@
 #include "platform/uikit/UIAlertController.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIImpactFeedbackGenerator.h"
+#include "screens/AlertFields.h"
 #include "screens/MessageAlert.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
@@ -99,13 +100,13 @@ void WZTLoginViewController::forgot(UIControl *)
 {
     tapHaptically();
     const auto alert = make<UIAlertController>(u"Reset Password"_s, QString());
-    alert->addTextFieldWithConfigurationHandler([](UITextField &field) {
-        field.setPlaceholder(u"Email"_s);
-        field.setInputTraits({.keyboardType = UIKeyboardType::EmailAddress,
-                              .autocorrectionType = UITextAutocorrectionType::No,
-                              .textContentType = UITextContentType::EmailAddress});
-        field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
-    });
+    const AlertField fields[] = {
+        {u"Email"_s,
+         {.keyboardType = UIKeyboardType::EmailAddress,
+          .autocorrectionType = UITextAutocorrectionType::No,
+          .textContentType = UITextContentType::EmailAddress}},
+    };
+    addFields(*alert, fields);
     alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
     alert->addAction(u"Reset"_s, UIAlertAction::Style::Default,
                      [self = strong(this), alert = alert.get()] { self->requestReset(*alert); });
@@ -132,23 +133,19 @@ void WZTLoginViewController::resetEnded(NSUInteger code)
 
 void WZTLoginViewController::registerAccount(UIControl *)
 {
-    struct Field {
-        QStringView placeholder;
-        UITextInputTraits traits;
-    };
     using Correction = UITextAutocorrectionType;
     const bool hasNewPasswordContent =
         UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(12);
-    const Field fields[] = {
-        {u"Name",
+    const AlertField fields[] = {
+        {u"Name"_s,
          {.keyboardType = UIKeyboardType::ASCIICapable,
           .autocorrectionType = Correction::Yes,
           .textContentType = UITextContentType::Name}},
-        {u"Email",
+        {u"Email"_s,
          {.keyboardType = UIKeyboardType::EmailAddress,
           .autocorrectionType = Correction::No,
           .textContentType = UITextContentType::EmailAddress}},
-        {u"Password",
+        {u"Password"_s,
          {.textContentType = hasNewPasswordContent ? UITextContentType::NewPassword
                                                    : UITextContentType::Unspecified,
           .secureTextEntry = true}},
@@ -156,13 +153,7 @@ void WZTLoginViewController::registerAccount(UIControl *)
 
     tapHaptically();
     const auto alert = make<UIAlertController>(u"New Account"_s, QString());
-    for (const Field &row : fields) {
-        alert->addTextFieldWithConfigurationHandler([&row](UITextField &field) {
-            field.setPlaceholder(row.placeholder.toString());
-            field.setInputTraits(row.traits);
-            field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
-        });
-    }
+    addFields(*alert, fields);
     alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
     alert->addAction(u"Register"_s, UIAlertAction::Style::Default,
                      [self = strong(this), alert = alert.get()] { self->requestAccount(*alert); });

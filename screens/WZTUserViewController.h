@@ -2,9 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/WZTUser.h"
+#include "platform/foundation/NSTypes.h"
 #include "platform/uikit/UITableViewController.h"
 
-/// Account, the second tab.
+class UIAlertController;
+class UIControl;
+
+/// Account, the second tab: the logo, the signed-in user's card and the way out. It keeps no copy
+/// of the user but asks the shared session each time.
 class WZTUserViewController : public UITableViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -14,4 +20,25 @@ public:
     WZTUserViewController();
 
     void viewDidLoad() override;
+
+    [[nodiscard]] int numberOfSections() const override { return 3; }
+    [[nodiscard]] int numberOfRowsInSection(int section) const override;
+    [[nodiscard]] double heightForFooterInSection(int section) const override;
+    [[nodiscard]] std::shared_ptr<UITableViewCell>
+    cellForRowAtIndexPath(const NSIndexPath &indexPath) override;
+
+    /// Fetches the profile anew, silently whatever comes of it; `sender` is the refresh control.
+    void refresh(UIControl *sender);
+    /// Asks for a new name, a new password or both, and for the current password.
+    void editProfile(UIControl *sender);
+    /// Signs out at once.
+    void logout(UIControl *sender);
+
+    // An alert titled "Error" or "Great!".
+    void displayErrorMessage(const QString &message);
+    void displaySuccessMessage(const QString &message);
+
+private:
+    void requestUpdate(const UIAlertController &alert, const std::optional<QString> &email);
+    void updateEnded(NSUInteger code);
 };

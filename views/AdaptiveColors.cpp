@@ -30,6 +30,11 @@ UIColor AdaptiveColors::text()
     return choose(UIColor::labelColor(), UIColor::blackColor());
 }
 
+UIColor AdaptiveColors::caption()
+{
+    return choose(UIColor::secondaryLabelColor(), UIColor::grayColor());
+}
+
 UIColor AdaptiveColors::placeholder()
 {
     return choose(UIColor::tertiaryLabelColor(), UIColor::lightGrayColor());

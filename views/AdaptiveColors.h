@@ -13,6 +13,8 @@ namespace AdaptiveColors {
 /// Behind the contents of a card.
 [[nodiscard]] UIColor cardBackground();
 [[nodiscard]] UIColor text();
+/// What stands beside a text and says less.
+[[nodiscard]] UIColor caption();
 /// What stands in an empty field.
 [[nodiscard]] UIColor placeholder();
 [[nodiscard]] UIColor line();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIColor.h"
+#include "platform/uikit/CAGradientLayer.h"
 
 /// What a view draws beside its background. Lengths in points.
 struct CALayer {
@@ -12,6 +12,7 @@ struct CALayer {
     Q_PROPERTY(double borderWidth MEMBER borderWidth)
     Q_PROPERTY(UIColor borderColor MEMBER borderColor)
     Q_PROPERTY(bool masksToBounds MEMBER masksToBounds)
+    Q_PROPERTY(QRectF bounds MEMBER bounds)
 
 public:
     enum class CornerCurve { Circular, Continuous };
@@ -23,6 +24,13 @@ public:
     bool masksToBounds = false;
     /// Kept for whoever can draw it: Qt's rounded rectangle has circular corners only.
     CornerCurve cornerCurve = CornerCurve::Circular;
+    /// The size that the view was made with; where it stands and how large it is drawn is the
+    /// drawing's matter.
+    QRectF bounds = {};
+    /// Drawn over the view, in this order, each in its frame whatever the view's size becomes.
+    std::vector<CAGradientLayer> sublayers = {};
+
+    void addSublayer(CAGradientLayer layer) { sublayers.push_back(std::move(layer)); }
 
     bool operator==(const CALayer &) const = default;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/uikit/UIControl.h"
+#include "platform/uikit/UIEdgeInsets.h"
 #include "platform/uikit/UIFont.h"
 
 /// A plain button: a title that dims while a finger is on it.
@@ -13,6 +14,7 @@ class UIButton : public UIControl {
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(UIColor titleColor READ titleColor NOTIFY changed)
     Q_PROPERTY(UIFont titleFont READ titleFont NOTIFY changed)
+    Q_PROPERTY(UIEdgeInsets contentEdgeInsets READ contentEdgeInsets NOTIFY changed)
 
 public:
     [[nodiscard]] QString title() const { return m_title; }
@@ -25,10 +27,15 @@ public:
     [[nodiscard]] UIFont titleFont() const { return m_titleFont; }
     void setTitleFont(const UIFont &font) { assign(m_titleFont, font); }
 
+    /// The room around the title, in points; 6 above and below it unless set.
+    [[nodiscard]] UIEdgeInsets contentEdgeInsets() const { return m_contentEdgeInsets; }
+    void setContentEdgeInsets(const UIEdgeInsets &insets) { assign(m_contentEdgeInsets, insets); }
+
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
     QString m_title;
     UIColor m_titleColor = UIColor::systemBlueColor();
     UIFont m_titleFont = UIFont::systemFontOfSize(18);
+    UIEdgeInsets m_contentEdgeInsets = {.top = 6, .bottom = 6};
 };

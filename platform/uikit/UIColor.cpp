@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UIColor.h"
 
+#include "platform/uikit/UIApplication.h"
+
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -41,6 +44,26 @@ UIColor UIColor::colorWithRed(double red, double green, double blue, double alph
     return color;
 }
 
+UIColor UIColor::colorWithHue(double hue, double saturation, double brightness, double alpha)
+{
+    const double turn = std::clamp(hue, 0.0, 1.0) * 6;
+    const double grey = 1 - std::clamp(saturation, 0.0, 1.0);
+    // How much of a channel is there, by how far its own hue is away on the circle of six.
+    const auto channel = [&](double own) {
+        const double away = std::abs(std::remainder(turn - own, 6));
+        return brightness * (grey + (1 - grey) * std::clamp(2 - away, 0.0, 1.0));
+    };
+    return colorWithRed(channel(0), channel(2), channel(4), alpha);
+}
+
+UIColor UIColor::colorWithCGColor(std::vector<double> components)
+{
+    UIColor color;
+    color.m_components = std::move(components);
+    color.m_componentsAlone = true;
+    return color;
+}
+
 UIColor UIColor::initWithDynamicProvider(Provider provider)
 {
     UIColor color;
@@ -66,6 +89,16 @@ UIColor UIColor::grayColor()
 UIColor UIColor::lightGrayColor()
 {
     return colorWithWhite(2.0 / 3, 1);
+}
+
+UIColor UIColor::redColor()
+{
+    return colorWithRed(1, 0, 0, 1);
+}
+
+UIColor UIColor::clearColor()
+{
+    return colorWithWhite(0, 0);
 }
 
 UIColor UIColor::systemBlueColor()
@@ -116,6 +149,54 @@ bool UIColor::isNil() const
 UIColor UIColor::resolvedColorWithTraitCollection(const UITraitCollection &traits) const
 {
     return m_provider ? (*m_provider)(traits).resolvedColorWithTraitCollection(traits) : *this;
+}
+
+UIColor UIColor::resolvedNow() const
+{
+    const UITraits &traits = UIApplication::sharedApplication()->traits();
+    return resolvedColorWithTraitCollection({traits.userInterfaceStyle()});
+}
+
+std::optional<UIColor::RGB> UIColor::getRed() const
+{
+    const UIColor color = resolvedNow();
+    const std::vector<double> &c = color.m_components;
+    if (c.empty() || color.m_componentsAlone)
+        return std::nullopt;
+    return c.size() == 2 ? RGB{c[0], c[0], c[0], c[1]} : RGB{c[0], c[1], c[2], c[3]};
+}
+
+std::optional<UIColor::Gray> UIColor::getWhite() const
+{
+    const UIColor color = resolvedNow();
+    const auto rgb = color.getRed();
+    if (!rgb)
+        return std::nullopt;
+    if (color.m_components.size() == 2)
+        return Gray{color.m_components[0], color.m_components[1]};
+    return Gray{0.299 * rgb->red + 0.587 * rgb->green + 0.114 * rgb->blue, rgb->alpha};
+}
+
+std::optional<UIColor::HSB> UIColor::getHue() const
+{
+    const UIColor color = resolvedNow();
+    if (color.m_components.size() == 2)
+        return HSB{0, 0, color.m_components[0], color.m_components[1]};
+    const auto rgb = color.getRed();
+    if (!rgb)
+        return std::nullopt;
+    const double most = std::max({rgb->red, rgb->green, rgb->blue});
+    const double range = most - std::min({rgb->red, rgb->green, rgb->blue});
+    if (range <= 0)
+        return HSB{0, 0, most, rgb->alpha};
+    double sixth = 0;
+    if (most == rgb->red)
+        sixth = (rgb->green - rgb->blue) / range;
+    else if (most == rgb->green)
+        sixth = 2 + (rgb->blue - rgb->red) / range;
+    else
+        sixth = 4 + (rgb->red - rgb->green) / range;
+    return HSB{(sixth < 0 ? sixth + 6 : sixth) / 6, most > 0 ? range / most : 0, most, rgb->alpha};
 }
 
 QColor UIColor::drawn(bool dark) const

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// A colour with its own components, unclamped, in the model that it was made in; or a dynamic
@@ -20,11 +21,26 @@ class UIColor {
 
 public:
     using Provider = std::function<UIColor(const UITraitCollection &)>;
+    struct RGB {
+        double red, green, blue, alpha;
+    };
+    struct HSB {
+        double hue, saturation, brightness, alpha;
+    };
+    struct Gray {
+        double white, alpha;
+    };
 
     UIColor() = default;
 
     [[nodiscard]] static UIColor colorWithWhite(double white, double alpha);
     [[nodiscard]] static UIColor colorWithRed(double red, double green, double blue, double alpha);
+    /// Hue and saturation outside 0...1 count as the nearer end.
+    [[nodiscard]] static UIColor colorWithHue(double hue, double saturation, double brightness,
+                                              double alpha);
+    /// A colour of a space that is known by its components alone: white and alpha are drawn when
+    /// there are two, red, green, blue and alpha when there are four, and nothing otherwise.
+    [[nodiscard]] static UIColor colorWithCGColor(std::vector<double> components);
     /// A dynamic colour; `provider` is called whenever the colour is resolved.
     [[nodiscard]] static UIColor initWithDynamicProvider(Provider provider);
 
@@ -32,6 +48,8 @@ public:
     [[nodiscard]] static UIColor whiteColor();
     [[nodiscard]] static UIColor grayColor();
     [[nodiscard]] static UIColor lightGrayColor();
+    [[nodiscard]] static UIColor redColor();
+    [[nodiscard]] static UIColor clearColor();
 
     // The platform's public values for light and dark.
     [[nodiscard]] static UIColor systemBlueColor();
@@ -49,6 +67,13 @@ public:
     /// The colour for these traits, never dynamic.
     [[nodiscard]] UIColor resolvedColorWithTraitCollection(const UITraitCollection &traits) const;
 
+    // The colour in a model, converted where it was made in another; of a dynamic colour what it is
+    // in the application's style now. Nil for no colour, and for one of components alone, of which
+    // only the hue is known if it has two.
+    [[nodiscard]] std::optional<RGB> getRed() const;
+    [[nodiscard]] std::optional<Gray> getWhite() const;
+    [[nodiscard]] std::optional<HSB> getHue() const;
+
     /// White and alpha, or red, green, blue and alpha, as given; empty for no colour and for
     /// a dynamic one.
     [[nodiscard]] const std::vector<double> &components() const { return m_components; }
@@ -61,6 +86,9 @@ public:
     bool operator==(const UIColor &) const = default;
 
 private:
+    [[nodiscard]] UIColor resolvedNow() const;
+
     std::vector<double> m_components;
+    bool m_componentsAlone = false;
     std::shared_ptr<const Provider> m_provider;
 };

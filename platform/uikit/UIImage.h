@@ -10,6 +10,7 @@ class UIImage {
     Q_GADGET
     QML_VALUE_TYPE(uiImage)
     Q_PROPERTY(QString name READ name)
+    Q_PROPERTY(bool isTemplate READ isTemplate)
 
 public:
     UIImage() = default;
@@ -18,6 +19,8 @@ public:
     [[nodiscard]] static UIImage imageNamed(const QString &name);
 
     [[nodiscard]] QString name() const { return m_name; }
+    /// Whether the picture is drawn in the tint of its view rather than in its own colours.
+    [[nodiscard]] bool isTemplate() const;
     /// Where the picture's SVG lies; empty for no picture.
     [[nodiscard]] static QString pathOfImageNamed(const QString &name);
 

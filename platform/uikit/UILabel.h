@@ -13,8 +13,13 @@ class UILabel : public UIView {
     Q_PROPERTY(QString text READ text NOTIFY changed)
     Q_PROPERTY(UIFont font READ font NOTIFY changed)
     Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
+    Q_PROPERTY(NSTextAlignment textAlignment READ textAlignment NOTIFY changed)
 
 public:
+    /// `Natural`: where the text's line begins in the interface's direction.
+    enum NSTextAlignment { Center = 1, Natural = 4 };
+    Q_ENUM(NSTextAlignment)
+
     [[nodiscard]] QString text() const { return m_text; }
     void setText(const QString &text) { assign(m_text, text); }
 
@@ -24,10 +29,14 @@ public:
     [[nodiscard]] UIColor textColor() const { return m_textColor; }
     void setTextColor(const UIColor &color) { assign(m_textColor, color); }
 
+    [[nodiscard]] NSTextAlignment textAlignment() const { return m_textAlignment; }
+    void setTextAlignment(NSTextAlignment alignment) { assign(m_textAlignment, alignment); }
+
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
     QString m_text;
     UIFont m_font;
     UIColor m_textColor = UIColor::labelColor();
+    NSTextAlignment m_textAlignment = Natural;
 };

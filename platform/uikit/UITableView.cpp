@@ -33,6 +33,12 @@ void UITableView::setDataSource(UITableViewDataSource *dataSource)
     reloadData();
 }
 
+void UITableView::setRefreshControl(std::shared_ptr<UIRefreshControl> control)
+{
+    m_refreshControl = std::move(control);
+    Q_EMIT changed();
+}
+
 void UITableView::reloadData()
 {
     m_selected.reset();

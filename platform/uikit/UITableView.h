@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/uikit/Make.h"
+#include "platform/uikit/UIRefreshControl.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "platform/uikit/UITableViewDataSource.h"
 #include "platform/uikit/UITableViewDelegate.h"
@@ -23,6 +24,7 @@ class UITableView : public UIView {
     Q_PROPERTY(UITableViewEntries *entries READ entries CONSTANT)
     Q_PROPERTY(bool drawsSeparators READ drawsSeparators NOTIFY changed)
     Q_PROPERTY(UIFont sectionFont READ sectionFont CONSTANT)
+    Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed)
 
 public:
     explicit UITableView(UITableViewStyle style);
@@ -39,6 +41,10 @@ public:
     [[nodiscard]] UITableViewDataSource *dataSource() const { return m_dataSource; }
     void setDelegate(UITableViewDelegate *delegate) { m_delegate = delegate; }
     [[nodiscard]] UITableViewDelegate *delegate() const { return m_delegate; }
+
+    /// Pulling the table down refreshes it, once it has a control for that; null for none.
+    void setRefreshControl(std::shared_ptr<UIRefreshControl> control);
+    [[nodiscard]] UIRefreshControl *refreshControl() const { return m_refreshControl.get(); }
 
     /// Cells asked for by `reuseIdentifier` are of the class `Cell` from now on.
     template <class Cell>
@@ -97,5 +103,6 @@ private:
     std::map<QString, Factory> m_factories;
     std::map<QString, std::vector<std::shared_ptr<UITableViewCell>>> m_pool;
     std::optional<NSIndexPath> m_selected;
+    std::shared_ptr<UIRefreshControl> m_refreshControl;
     UITableViewEntries m_entries;
 };

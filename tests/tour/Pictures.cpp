@@ -33,15 +33,20 @@ Steps signIn(const QString &email, const QString &password)
 }
 
 const Steps reset{{Tap, u"Forgot Password?"_s}, {Await, u"Reset Password"_s}};
-const Steps account{{Tap, u"Need an Account?"_s}, {Await, u"New Account"_s}};
+const Steps registration{{Tap, u"Need an Account?"_s}, {Await, u"New Account"_s}};
 const Steps sendReset = reset + Steps{{Type, u"jo@wzt.example"_s}, {Return}};
-const Steps filledAccount = account
+const Steps filledAccount = registration
     + Steps{
         {Type, u"Kim"_s}, {Return}, {Type, u"kim@wzt.example"_s}, {Return}, {Type, u"secret"_s}};
 const Steps sendAccount = filledAccount + Steps{{Return}};
 const Steps error{{Await, u"Error"_s}};
 const Steps success{{Await, u"Great!"_s}};
 const Steps tabs{{Await, u"Home"_s}};
+const Steps refreshing{{Refresh}, {Await, u"Loading"_s}};
+const Steps update{{Tap, u"Update"_s}, {Await, u"Update Account"_s}};
+const Steps filledUpdate =
+    update + Steps{{Type, u"Joanna"_s}, {Return}, {Type, u"new"_s}, {Return}};
+const Steps sendUpdate = filledUpdate + Steps{{Type, u"secret"_s}, {Return}};
 
 } // namespace
 
@@ -49,6 +54,8 @@ std::vector<Picture> allPictures()
 {
     const QString jo = u"jo@wzt.example"_s;
     const Steps enter = signIn(jo, u"secret"_s);
+    const Steps toAccount = tabs + Steps{{Tap, u"Account"_s}, {Await, u"Account Details"_s}};
+    const Steps account = enter + toAccount;
     return {
         {u"login-empty"_s, {{Await, u"Account Login"_s}}},
         {u"login-filled"_s, filled(jo, u"secret"_s)},
@@ -63,7 +70,7 @@ std::vector<Picture> allPictures()
         {u"reset-not-sent"_s, sendReset + error, "/passwordreset.php", result("User Not Found")},
         {u"reset-unknown-error"_s, sendReset + error, "/passwordreset.php", Fault::close()},
 
-        {u"register-empty"_s, account},
+        {u"register-empty"_s, registration},
         {u"register-filled"_s, filledAccount},
         {u"register-taken"_s, sendAccount + error, "/register.php", result("User Exists")},
         {u"register-improper"_s, sendAccount + error, "/register.php", result("Improper request")},
@@ -72,7 +79,16 @@ std::vector<Picture> allPictures()
 
         {u"home"_s, enter + tabs},
         {u"home-after-registration"_s, sendAccount + tabs},
-        {u"account"_s, enter + tabs + Steps{{Tap, u"Account"_s}}},
+        {u"account"_s, account},
+        {u"account-long"_s, signIn(longEmail.toString(), u"secret"_s) + toAccount},
+        {u"account-refreshing"_s, account + refreshing, "/user.php", Fault::silence()},
+        {u"update-empty"_s, account + update},
+        {u"update-filled"_s, account + filledUpdate},
+        {u"update-nothing"_s, account + update + Steps{{Tap, u"Update"_s}} + error},
+        {u"update-done"_s, account + sendUpdate + success},
+        {u"update-refused"_s, account + sendUpdate + error, "/update.php", result("Incorrect")},
+        {u"account-updated"_s, account + sendUpdate + success + Steps{{Tap, u"Dismiss"_s}}},
+        {u"account-signed-out"_s, account + Steps{{Tap, u"Logout"_s}, {Await, u"Account Login"_s}}},
         {u"home-after-restart"_s, enter + tabs + Steps{{Restart}} + tabs},
     };
 }

@@ -12,7 +12,7 @@
 
 /// One thing that a person does, or waits for.
 struct Step {
-    enum class Kind { Tap, Type, Return, Await, Restart };
+    enum class Kind { Tap, Type, Return, Refresh, Await, Restart };
 
     Kind kind;
     QString what = {};
@@ -27,5 +27,8 @@ struct Picture {
     std::optional<sandbox::Fault> answer = {};
 };
 
-/// Every picture of the tour. The service knows jo@wzt.example, whose password is "secret".
+/// Every picture of the tour. The service knows jo@wzt.example and longEmail, and has "secret" for
+/// the password of both.
+inline constexpr QStringView longEmail =
+    u"maximiliane.featherstonehaugh-cholmondeley@correspondence.wzt.example";
 [[nodiscard]] std::vector<Picture> allPictures();

@@ -21,6 +21,10 @@ struct Look {
 const Look looks[] = {
     {"light", {390, 844}, {.style = UIUserInterfaceStyle::Light}},
     {"dark", {390, 844}, {.style = UIUserInterfaceStyle::Dark}},
+    {"narrow", {320, 568}, {.style = UIUserInterfaceStyle::Light}},
+    {"large-text", {320, 568}, {.style = UIUserInterfaceStyle::Dark, .textScale = 2}},
+    {"tablet", {768, 1024}, {.style = UIUserInterfaceStyle::Light}},
+    {"desktop", {1280, 800}, {.style = UIUserInterfaceStyle::Dark}},
 };
 
 } // namespace
@@ -48,8 +52,15 @@ void Tour::picture()
     QFETCH(const UIAppearance, appearance);
     m_size = size;
     m_appearance = appearance;
+    m_appearance.reduceMotion = true; // nothing is caught half-way
     m_app = std::make_unique<TestApp>();
-    m_app->service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s}, u"secret"_s);
+    const QString joined = u"2026-11-16 09:30:00"_s;
+    m_app->service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s, .joined = joined},
+                                u"secret"_s);
+    m_app->service().addAccount({.email = longEmail.toString(),
+                                 .name = u"Maximiliane Alexandra Featherstonehaugh-Cholmondeley"_s,
+                                 .joined = joined},
+                                u"secret"_s);
     if (picture.answer)
         m_app->service().stage(picture.path, *picture.answer);
     launch();
@@ -84,6 +95,9 @@ void Tour::take(const Step &step)
         break;
     case Step::Kind::Return:
         m_window->key(Qt::Key_Return);
+        break;
+    case Step::Kind::Refresh:
+        m_window->key(Qt::Key_F5);
         break;
     case Step::Kind::Await:
         await(step.what);

@@ -16,10 +16,10 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
-        std::fputs("usage: wzt-tour DIR\n", stderr);
+    if (arguments.size() < 2 || !QDir().mkpath(arguments[1])) {
+        std::fputs("usage: wzt-tour DIR [picture:NAME-LOOK...]\n", stderr);
         return 2;
     }
     Tour tour((QDir(arguments[1])));
-    return QTest::qExec(&tour, QStringList{arguments[0]});
+    return QTest::qExec(&tour, QStringList{arguments[0]} + arguments.sliced(2));
 }

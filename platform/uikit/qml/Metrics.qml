@@ -18,6 +18,10 @@ QtObject {
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 
+    readonly property real refreshControl: 60
+    /// How far a table is pulled down to be refreshed.
+    readonly property real pullToRefresh: 80
+
     readonly property real alertWidth: 270
     readonly property real alertRadius: 14
     readonly property real fieldRadius: 5

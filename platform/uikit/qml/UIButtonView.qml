@@ -9,8 +9,10 @@ UIControlArea {
 
     required property UIButton control
 
-    implicitWidth: title.implicitWidth
-    implicitHeight: title.implicitHeight + 12
+    readonly property uiEdgeInsets insets: control.contentEdgeInsets
+
+    implicitWidth: title.implicitWidth + insets.left + insets.right
+    implicitHeight: title.implicitHeight + insets.top + insets.bottom
     receiver: control
 
     Accessible.role: Accessible.Button
@@ -23,6 +25,8 @@ UIControlArea {
     Text {
         id: title
         anchors.fill: parent
+        anchors.leftMargin: root.insets.left
+        anchors.rightMargin: root.insets.right
         text: root.control.title
         textFormat: Text.PlainText
         font: root.control.titleFont.drawn(Traits.textScale)

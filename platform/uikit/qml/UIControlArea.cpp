@@ -6,15 +6,32 @@
 
 #include <QQuickWindow>
 
+#include <chrono>
+
 namespace {
+
 constexpr double smallestTarget = 44;
+// A finger that comes to scroll has moved by then, and has pressed nothing.
+constexpr std::chrono::milliseconds pressDelay(100);
+
+bool scrolls(const QQuickItem &item)
+{
+    for (const QQuickItem *parent = item.parentItem(); parent; parent = parent->parentItem()) {
+        if (parent->inherits("QQuickFlickable") && parent->property("interactive").toBool())
+            return true;
+    }
+    return false;
 }
+
+} // namespace
 
 UIControlArea::UIControlArea(QQuickItem *parent) : QQuickItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
     setActiveFocusOnTab(true);
+    m_press.setSingleShot(true);
+    m_press.callOnTimeout(this, &UIControlArea::press);
 }
 
 UIControlArea::~UIControlArea()
@@ -51,19 +68,30 @@ bool UIControlArea::contains(const QPointF &point) const
 void UIControlArea::begin()
 {
     setFocusByKey(false);
+    if (scrolls(*this))
+        m_press.start(pressDelay);
+    else
+        press();
+}
+
+void UIControlArea::press()
+{
+    m_press.stop();
     if (m_receiver)
         m_receiver->beginTracking();
 }
 
 void UIControlArea::move(const QPointF &point)
 {
-    if (m_receiver)
+    if (m_receiver && !m_press.isActive())
         m_receiver->continueTracking(reach().contains(point));
 }
 
 void UIControlArea::end(const QPointF &point)
 {
     m_touch = -1;
+    if (m_press.isActive())
+        press();
     if (m_receiver)
         m_receiver->endTracking(reach().contains(point));
 }
@@ -71,6 +99,7 @@ void UIControlArea::end(const QPointF &point)
 void UIControlArea::cancel()
 {
     m_touch = -1;
+    m_press.stop();
     if (m_receiver)
         m_receiver->cancelTracking();
 }

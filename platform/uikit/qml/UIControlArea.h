@@ -6,9 +6,11 @@
 
 #include <QPointer>
 #include <QQuickItem>
+#include <QTimer>
 
 /// Where a control is touched, with a finger or with the mouse, or pressed with the keyboard. It
-/// reaches beyond its rectangle to at least 44 x 44 points, save where something else lies.
+/// reaches beyond its rectangle to at least 44 x 44 points, save where something else lies. In what
+/// scrolls it waits a moment, so that a finger that comes to scroll presses nothing.
 class UIControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -45,12 +47,14 @@ protected:
 private:
     [[nodiscard]] QRectF reach() const;
     void begin();
+    void press();
     void move(const QPointF &point);
     void end(const QPointF &point);
     void cancel();
     void setFocusByKey(bool byKey);
 
     QPointer<UIControl> m_receiver;
+    QTimer m_press;
     int m_touch = -1;
     bool m_focusByKey = false;
 };

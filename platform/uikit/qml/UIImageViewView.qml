@@ -18,5 +18,6 @@ Item {
     UIImagePicture {
         anchors.fill: parent
         name: root.control.image.name
+        tint: root.control.image.isTemplate ? root.control.tintColor.drawn(Traits.dark) : "transparent"
     }
 }

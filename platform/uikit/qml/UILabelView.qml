@@ -16,6 +16,7 @@ Text {
     color: control.textColor.drawn(Traits.dark)
     elide: Text.ElideRight
     maximumLineCount: 1
+    horizontalAlignment: control.textAlignment === UILabel.Center ? Text.AlignHCenter : undefined
 
     Accessible.role: Accessible.StaticText
     Accessible.name: control.accessibilityLabel

@@ -75,6 +75,16 @@ Rectangle {
             list.returnToBounds();
         }
     }
+    Loader {
+        readonly property UIRefreshControl refreshControl: root.control.refreshControl
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        onRefreshControlChanged: {
+            if (refreshControl)
+                setSource("UIRefreshControlView.qml", {"control": refreshControl, "list": list})
+        }
+    }
     ListView {
         id: list
 
@@ -82,6 +92,9 @@ Rectangle {
             return root.control.entries.rowBeside(entry, step);
         }
 
+        // What is just out of sight is there for Tab and for screen readers.
+        displayMarginBeginning: 400
+        displayMarginEnd: 400
         objectName: "list"
         anchors.fill: parent
         clip: true

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQmlIntegration>
+
+/// Room at the edges, in points.
+struct UIEdgeInsets {
+    Q_GADGET
+    QML_VALUE_TYPE(uiEdgeInsets)
+    Q_PROPERTY(double top MEMBER top)
+    Q_PROPERTY(double left MEMBER left)
+    Q_PROPERTY(double bottom MEMBER bottom)
+    Q_PROPERTY(double right MEMBER right)
+
+public:
+    double top = 0;
+    double left = 0;
+    double bottom = 0;
+    double right = 0;
+
+    bool operator==(const UIEdgeInsets &) const = default;
+};

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "screens/AlertFields.h"
+
+#include "platform/uikit/UIAlertController.h"
+
+void addFields(UIAlertController &alert, std::span<const AlertField> fields)
+{
+    for (const AlertField &row : fields) {
+        alert.addTextFieldWithConfigurationHandler([&row](UITextField &field) {
+            field.setPlaceholder(row.placeholder);
+            field.setInputTraits(row.traits);
+            field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
+        });
+    }
+}

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "views/WZTAccountTableViewCell.h"
+
+#include "model/WZTSession.h"
+#include "platform/foundation/NSDateFormatter.h"
+#include "platform/uikit/UIApplication.h"
+#include "views/AdaptiveColors.h"
+#include "views/UIColorEx.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void setUp(UILabel &label, UIFontTextStyle style, const UIColor &color, const QString &text = {})
+{
+    label.setFont(UIFont::preferredFontForTextStyle(style));
+    label.setTextColor(color);
+    label.setText(text);
+}
+
+QString joinLine(int number, const std::optional<NSDate> &date)
+{
+    NSDateFormatter formatter;
+    formatter.setDateStyle(NSDateFormatterStyle::Medium);
+    return u"#%1 Joined %2"_s.arg(QString::number(number),
+                                  date ? formatter.stringFromDate(*date) : u"(null)"_s);
+}
+
+} // namespace
+
+WZTAccountTableViewCell::WZTAccountTableViewCell(UITableViewCellStyle style,
+                                                 const QString &reuseIdentifier)
+    : UITableViewCell(style, reuseIdentifier)
+{
+    const bool hasCurves = UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(13);
+    contentView()->setBackgroundColor(UIColor::clearColor());
+    setBackgroundColor(UIColor::clearColor());
+    m_cardBackgroundView.setBackgroundColor(AdaptiveColors::cardBackground());
+    m_cardBackgroundView.setLayer({.cornerRadius = 12.333,
+                                   .masksToBounds = true,
+                                   .cornerCurve = hasCurves ? CALayer::CornerCurve::Continuous
+                                                            : CALayer::CornerCurve::Circular});
+
+    setUp(m_headerLabel, UIFontTextStyle::Title2, AdaptiveColors::text(), u"Account Details"_s);
+    m_editButton.setTitle(u"Update"_s);
+    m_editButton.setTitleColor(UIColorEx::tintColor());
+    m_dividerOneView.setBackgroundColor(AdaptiveColors::line());
+    for (UIView *underline : {&m_dividerTwoView, &m_dividerThreeView}) {
+        underline->setBackgroundColor(AdaptiveColors::line());
+        underline->setLayer({.cornerRadius = 0.5, .masksToBounds = true});
+    }
+
+    setUp(m_userNameLabel, UIFontTextStyle::Body, AdaptiveColors::text());
+    setUp(m_userNameTitleLabel, UIFontTextStyle::Footnote, AdaptiveColors::caption(), u"Name"_s);
+    setUp(m_emailLabel, UIFontTextStyle::Body, AdaptiveColors::text());
+    setUp(m_emailTitleLabel, UIFontTextStyle::Footnote, AdaptiveColors::caption(), u"Email"_s);
+    setUp(m_userSinceLabel, UIFontTextStyle::Footnote, AdaptiveColors::caption());
+    fill();
+}
+
+WZTAccountTableViewCell::~WZTAccountTableViewCell() = default;
+
+void WZTAccountTableViewCell::fill()
+{
+    const std::optional<WZTUser> &user = WZTSession::shared()->currentUser();
+    m_userNameLabel.setText(user ? user->userName.value_or(QString()) : QString());
+    m_emailLabel.setText(user ? user->email.value_or(QString()) : QString());
+    m_userSinceLabel.setText(
+        joinLine(user ? user->tavloId : 0, user ? user->joinDate : std::nullopt));
+}
+
+void WZTAccountTableViewCell::prepareForReuse()
+{
+    UITableViewCell::prepareForReuse();
+    fill();
+    m_editButton.removeTarget(nullptr, UIControlEvent::TouchUpInside);
+}

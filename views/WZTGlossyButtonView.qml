@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+import Views
+
+/// A glossy button: its fill, its border, its shine and, on top, its title. As large as it was
+/// made, or as its title needs.
+UIControlArea {
+    id: root
+
+    required property WZTGlossyButton control
+
+    readonly property uiEdgeInsets insets: control.contentEdgeInsets
+    readonly property rect made: control.layer.bounds
+
+    implicitWidth: made.width || title.implicitWidth + insets.left + insets.right
+    implicitHeight: made.height || title.implicitHeight + insets.top + insets.bottom
+    receiver: control
+
+    Accessible.role: Accessible.Button
+    Accessible.name: control.accessibilityLabel
+    Accessible.pressed: control.highlighted
+    Accessible.focusable: true
+    Accessible.ignored: !enabled
+    Accessible.onPressAction: control.activate()
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.control.layer.cornerRadius
+        color: root.control.backgroundColor.drawn(Traits.dark)
+    }
+    UISublayersPicture {
+        anchors.fill: parent
+        view: root.control
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: root.control.layer.cornerRadius
+        color: "transparent"
+        border.width: root.control.layer.borderWidth
+        border.color: root.control.layer.borderColor.drawn(Traits.dark)
+    }
+    Text {
+        id: title
+        anchors.fill: parent
+        anchors.leftMargin: Math.max(Metrics.margin / 2, root.insets.left)
+        anchors.rightMargin: Math.max(Metrics.margin / 2, root.insets.right)
+        text: root.control.title
+        textFormat: Text.PlainText
+        font: root.control.titleFont.drawn(Traits.textScale)
+        color: root.control.titleColor.drawn(Traits.dark)
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+    FocusRing {
+        radius: root.control.layer.cornerRadius + 2
+        anchors.topMargin: -4
+        anchors.bottomMargin: -4
+        shown: root.focusVisible
+    }
+}
