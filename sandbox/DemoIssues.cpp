@@ -102,9 +102,12 @@ std::optional<QString> description(Dice &dice)
     if (longest[kind] == 0) {
         return {};
     }
-    QString text = dice.one(sentences);
+    // In steps that come to every sentence before they come to one again.
+    quint32 next = dice.below(std::size(sentences));
+    QString text = sentences[next].toString();
     for (quint32 left = dice.below(longest[kind]); left > 0; --left) {
-        text += (dice.below(4) == 0 ? u"\n\n"_s : u" "_s) + dice.one(sentences);
+        next = (next + 5) % std::size(sentences);
+        text += (dice.below(4) == 0 ? u"\n\n"_s : u" "_s) + sentences[next];
     }
     return text;
 }
@@ -119,7 +122,8 @@ Issue demoIssue(Dice &dice, const Oddity &oddity)
         .isOpen = dice.below(3) > 0,
     };
     if (!oddity.description.isEmpty()) {
-        issue.description = issue.description.value_or(QString()) + oddity.description;
+        const QString text = issue.description.value_or(QString()) + oddity.description;
+        issue.description = text.trimmed();
     }
     return issue;
 }
