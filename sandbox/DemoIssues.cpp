@@ -34,19 +34,16 @@ constexpr QStringView occasions[] = {
 constexpr QStringView sentences[] = {
     u"It started with the last update.",
     u"Happens every time.",
-    u"I could not find a way around it, other than switching the whole thing off and waiting for a "
-    u"minute or two before trying again.",
+    u"I found no way around it, other than switching it off and waiting for a minute or two.",
     u"Reinstalling did not help.",
     u"Before that it had worked for months, so thank you for all the work on it!",
-    u"Only on the older of my two devices; the other one, with the same version and, as far as I "
-    u"can see, the same settings, has never shown it.",
+    u"Only on the older of my two devices; the other one, with the same settings, never shows it.",
     u"Safe mode makes no difference.",
     u"Sometimes it comes back by itself.",
     u"A friend of mine sees the same.",
     u"Nothing in the log that I would understand.",
     u"If you need anything else, ask.",
-    u"Das passiert auch mit ausgeschalteter Tastatur, größer als üblich eingestelltem Text und "
-    u"übermäßig vielen Symbolen.",
+    u"Das passiert auch bei größer als üblich eingestelltem Text und übermäßig vielen Symbolen.",
 };
 constexpr auto steps = u"Steps:\n1. Open Settings\n2. Switch it off and on again\n3. Lock the "
                        u"device and wait\n\nExpected: all is as before\nActual: ";

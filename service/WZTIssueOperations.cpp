@@ -35,10 +35,11 @@ void decodeList(const WZTRequestFrame::Reply &reply, const WZTAPI::IssuesComplet
         return;
     }
     const QJsonArray elements = reply->array();
-    if (elements.isEmpty())
+    if (elements.isEmpty()) {
         completion(list.emptyList, std::nullopt);
-    else
+    } else {
         completion(list.issues, issuesIn(elements));
+    }
 }
 
 NSUInteger codeForSubmission(const WZTRequestFrame::Reply &reply)
