@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/WZTUser.h"
 
+#include "model/ServiceDate.h"
 #include "platform/foundation/NSCoder.h"
-#include "platform/foundation/NSDateFormatter.h"
 #include "platform/foundation/NSNumberReading.h"
 
 #include <QJsonObject>
@@ -39,15 +39,6 @@ constexpr OptionalText optionalTexts[] = {
     {&WZTUser::cydiaId, {"userCydiaID"_L1, "cydiaId"_L1}},
 };
 
-std::optional<NSDate> serviceDate(const std::optional<QString> &text)
-{
-    if (!text)
-        return std::nullopt;
-    NSDateFormatter formatter;
-    formatter.setDateFormat(u"yyy-MM-dd HH:mm:ss"_s);
-    return formatter.dateFromString(*text);
-}
-
 bool isMissing(const std::optional<QString> &text)
 {
     return !text || text->isEmpty();
@@ -72,7 +63,7 @@ std::optional<WZTUser> WZTUser::initWithUserParams(const QJsonObject &params)
     for (const OptionalText &text : optionalTexts)
         user.*text.field = textValue(params[text.keys.parameter]);
     user.earlyAdopter = boolValue(params[earlyAdopterKeys.parameter]);
-    user.joinDate = serviceDate(textValue(params[joinDateKeys.parameter]));
+    user.joinDate = serviceDate(params[joinDateKeys.parameter]);
     return user;
 }
 

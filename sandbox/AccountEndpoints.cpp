@@ -122,7 +122,7 @@ Reply AccountEndpoints::registration(const Request &request)
 {
     Account account{.email = parameter(request, u"userEmail"),
                     .name = parameter(request, u"userName"),
-                    .joined = m_clock.joinDate()};
+                    .joined = m_clock.text()};
     const QString digest = parameter(request, u"userPassword");
     if (!isAddress(account.email) || !isName(account.name) || !isDigest(digest)) {
         return resultReply("Improper request"_L1, 400);

@@ -19,8 +19,8 @@ public:
     [[nodiscard]] qint64 now() const { return QDateTime::currentSecsSinceEpoch() + m_offset; }
     /// In local time.
     [[nodiscard]] QDateTime dateTime() const { return QDateTime::fromSecsSinceEpoch(now()); }
-    /// As accounts have it.
-    [[nodiscard]] QString joinDate() const { return dateTime().toString(u"yyyy-MM-dd HH:mm:ss"); }
+    /// As accounts and issues have it.
+    [[nodiscard]] QString text() const { return dateTime().toString(u"yyyy-MM-dd HH:mm:ss"); }
 
 private:
     std::atomic<qint64> m_offset;

@@ -41,6 +41,18 @@ constexpr std::array migrations{
            expires INTEGER NOT NULL
        ) STRICT;
        PRAGMA user_version=1;)",
+    R"(CREATE TABLE issues (
+           number INTEGER PRIMARY KEY AUTOINCREMENT,
+           reference TEXT NOT NULL,
+           package TEXT NOT NULL,
+           reporter INTEGER NOT NULL,
+           title TEXT NOT NULL,
+           description TEXT,
+           open INTEGER NOT NULL,
+           opened TEXT NOT NULL
+       ) STRICT;
+       CREATE INDEX issues_of_package ON issues (package, opened);
+       PRAGMA user_version=2;)",
 };
 
 } // namespace

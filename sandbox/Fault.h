@@ -20,7 +20,7 @@ struct Request;
 ///     Fault::json("{\"result\":\"Incorrect\"}").after(200ms)
 ///
 /// The faults that send the real answer (delay, reset, wrongLength, drip, status without a body)
-/// let the endpoint do its work first; with all others the accounts are left as they are.
+/// let the endpoint do its work first; with all others accounts and issues are left as they are.
 class Fault {
 public:
     /// The real answer, so much later.

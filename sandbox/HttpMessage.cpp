@@ -50,13 +50,23 @@ QByteArray reasonOf(int status)
     return "Status";
 }
 
+Reply documentReply(const QJsonDocument &document, int status)
+{
+    return {.status = status,
+            .headers = {{"Content-Type", "application/json"}},
+            .body = document.toJson(QJsonDocument::Compact)};
+}
+
 } // namespace
 
 Reply jsonReply(const QJsonObject &object, int status)
 {
-    return {.status = status,
-            .headers = {{"Content-Type", "application/json"}},
-            .body = QJsonDocument(object).toJson(QJsonDocument::Compact)};
+    return documentReply(QJsonDocument(object), status);
+}
+
+Reply jsonListReply(const QJsonArray &list)
+{
+    return documentReply(QJsonDocument(list), 200);
 }
 
 Reply resultReply(QLatin1StringView text, int status)

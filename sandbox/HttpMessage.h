@@ -5,6 +5,7 @@
 #include "sandbox/Reply.h"
 #include "sandbox/Transmission.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 #include <optional>
@@ -13,8 +14,9 @@ namespace sandbox {
 
 struct Request;
 
-/// A reply with that JSON object as its body.
+/// A reply with that JSON object, or list, as its body.
 Reply jsonReply(const QJsonObject &object, int status = 200);
+Reply jsonListReply(const QJsonArray &list);
 /// A reply that is only an outcome: {"result": text}.
 Reply resultReply(QLatin1StringView text, int status = 200);
 

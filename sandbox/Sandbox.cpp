@@ -53,7 +53,7 @@ std::optional<Account> Sandbox::addAccountWithDigest(const Account &account,
 {
     Account added = account;
     if (added.joined.isEmpty()) {
-        added.joined = m_service->clock.joinDate();
+        added.joined = m_service->clock.text();
     }
     const QString hash = isRunning() ? m_service->hasher.hash(digest) : QString();
     const bool isAdded = !hash.isEmpty() && m_service->store.add(&added, hash) == Outcome::Done;
@@ -89,6 +89,30 @@ bool Sandbox::removeAccount(const QString &email)
 int Sandbox::accountCount() const
 {
     return isRunning() ? m_service->store.count() : 0;
+}
+
+std::optional<Issue> Sandbox::addIssue(const Issue &issue)
+{
+    QList<Issue> added{issue};
+    const bool isAdded = isRunning() && m_service->issues.add(&added) == Outcome::Done;
+    return isAdded ? std::optional(added.first()) : std::nullopt;
+}
+
+bool Sandbox::addIssues(QList<Issue> issues)
+{
+    return isRunning() && m_service->issues.add(&issues) == Outcome::Done;
+}
+
+QList<Issue> Sandbox::issues(const QString &package) const
+{
+    QList<Issue> found;
+    const bool isFound = isRunning() && m_service->issues.list(package, &found) == Outcome::Done;
+    return isFound ? found : QList<Issue>();
+}
+
+int Sandbox::issueCount() const
+{
+    return isRunning() ? m_service->issues.count() : 0;
 }
 
 void Sandbox::stage(const QByteArray &path, const Fault &fault, int count)

@@ -4,6 +4,7 @@
 
 #include "sandbox/Account.h"
 #include "sandbox/Fault.h"
+#include "sandbox/Issue.h"
 #include "sandbox/Reception.h"
 #include "sandbox/Request.h"
 
@@ -20,10 +21,11 @@ namespace sandbox {
 
 class Service;
 
-/// The web service on this machine: HTTPS on 127.0.0.1 and ::1, accounts in an SQLite file, reset
-/// messages in an outbox folder. It runs on threads of its own from construction to destruction,
-/// and every operation may be called from any thread. A test makes one, lets the client connect to
-/// `localhost` at port() trusting caFile(), stages what is to go wrong, and looks at requests().
+/// The web service on this machine: HTTPS on 127.0.0.1 and ::1, accounts and issues in an SQLite
+/// file, reset messages in an outbox folder. It runs on threads of its own from construction to
+/// destruction, and every operation may be called from any thread. A test makes one, lets the
+/// client connect to `localhost` at port() trusting caFile(), stages what is to go wrong, and looks
+/// at requests().
 ///
 ///     sandbox::Sandbox service;
 ///     service.addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s}, u"secret"_s);
@@ -31,8 +33,8 @@ class Service;
 class Sandbox {
 public:
     struct Options {
-        /// Where certificates, accounts and messages are kept; made if missing, closed to other
-        /// users, used by one service at a time. Empty: a temporary one, removed at the end.
+        /// Where certificates, accounts, issues and messages are kept; made if missing, closed to
+        /// other users, used by one service at a time. Empty: a temporary one, removed at the end.
         QString directory = {};
         /// 0: any free port.
         quint16 port = 0;
@@ -52,7 +54,8 @@ public:
     /// Starts the service. When that fails isRunning() is false, errorString() says why, and the
     /// other operations do nothing.
     explicit Sandbox(const Options &options);
-    /// Ends the service within a moment, waiting clients or not. Accounts stay in the directory.
+    /// Ends the service within a moment, waiting clients or not. Accounts and issues stay in the
+    /// directory.
     ~Sandbox();
     Sandbox(const Sandbox &) = delete;
     Sandbox &operator=(const Sandbox &) = delete;
@@ -81,6 +84,16 @@ public:
     bool removeAccount(const QString &email);
     [[nodiscard]] int accountCount() const;
 
+    /// Adds an issue without checking any of its fields; its number is chosen by the service.
+    /// Returns it as stored, or nothing if it cannot be.
+    std::optional<Issue> addIssue(const Issue &issue);
+    /// The same for many, all or none.
+    bool addIssues(QList<Issue> issues);
+    /// The issues of that package, newest first: in the order of their dates as texts.
+    [[nodiscard]] QList<Issue> issues(const QString &package) const;
+    /// Of all packages.
+    [[nodiscard]] int issueCount() const;
+
     /// Answers the next `count` requests for that path with the fault; a negative count lasts until
     /// clear(). The path is compared as sent, without the query; "*" stands for any. Faults staged
     /// for the same request are used up in the order of staging.
@@ -104,7 +117,7 @@ public:
 
     /// The reset messages written so far, oldest first, each a complete RFC 5322 message.
     [[nodiscard]] QByteArrayList messages() const;
-    /// Puts the service's clock forward: join dates, one-time passwords.
+    /// Puts the service's clock forward: dates, one-time passwords.
     void advanceClock(std::chrono::seconds time);
 
     /// What a client sends for that password: the SHA-256 of its UTF-8 bytes, as 64 lower-case

@@ -27,6 +27,7 @@ Service::Service(const Sandbox::Options &given)
              [this] { return m_certificates.context(book.takeReception()); })
 {
     m_router.add(m_accountEndpoints.endpoints());
+    m_router.add(m_issueEndpoints.endpoints());
     m_pool.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
 }
 

@@ -6,6 +6,7 @@
 #include "sandbox/Certificates.h"
 #include "sandbox/DirectoryLock.h"
 #include "sandbox/HttpsServer.h"
+#include "sandbox/IssueEndpoints.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/StageBook.h"
 
@@ -41,12 +42,14 @@ public:
     const PasswordHasher hasher;
     Database database;
     AccountStore store{database};
+    IssueStore issues{database, clock};
     Outbox outbox;
     StageBook book;
 
 private:
     DirectoryLock m_lock;
     AccountEndpoints m_accountEndpoints;
+    IssueEndpoints m_issueEndpoints{issues};
     Router m_router;
     Certificates m_certificates;
     std::mutex m_mutex;

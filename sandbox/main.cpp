@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/ControlSocket.h"
 #include "sandbox/DemoAccounts.h"
+#include "sandbox/DemoIssues.h"
 #include "sandbox/FaultLine.h"
 #include "sandbox/Sandbox.h"
 
@@ -34,11 +35,13 @@ int fail(const QString &problem)
 const QList<QCommandLineOption> &options()
 {
     static const QList<QCommandLineOption> all{
-        {u"directory"_s, u"State of the service: certificates, accounts, messages."_s, u"DIR"_s},
+        {u"directory"_s, u"State of the service: certificates, accounts, issues, messages."_s,
+         u"DIR"_s},
         {u"port"_s, u"Port on 127.0.0.1 and ::1; 0, the default, picks a free one."_s, u"N"_s,
          u"0"_s},
         {u"demo"_s,
-         u"Make the demo accounts, or give them their first passwords again, and print them."_s},
+         u"Make the demo accounts, or give them their first passwords again, and print them; make "
+         u"the demo issues unless there are issues."_s},
         {u"stage"_s, u"Hand a line to the service that runs in DIR, and end."_s, u"LINE"_s},
     };
     return all;
@@ -65,6 +68,13 @@ void makeDemoAccounts(sandbox::Sandbox &service)
             service.addAccount(account, password);
         }
         print(u"account\t%1\t%2\t%3"_s.arg(account.email, password, account.name));
+    }
+}
+
+void makeDemoIssues(sandbox::Sandbox &service)
+{
+    if (service.issueCount() == 0) {
+        service.addIssues(sandbox::demoIssues());
     }
 }
 
@@ -99,6 +109,7 @@ int serve(const QCommandLineParser &parser, quint16 port)
     }
     if (parser.isSet(u"demo"_s)) {
         makeDemoAccounts(service);
+        makeDemoIssues(service);
     }
     print(u"ready\thttps://localhost:%1\t%2"_s.arg(QString::number(service.port()),
                                                    service.caFile()));

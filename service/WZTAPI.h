@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/WZTPackageIssue.h"
 #include "model/WZTUser.h"
 #include "platform/foundation/NSTypes.h"
+
+#include <QList>
 
 #include <functional>
 
@@ -18,6 +21,9 @@ public:
     using Text = std::optional<QString>;
     /// The user is there with the one code that stands for a reply with a user, and nil otherwise.
     using UserCompletion = std::function<void(NSUInteger code, const std::optional<WZTUser> &user)>;
+    /// The issues are there with the one code that stands for a list, and nil otherwise.
+    using IssuesCompletion =
+        std::function<void(NSUInteger code, const std::optional<QList<WZTPackageIssue>> &issues)>;
     using CodeCompletion = std::function<void(NSUInteger code)>;
 
     WZTAPI() = delete;
@@ -42,4 +48,14 @@ public:
 
     /// Reads the account anew. 0: its user. 1: no such address. 2: anything else.
     static void userForAccount(const Text &email, UserCompletion completion);
+
+    /// Lists a project's issues in the service's order. 1: the issues. 0: there are none, and nil.
+    /// 2: anything else.
+    static void issuesForPackageIdentifier(const Text &identifier, IssuesCompletion completion);
+
+    /// Files an issue against a project, in the name of who is signed in, and logs what it sends.
+    /// Without a description none is sent. Main thread. 0: accepted. 1: refused, or the service was
+    /// not reached.
+    static void submitIssueForPackage(const Text &identifier, const Text &title,
+                                      const Text &issueDescription, CodeCompletion completion);
 };

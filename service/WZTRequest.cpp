@@ -10,17 +10,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QList<NSURLQueryItem> queryItems(std::span<const WZTParameter> parameters,
-                                 std::span<const std::optional<QString>> values)
+bool isSent(WZTParameter::Sent sent, const std::optional<QString> &value)
 {
-    Q_ASSERT(parameters.size() == values.size());
-    QList<NSURLQueryItem> items;
-    for (size_t i = 0; i < parameters.size(); ++i) {
-        const bool empty = !values[i] || values[i]->isEmpty();
-        if (parameters[i].sent == WZTParameter::Sent::Always || !empty)
-            items.append(NSURLQueryItem::queryItemWithName(parameters[i].name, values[i]));
+    switch (sent) {
+    case WZTParameter::Sent::Always:
+        return true;
+    case WZTParameter::Sent::UnlessNil:
+        return value.has_value();
+    case WZTParameter::Sent::UnlessEmpty:
+        return value && !value->isEmpty();
     }
-    return items;
+    return true;
 }
 
 NSMutableURLRequest urlRequest(const WZTRequest &request,
@@ -30,7 +30,7 @@ NSMutableURLRequest urlRequest(const WZTRequest &request,
     components.setScheme(u"https"_s);
     components.setHost(QLatin1StringView(BuildConstants::serviceHost));
     components.setPath(request.path);
-    components.setQueryItems(queryItems(request.parameters, values));
+    components.setQueryItems(WZTRequestFrame::queryItems(request, values));
 
     // A text that is no valid Unicode makes no URL; the session refuses the empty one.
     auto result = NSMutableURLRequest::requestWithURL(components.URL().value_or(QByteArray()));
@@ -40,6 +40,19 @@ NSMutableURLRequest urlRequest(const WZTRequest &request,
 }
 
 } // namespace
+
+QList<NSURLQueryItem> WZTRequestFrame::queryItems(const WZTRequest &request,
+                                                  std::span<const std::optional<QString>> values)
+{
+    Q_ASSERT(request.parameters.size() == values.size());
+    QList<NSURLQueryItem> items;
+    for (size_t i = 0; i < values.size(); ++i) {
+        const WZTParameter &parameter = request.parameters[i];
+        if (isSent(parameter.sent, values[i]))
+            items.append(NSURLQueryItem::queryItemWithName(parameter.name, values[i]));
+    }
+    return items;
+}
 
 void WZTRequestFrame::send(const WZTRequest &request,
                            std::span<const std::optional<QString>> values,

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/NSURLQueryItem.h"
+
 #include <QJsonDocument>
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -11,7 +14,7 @@
 
 /// One query item of a request.
 struct WZTParameter {
-    enum class Sent { Always, UnlessEmpty };
+    enum class Sent { Always, UnlessNil, UnlessEmpty };
 
     QLatin1StringView name;
     Sent sent = Sent::Always;
@@ -36,6 +39,10 @@ namespace WZTRequestFrame {
 /// What came back: nil for a transport error, a null document for a body that is no JSON object
 /// or list.
 using Reply = std::optional<QJsonDocument>;
+
+/// What `request` sends with one value for each of its parameters.
+[[nodiscard]] QList<NSURLQueryItem> queryItems(const WZTRequest &request,
+                                               std::span<const std::optional<QString>> values);
 
 /// Sends `request` over the shared URL session, with one value for each of its parameters, and
 /// returns at once. A nil value that is always sent goes out as a bare name. `decode` runs exactly

@@ -3,6 +3,7 @@
 #include "model/WZTUser.h"
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/foundation/NSKeyedUnarchiver.h"
+#include "tests/support/TestRunner.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -135,5 +136,5 @@ void WZTUserTest::archivesGiveBackWhatTheyGot()
     QVERIFY(WZTUser::initWithCoder(NSCoder()) == WZTUser(0, {}, {}));
 }
 
-QTEST_GUILESS_MAIN(WZTUserTest)
+WZT_TEST(WZTUserTest)
 #include "WZTUserTest.moc"

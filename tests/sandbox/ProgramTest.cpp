@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "sandbox/Packages.h"
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
 #include "tests/support/TestRunner.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -50,6 +53,7 @@ class ProgramTest : public QObject {
 
 private Q_SLOTS:
     void demoAccountsSignInAndSurvive();
+    void demoIssuesAreMadeOnce();
     void linesFromATerminal();
     void wrongUse_data();
     void wrongUse();
@@ -77,6 +81,23 @@ void ProgramTest::demoAccountsSignInAndSurvive()
         QVERIFY(printed.contains("GET /login.php: 200"));
         QVERIFY(!printed.contains(Sandbox::digestOf(service.accounts[0][2])));
         QVERIFY(!printed.contains("userEmail"));
+    }
+}
+
+void ProgramTest::demoIssuesAreMadeOnce()
+{
+    const QTemporaryDir folder;
+    for (int start = 0; start < 2; ++start) {
+        Running service(folder.path());
+        QList<qsizetype> counts;
+        for (const QString &package : sandbox::packages()) {
+            const Answer answer =
+                service.client().get("/issues.php?packageId=" + package.toLatin1());
+            counts.append(QJsonDocument::fromJson(answer.body).array().size());
+        }
+        QCOMPARE(counts, (QList<qsizetype>{12, 3, 2000, 0, 5, 2}));
+        service.process.terminate();
+        QVERIFY(service.process.waitForFinished(5000));
     }
 }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAPI.h"
-
 #include "service/WZTAccountOperations.h"
+
+#include "service/WZTAPI.h"
 
 #include <QJsonObject>
 

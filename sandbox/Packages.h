@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+namespace sandbox {
+
+/// The identifiers of the packages that issues can be filed under.
+const QStringList &packages();
+
+} // namespace sandbox
