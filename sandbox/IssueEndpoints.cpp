@@ -80,7 +80,7 @@ Reply IssueEndpoints::submission(const Request &request)
     bool isNumber = false;
     const qint64 reporter = parameter(request, u"reporterId").toLongLong(&isNumber);
     const QString title = parameter(request, u"title");
-    if (title.trimmed().isEmpty() || !isNumber || reporter < 0) {
+    if (title.isEmpty() || !isNumber || reporter < 0) {
         return resultReply("Improper request"_L1, 400);
     }
     QList<Issue> issues{{.package = package,
