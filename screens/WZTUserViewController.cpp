@@ -172,16 +172,16 @@ void WZTUserViewController::requestUpdate(const UIAlertController &alert,
         WZTAPI::updateAccount(
             email, name, SHA256(*password), digest(newPassword),
             [self = strong(this), email](NSUInteger code, const std::optional<WZTUser> &user) {
-                dispatchAsyncMain([self, email, code, user] {
-                    acceptUser(user, email);
-                    self->updateEnded(code);
-                });
+                dispatchAsyncMain(
+                    [self, email, code, user] { self->updateEnded(code, user, email); });
             });
     }
 }
 
-void WZTUserViewController::updateEnded(NSUInteger code)
+void WZTUserViewController::updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
+                                        const std::optional<QString> &email)
 {
+    acceptUser(user, email);
     const Message *message = messageForCode(updateMessages, code);
     if (message)
         presentViewController(messageAlert(message->kind, message->text.toString()), true);

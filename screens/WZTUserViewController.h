@@ -34,11 +34,15 @@ public:
     /// Signs out at once.
     void logout(UIControl *sender);
 
+    /// What came of an update of the account of that address: takes over the user, unless somebody
+    /// else or nobody is signed in by now, and tells of it.
+    void updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
+                     const std::optional<QString> &email);
+
     // An alert titled "Error" or "Great!".
     void displayErrorMessage(const QString &message);
     void displaySuccessMessage(const QString &message);
 
 private:
     void requestUpdate(const UIAlertController &alert, const std::optional<QString> &email);
-    void updateEnded(NSUInteger code);
 };

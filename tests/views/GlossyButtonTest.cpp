@@ -20,9 +20,8 @@ const UIColor blue = UIColor::colorWithRed(0.106, 0.506, 0.906, 1);
 // A dynamic colour that is another one each time it is looked at.
 UIColor flickering(const UIColor &first, const UIColor &second)
 {
-    return UIColor::initWithDynamicProvider([first, second, looks = 0](const auto &) mutable {
-        return looks++ ? second : first;
-    });
+    return UIColor::initWithDynamicProvider(
+        [first, second, looks = 0](const auto &) mutable { return looks++ ? second : first; });
 }
 
 bool isNear(const Components &some, const Components &others)
@@ -75,13 +74,16 @@ private Q_SLOTS:
     {
         RecordingHost host;
         const UIApplication application(host);
-        for (const Components &rgb : {Components{1, 0.5, 0, 1}, {0.2, 0.9, 0.4, 0.5},
-                                      {0.1, 0.2, 0.8, 1}, {0.8, 0.1, 0.7, 1}, {0.3, 0.3, 0.3, 1}}) {
+        for (const Components &rgb : {Components{1, 0.5, 0, 1},
+                                      {0.2, 0.9, 0.4, 0.5},
+                                      {0.1, 0.2, 0.8, 1},
+                                      {0.8, 0.1, 0.7, 1},
+                                      {0.3, 0.3, 0.3, 1}}) {
             const auto hsb = UIColor::colorWithRed(rgb[0], rgb[1], rgb[2], rgb[3]).getHue();
-            QVERIFY(isNear(UIColor::colorWithHue(hsb->hue, hsb->saturation, hsb->brightness,
-                                                 hsb->alpha)
-                               .components(),
-                           rgb));
+            QVERIFY(
+                isNear(UIColor::colorWithHue(hsb->hue, hsb->saturation, hsb->brightness, hsb->alpha)
+                           .components(),
+                       rgb));
         }
     }
 
