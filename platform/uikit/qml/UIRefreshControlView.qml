@@ -13,12 +13,6 @@ Item {
 
     readonly property real pulled: Math.max(0, list.originY - list.contentY)
 
-    /// The spinner comes into sight, if the top of the table is.
-    function show() {
-        if (pulled < height && list.contentY <= list.originY)
-            rising.restart()
-    }
-
     height: Metrics.refreshControl
 
     Accessible.role: Accessible.ProgressBar
@@ -49,12 +43,10 @@ Item {
             if (!root.list.dragging && root.pulled >= Metrics.pullToRefresh)
                 root.control.pull()
         }
-    }
-    Connections {
-        target: root.control
-        function onChanged() {
-            if (root.control.refreshing)
-                root.show()
+        // The spinner comes into sight, if the top of the table is.
+        function onTopMarginChanged() {
+            if (root.control.refreshing && root.pulled < root.height && root.list.contentY <= root.list.originY)
+                rising.restart()
         }
     }
     Shortcut {
