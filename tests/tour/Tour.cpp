@@ -4,8 +4,10 @@
 
 #include "tests/support/TestWindow.h"
 #include "tests/support/WindowDriver.h"
+#include "views/WZTGlossyButton.h"
 
 #include <QAccessible>
+#include <QQmlEngine>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -74,6 +76,22 @@ void Tour::picture()
     QVERIFY2(m_window->view().grabWindow().save(file), qPrintable(file));
     m_window.reset();
     m_app.reset();
+}
+
+void Tour::shinyButton()
+{
+    TestApp app;
+    app.launch();
+    WZTGlossyButton button(QRectF(0, 0, 240, 56), UIColor::colorWithRed(0.106, 0.506, 0.906, 1));
+    button.setTitle(u"Shiny"_s);
+    button.setTitleColor(UIColor::whiteColor());
+    QQuickView view;
+    view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+    view.setInitialProperties({{u"control"_s, QVariant::fromValue(&button)}});
+    view.setSource(QUrl(u"qrc:/qt/qml/Views/WZTGlossyButtonView.qml"_s));
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(view.grabWindow().save(m_folder.filePath(u"shiny-button.png"_s)));
 }
 
 void Tour::launch()

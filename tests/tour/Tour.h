@@ -21,6 +21,8 @@ public:
 private Q_SLOTS:
     void picture_data();
     void picture();
+    /// A button made with a size, and so with a shine, which no screen has.
+    void shinyButton();
 
 private:
     void launch();

@@ -93,8 +93,8 @@ Rectangle {
         }
 
         // What is just out of sight is there for Tab and for screen readers.
-        displayMarginBeginning: 400
-        displayMarginEnd: 400
+        displayMarginBeginning: 200
+        displayMarginEnd: 200
         objectName: "list"
         anchors.fill: parent
         clip: true

@@ -127,12 +127,12 @@ private Q_SLOTS:
             list()->setProperty("contentY", 300.0 * i);
             m_fixture->grab();
         }
-        QVERIFY(SampleCell::living < 60);
+        QVERIFY(SampleCell::living < 80);
         keys({Qt::Key_End});
         QCOMPARE(cell(100000)->textLabel()->text(), u"Row 0.99999"_s);
         keys({Qt::Key_PageUp, Qt::Key_Return});
         QVERIFY(m_table->chosen.at(0).row > 99950 && m_table->chosen.at(0).row < 99990);
-        QTRY_VERIFY(SampleCell::living < 60);
+        QTRY_VERIFY(SampleCell::living < 80);
     }
 
     void aReloadKeepsThePlace_data()
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QTRY_COMPARE(offset(), expected);
         for (int i = 1; i <= rows && item(i); ++i)
             QVERIFY(cell(i)->preparations > 0);
-        QVERIFY(SampleCell::living < 60);
+        QVERIFY(SampleCell::living < 80);
     }
 
     // In the order in which a stack lets go of a controller.
