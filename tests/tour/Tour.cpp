@@ -130,8 +130,14 @@ void Tour::tap(const QString &name)
 {
     await(name);
     QQuickView &view = m_window->view();
-    if (const QAccessibleInterface *found = WindowDriver::accessible(view, name))
-        WindowDriver::tap(view, view.mapFromGlobal(found->rect().center()));
+    QAccessibleInterface *found = WindowDriver::accessible(view, name);
+    if (!found)
+        return;
+    const QPoint centre = view.mapFromGlobal(found->rect().center());
+    if (QRect(QPoint(), view.size()).contains(centre))
+        WindowDriver::tap(view, centre);
+    else // just out of sight
+        found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 void Tour::await(const QString &name)
