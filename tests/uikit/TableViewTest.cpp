@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <numeric>
 #include <set>
@@ -25,6 +25,8 @@ SampleCell *cellAt(SampleTable &table, int entry)
     return static_cast<SampleCell *>(value(table, entry, "cell").value<UITableViewCell *>());
 }
 
+using Rows = std::tuple<const char *, std::vector<int>>;
+
 } // namespace
 
 /// What a table does without being drawn.
@@ -37,13 +39,8 @@ private Q_SLOTS:
         const auto table = make<SampleTable>(std::vector{3, 0, 2});
         UITableViewEntries &entries = *table->tableView()->entries();
         const QAbstractItemModelTester tester(&entries);
-        struct Expected {
-            QString name;
-            double height;
-            int position;
-        };
         constexpr double free = UITableViewAutomaticDimension;
-        const std::vector<Expected> expected{
+        const std::vector<std::tuple<QString, double, int>> expected{
             {u""_s, free, 0},        {u"Row 0.0"_s, free, 1}, {u"Row 0.1"_s, free, 2},
             {u"Row 0.2"_s, 70, 3},   {u""_s, 14, 4},          {u"Above"_s, free, 0},
             {u"Below,"_s, free, 1},  {u""_s, free, 0},        {u"Row 2.0"_s, free, 1},
@@ -78,16 +75,12 @@ private Q_SLOTS:
 
     void reloadedRowsReuseTheCells_data()
     {
-        QTest::addColumn<std::vector<int>>("rows");
-        QTest::newRow("as many") << std::vector{2, 0, 3};
-        QTest::newRow("more") << std::vector{7};
-        QTest::newRow("fewer") << std::vector{0, 1};
-        QTest::newRow("none") << std::vector<int>{};
+        addCases<Rows>({{"as many", {2, 0, 3}}, {"more", {7}}, {"fewer", {0, 1}}, {"none", {}}});
     }
 
     void reloadedRowsReuseTheCells()
     {
-        QFETCH(const std::vector<int>, rows);
+        const auto &[name, rows] = currentCase<Rows>();
         const auto table = make<SampleTable>(std::vector{2, 0, 3});
         UITableViewEntries &entries = *table->tableView()->entries();
         const QAbstractItemModelTester tester(&entries);

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
 #include "tests/uikit/qml/QmlFixture.h"
 
 #include <QAccessible>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 class TableDrawingTest : public QObject {
     Q_OBJECT
 
+    using Choice = std::tuple<const char *, void (*)(TableDrawingTest &)>;
+    using Reload = std::tuple<const char *, int>;
 private Q_SLOTS:
     void init() { m_fixture = std::make_unique<QmlFixture>(); }
 
@@ -52,7 +54,7 @@ private Q_SLOTS:
             QCOMPARE(item(entry)->height(), height);
             QCOMPARE(item(entry)->width(), 390);
         }
-        QCOMPARE(QmlFixture::find(item(1), u"textLabel"_s)->x(), 16);
+        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
@@ -66,39 +68,41 @@ private Q_SLOTS:
 
     void aTapChoosesOnce_data()
     {
-        QTest::addColumn<std::function<void(TableDrawingTest &)>>("choose");
         using Test = TableDrawingTest;
-        const auto row = [](const std::function<void(Test &)> &choose) { return choose; };
-        QTest::newRow("finger") << row([](Test &test) { test.m_fixture->tap(test.second()); });
-        QTest::newRow("mouse") << row([](Test &test) {
-            QTest::mouseClick(test.window(), Qt::LeftButton, {}, test.second());
-        });
-        QTest::newRow("keyboard") << row([](Test &test) {
-            test.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-        });
-        QTest::newRow("keyboard, from the end") << row([](Test &test) {
-            test.keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down,
-                       Qt::Key_Space});
-        });
-        QTest::newRow("screen reader") << row([](Test &test) {
-            test.accessible(2)->actionInterface()->doAction(
-                QAccessibleActionInterface::pressAction());
+        addCases<Choice>({
+            {"finger", [](Test &test) { test.m_fixture->tap(test.second()); }},
+            {"mouse",
+             [](Test &test) {
+                 QTest::mouseClick(test.window(), Qt::LeftButton, {}, test.second());
+             }},
+            {"keyboard",
+             [](Test &test) {
+                 test.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+             }},
+            {"keyboard, from the end",
+             [](Test &test) {
+                 test.keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Space});
+             }},
+            {"screen reader",
+             [](Test &test) {
+                 test.accessible(2)->actionInterface()->doAction(
+                     QAccessibleActionInterface::pressAction());
+             }},
         });
     }
 
     void aTapChoosesOnce()
     {
-        QFETCH(const std::function<void(TableDrawingTest &)>, choose);
         show({2, 2});
         m_table->whenChosen = [&] { m_table->tableView()->reloadData(); }; // from its own action
-        choose(*this);
+        std::get<1>(currentCase<Choice>())(*this);
         QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
     }
 
     void aPressedRowIsHighlightedUntilTheFingerLeaves()
     {
         show({3});
-        QQuickItem *selection = QmlFixture::find(item(2), u"selection"_s);
+        QQuickItem *selection = WindowDriver::named(item(2), u"selection"_s);
         QTest::mousePress(window(), Qt::LeftButton, {}, second());
         QCOMPARE(selection->opacity(), 1);
         QTest::mouseMove(window(), second() + QPoint(0, 100));
@@ -137,16 +141,12 @@ private Q_SLOTS:
 
     void aReloadKeepsThePlace_data()
     {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("as many rows") << 100;
-        QTest::newRow("more rows") << 200;
-        QTest::newRow("a few rows") << 3;
-        QTest::newRow("no rows") << 0;
+        addCases<Reload>({{"as many", 100}, {"more", 200}, {"a few", 3}, {"none", 0}});
     }
 
     void aReloadKeepsThePlace()
     {
-        QFETCH(const int, rows);
+        const int rows = std::get<1>(currentCase<Reload>());
         show({100});
         list()->setProperty("contentY", 1000);
         const double place = item(25)->y() - offset();
@@ -182,7 +182,7 @@ private:
     [[nodiscard]] QQuickWindow *window() const { return &m_fixture->window; }
     [[nodiscard]] QQuickItem *list() const
     {
-        return QmlFixture::find(m_fixture->window.rootObject(), u"list"_s);
+        return WindowDriver::named(m_fixture->window.rootObject(), u"list"_s);
     }
     [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
     [[nodiscard]] QQuickItem *item(int entry) const
@@ -198,12 +198,11 @@ private:
     }
     [[nodiscard]] QQuickItem *separator(int entry) const
     {
-        return QmlFixture::find(item(entry), u"separator"_s);
+        return WindowDriver::named(item(entry), u"separator"_s);
     }
-    [[nodiscard]] QPoint second() const { return QmlFixture::centre(item(2)); }
+    [[nodiscard]] QPoint second() const { return WindowDriver::centre(item(2)); }
     [[nodiscard]] QAccessibleInterface *accessible(int entry) const
     {
-        QAccessible::setActive(true);
         return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst());
     }
     void keys(const QList<Qt::Key> &keys) const
