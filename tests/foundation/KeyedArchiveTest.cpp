@@ -3,6 +3,7 @@
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/foundation/NSKeyedUnarchiver.h"
 #include "platform/foundation/PropertyList.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QElapsedTimer>
@@ -126,32 +127,28 @@ QByteArray reference(int index)
     return QByteArray("\0\0", 2) + char(index >> 8) + char(index);
 }
 
+using Reading = std::tuple<const char *, QByteArray, Record>;
+using Refusal = std::tuple<const char *, QByteArray>;
+
 } // namespace
 
 class KeyedArchiveTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void roundTrip_data()
-    {
-        QTest::addColumn<Record>("record");
-        QTest::newRow("full") << Record{17, u"Jürgen 😀"_s, u"jo"_s, NSDate{587487909.25}, true};
-        QTest::newRow("nil") << Record{0, u""_s, std::nullopt, std::nullopt, false};
-        QTest::newRow("extremes") << Record{INT_MIN, u"1"_s, u""_s, NSDate{-63114076800}, true};
-        QTest::newRow("confusable") << Record{INT_MAX, u"$null"_s, u"true"_s, NSDate{0}, false};
-        QTest::newRow("markup") << Record{-1, u"$class<&>\n\t\x1f"_s, u"$null"_s, NSDate{1}, true};
-        QTest::newRow("long") << Record{70000, QString(100000, u'ä'), QString(20, u'a'),
-                                        NSDate{1e9 + 1e-3}, false};
-    }
-
     void roundTrip()
     {
-        QFETCH(Record, record);
-        const auto data = archived(record);
-        QVERIFY(data);
-        const auto copy = unarchived(*data);
-        QVERIFY(copy);
-        QCOMPARE(*copy, record);
+        for (const Record &record : {
+                 Record{17, u"Jürgen 😀"_s, u"jo"_s, NSDate{587487909.25}, true},
+                 Record{0, u""_s, std::nullopt, std::nullopt, false},
+                 Record{INT_MIN, u"1"_s, u""_s, NSDate{-63114076800}, true},
+                 Record{INT_MAX, u"$null"_s, u"true"_s, NSDate{0}, false},
+                 Record{-1, u"$class<&>\n\t\x1f"_s, u"$null"_s, NSDate{1}, true},
+                 Record{70000, QString(100000, u'ä'), QString(20, u'a'), NSDate{1e9 + 1e-3}},
+             })
+            QCOMPARE(unarchived(archived(record).value()), record);
+        QVERIFY(!archived({1, u"a\0b"_s, {}, {}, false}));
+        QVERIFY(!archived({1, u"a"_s, QString(QChar(0xdc00)), {}, false}));
     }
 
     /// The layout that other readers of the format count on.
@@ -188,12 +185,6 @@ private Q_SLOTS:
         }
     }
 
-    void textThatCannotBeStored()
-    {
-        QVERIFY(!archived({1, u"a\0b"_s, {}, {}, false}));
-        QVERIFY(!archived({1, u"a"_s, QString(QChar(0xdc00)), {}, false}));
-    }
-
     void readsWhatOthersWrite()
     {
         const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(foreignArchive, recordClass);
@@ -208,17 +199,11 @@ private Q_SLOTS:
 
     void readsValues_data()
     {
-        QTest::addColumn<QByteArray>("archive");
-        QTest::addColumn<Record>("record");
         const QString no = u"nil"_s;
         const Record nothing{0, no, {}, {}, false};
         const Record flagged{0, no, {}, {}, true};
         const QByteArray text = "<k>NS.string</k><s>x</s>";
-        const struct {
-            const char *name;
-            QByteArray archive;
-            Record record;
-        } rows[] = {
+        addCases<Reading>({
             {"no values", archiveOf("other", "<true/>"), nothing},
             {"text for a number", archiveOf("number", "@3", "<s> 12abc</s>"), {12, no, {}, {}}},
             {"real for a number", archiveOf("number", "@3", "<r>-2.9</r>"), {-2, no, {}, {}}},
@@ -254,27 +239,28 @@ private Q_SLOTS:
              xmlArchive("<dict><k>$class</k>@2</dict><dict><k>$classname</k><s>Derived</s>"
                         "<k>$classes</k><array><s>Derived</s><s>Record</s></array></dict>"),
              nothing},
-        };
-        for (const auto &row : rows) {
-            QTest::newRow(row.name) << row.archive << row.record;
-        }
+        });
     }
 
     void readsValues()
     {
-        QFETCH(QByteArray, archive);
-        QFETCH(Record, record);
+        const auto &[name, archive, record] = currentCase<Reading>();
         QCOMPARE(unarchived(archive), record);
     }
 
     void refuses_data()
     {
-        QTest::addColumn<QByteArray>("data");
         const QByteArray root = "<dict><k>$class</k>@2</dict>" + recordDescription;
         const QByteArray version = "<k>$version</k><i>100000</i>";
         const QByteArray archiver = "<k>$archiver</k><s>Keyed</s>";
         QVERIFY(unarchived(xmlArchive(root)));
-        const std::pair<const char *, QByteArray> rows[] = {
+        QByteArrayList chain;
+        QByteArrayList bomb; // each list holds the next one ten times
+        for (int i = 1; i <= 1000; ++i) {
+            chain.append("\xa1" + reference(i));
+            bomb.append("\xaa" + reference(std::min(i, 9)).repeated(10));
+        }
+        addCases<Refusal>({
             {"nothing", ""},
             {"text", "hello"},
             {"a list", "<plist version=\"1.0\"><array/></plist>"},
@@ -306,26 +292,16 @@ private Q_SLOTS:
                     3)},
             {"contains itself", binary({"\xa1" + reference(0)}, 1)},
             {"refers to nothing", binary({"\xa1" + reference(7)}, 1)},
-        };
-        for (const auto &[name, data] : rows) {
-            QTest::newRow(name) << data;
-        }
-        QByteArrayList chain;
-        QByteArrayList bomb; // each list holds the next one ten times
-        for (int i = 1; i <= 1000; ++i) {
-            chain.append("\xa1" + reference(i));
-            bomb.append("\xaa" + reference(std::min(i, 9)).repeated(10));
-        }
-        QTest::newRow("a long chain") << binary(chain << "\x09", 1001);
-        QTest::newRow("a bomb of references") << binary(bomb.mid(0, 9) << "\x09", 10);
+            {"a long chain", binary(chain << "\x09", 1001)},
+            {"a bomb of references", binary(bomb.mid(0, 9) << "\x09", 10)},
+        });
     }
 
     void refuses()
     {
-        QFETCH(QByteArray, data);
         QElapsedTimer time;
         time.start();
-        QVERIFY(!unarchived(data));
+        QVERIFY(!unarchived(std::get<1>(currentCase<Refusal>())));
         QVERIFY(time.elapsed() < 2000);
     }
 
