@@ -3,12 +3,12 @@
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
 #include "tests/linux/HomeFile.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDBusArgument>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +28,8 @@ QByteArray start(const QStringList &urls, const QProcessEnvironment &environment
     return process.readAll();
 }
 
+using Start = std::tuple<const char *, QStringList, QByteArray, bool>;
+
 } // namespace
 
 class InstanceTest : public QObject {
@@ -38,20 +40,16 @@ private Q_SLOTS:
 
     void laterStart_data()
     {
-        QTest::addColumn<QStringList>("urls");
-        QTest::addColumn<QByteArray>("token");
-        QTest::addColumn<bool>("addressKnown");
-        QTest::newRow("activation") << QStringList() << QByteArray() << true;
-        QTest::newRow("URLs and token")
-            << QStringList{u"wzt://a?b=%41"_s, u"WZT://é b"_s} << QByteArray("token-1") << true;
-        QTest::newRow("bus in the runtime folder") << QStringList() << QByteArray("t2") << false;
+        addCases<Start>({
+            {"activation", {}, {}, true},
+            {"URLs and token", {u"wzt://a?b=%41"_s, u"WZT://é b"_s}, "token-1", true},
+            {"bus in the runtime folder", {}, "t2", false},
+        });
     }
 
     void laterStart()
     {
-        QFETCH(QStringList, urls);
-        QFETCH(QByteArray, token);
-        QFETCH(bool, addressKnown);
+        const auto &[name, urls, token, addressKnown] = currentCase<Start>();
         qunsetenv("XDG_ACTIVATION_TOKEN");
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         if (!token.isEmpty())
