@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIColor.h"
-#include "platform/uikit/UIFont.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TestRunner.h"
 
@@ -53,24 +52,6 @@ private Q_SLOTS:
         traits.setOverride(std::nullopt);
         QCOMPARE(traits.userInterfaceStyle(), UIUserInterfaceStyle::Unspecified);
         QCOMPARE(changed.count(), 4);
-    }
-
-    void fontsScaleWithTheText()
-    {
-        const UIFont footnote = UIFont::preferredFontForTextStyle(UIFontTextStyle::Footnote);
-        QCOMPARE(footnote.drawn(1).pixelSize(), 13);
-        QCOMPARE(footnote.drawn(2).pixelSize(), 26);
-        QCOMPARE(UIFont::systemFontOfSize(24, QFont::Medium).drawn(1).weight(), QFont::Medium);
-    }
-
-    void systemVersionGates()
-    {
-        RecordingHost host;
-        UIApplication application(host);
-        QVERIFY(application.traits().systemVersionIsAtLeast(13));
-        application.traits().setSystemVersion(12.4);
-        QVERIFY(application.traits().systemVersionIsAtLeast(12));
-        QVERIFY(!application.traits().systemVersionIsAtLeast(13));
     }
 };
 

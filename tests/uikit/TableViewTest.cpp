@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-
-#include <numeric>
-#include <set>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +21,6 @@ SampleCell *cellAt(SampleTable &table, int entry)
 {
     return static_cast<SampleCell *>(value(table, entry, "cell").value<UITableViewCell *>());
 }
-
-using Rows = std::tuple<const char *, std::vector<int>>;
 
 } // namespace
 
@@ -68,40 +63,6 @@ private Q_SLOTS:
         table->tableView()->reloadData();
         QCOMPARE(reset.count(), 0);
         QVERIFY(!table->isViewLoaded());
-        const auto plain = make<UITableViewController>(UITableViewStyle::Grouped);
-        QCOMPARE(plain->tableView()->entries()->rowCount(), 2);
-        QCOMPARE(plain->view(), plain->tableView());
-    }
-
-    void reloadedRowsReuseTheCells_data()
-    {
-        addCases<Rows>({{"as many", {2, 0, 3}}, {"more", {7}}, {"fewer", {0, 1}}, {"none", {}}});
-    }
-
-    void reloadedRowsReuseTheCells()
-    {
-        const auto &[name, rows] = currentCase<Rows>();
-        const auto table = make<SampleTable>(std::vector{2, 0, 3});
-        UITableViewEntries &entries = *table->tableView()->entries();
-        const QAbstractItemModelTester tester(&entries);
-        std::set<const SampleCell *> before;
-        for (int i = 0; i < entries.rowCount(); ++i)
-            before.insert(cellAt(*table, i));
-        table->rows = rows;
-        table->tableView()->reloadData();
-
-        int reused = 0;
-        int shown = 0;
-        for (int i = 0; i < entries.rowCount(); ++i) {
-            const SampleCell *cell = cellAt(*table, i);
-            if (!cell)
-                continue;
-            ++shown;
-            reused += cell->preparations;
-            QCOMPARE(cell->preparations, before.contains(cell) ? 1 : 0);
-        }
-        QCOMPARE(shown, std::accumulate(rows.begin(), rows.end(), 0));
-        QCOMPARE(reused, std::min(shown, 5));
     }
 
     void cellsAreMadeByClassAndPreparedWhenReused()

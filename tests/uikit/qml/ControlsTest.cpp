@@ -15,8 +15,6 @@ namespace {
 using Path = QList<QPoint>; // from the middle of the button; 15 points down is its edge
 
 using Touch = std::tuple<const char *, Path, QString, QString>;
-using Taking = std::tuple<const char *, void (*)(ControlsPage &)>;
-using Tap = std::tuple<const char *, QPoint, int, QString>;
 
 } // namespace
 
@@ -74,29 +72,26 @@ private Q_SLOTS:
         }
     }
 
-    void touchesAreTakenAway_data()
-    {
-        addCases<Taking>({
-            {"covered", [](ControlsPage &page) { page.item("page")->setEnabled(false); }},
-            {"hidden", [](ControlsPage &page) { page.item("page")->setVisible(false); }},
-            {"system",
-             [](ControlsPage &page) {
-                 QTouchEvent cancel(QEvent::TouchCancel, WindowDriver::screen());
-                 QCoreApplication::sendEvent(&page.fixture.window, &cancel);
-             }},
-        });
-    }
-
     void touchesAreTakenAway()
     {
-        ControlsPage page;
-        EventLog log(page.button);
-        QQuickView *window = &page.fixture.window;
-        QTest::touchEvent(window, WindowDriver::screen()).press(0, page.at("button"), window);
-        std::get<1>(currentCase<Taking>())(page);
-        QTest::touchEvent(window, WindowDriver::screen()).release(0, page.at("button"), window);
-        QCOMPARE(log.take(), u"down* cancel"_s);
-        QCOMPARE(page.taps, 0);
+        void (*const takings[])(ControlsPage &) = {
+            [](ControlsPage &page) { page.item("page")->setEnabled(false); },
+            [](ControlsPage &page) { page.item("page")->setVisible(false); },
+            [](ControlsPage &page) {
+                QTouchEvent cancel(QEvent::TouchCancel, WindowDriver::screen());
+                QCoreApplication::sendEvent(&page.fixture.window, &cancel);
+            },
+        };
+        for (const auto take : takings) {
+            ControlsPage page;
+            EventLog log(page.button);
+            QQuickView *window = &page.fixture.window;
+            QTest::touchEvent(window, WindowDriver::screen()).press(0, page.at("button"), window);
+            take(page);
+            QTest::touchEvent(window, WindowDriver::screen()).release(0, page.at("button"), window);
+            QCOMPARE(log.take(), u"down* cancel"_s);
+            QCOMPARE(page.taps, 0);
+        }
     }
 
     void keysPressButtons()
@@ -124,28 +119,25 @@ private Q_SLOTS:
         QVERIFY(button->hasActiveFocus() && ring());
     }
 
-    void tapsReachThePage_data()
-    {
-        addCases<Tap>({
-            {"background", {300, 500}, 1, {}},
-            {"label", {60, 30}, 1, {}},
-            {"button", {70, 187}, 1, u"down* up"_s},
-            {"field", {120, 78}, 0, {}},
-            {"the blank before the text", {24, 78}, 0, {}},
-        });
-    }
-
     void tapsReachThePage()
     {
-        const auto &[name, at, taps, events] = currentCase<Tap>();
-        ControlsPage page;
-        EventLog log(page.button);
-        page.fixture.tap(at);
-        QCOMPARE(page.taps, taps);
-        QCOMPARE(log.take(), events);
-        QCOMPARE(page.name.isFirstResponder(), taps == 0);
-        QTest::mouseClick(&page.fixture.window, Qt::LeftButton, {}, at);
-        QCOMPARE(page.taps, 2 * taps);
+        const std::tuple<QPoint, int, QString> rows[] = {
+            {{300, 500}, 1, {}}, // the background
+            {{60, 30}, 1, {}}, // the label
+            {{70, 187}, 1, u"down* up"_s}, // the button
+            {{120, 78}, 0, {}}, // the field
+            {{24, 78}, 0, {}}, // the blank before its text
+        };
+        for (const auto &[at, taps, events] : rows) {
+            ControlsPage page;
+            EventLog log(page.button);
+            page.fixture.tap(at);
+            QCOMPARE(page.taps, taps);
+            QCOMPARE(log.take(), events);
+            QCOMPARE(page.name.isFirstResponder(), taps == 0);
+            QTest::mouseClick(&page.fixture.window, Qt::LeftButton, {}, at);
+            QCOMPARE(page.taps, 2 * taps);
+        }
     }
 
     void screenReadersFindEverything()

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
 #include "tests/uikit/qml/QmlFixture.h"
 
 #include <QAccessible>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -13,11 +13,9 @@ using namespace Qt::StringLiterals;
 class TableDrawingTest : public QObject {
     Q_OBJECT
 
-    using Choice = std::tuple<const char *, void (*)(TableDrawingTest &)>;
-    using Reload = std::tuple<const char *, int>;
-private Q_SLOTS:
-    void init() { m_fixture = std::make_unique<QmlFixture>(); }
+    const QString press = QAccessibleActionInterface::pressAction();
 
+private Q_SLOTS:
     void cleanup()
     {
         m_fixture.reset();
@@ -28,17 +26,12 @@ private Q_SLOTS:
     void entriesStandWhereThePlatformPutsThem()
     {
         show({3, 3, 3});
-        struct Expected {
-            int entry;
-            double y;
-            double height;
-        };
         const double header = item(5)->height();
         const double rows = 208 + header;
         const double footer = item(9)->height();
         QVERIFY(header > 18 + 7 + 10); // with its text
         QVERIFY(footer > 18 + 2 * 14); // its text wraps
-        const Expected expected[] = {
+        const std::tuple<int, double, double> expected[] = {
             {0, 0, 36},
             {1, 36, 44},
             {2, 80, 44},
@@ -66,37 +59,26 @@ private Q_SLOTS:
         QVERIFY(!separator(1)->isVisible());
     }
 
-    void aTapChoosesOnce_data()
-    {
-        using Test = TableDrawingTest;
-        addCases<Choice>({
-            {"finger", [](Test &test) { test.m_fixture->tap(test.second()); }},
-            {"mouse",
-             [](Test &test) {
-                 QTest::mouseClick(test.window(), Qt::LeftButton, {}, test.second());
-             }},
-            {"keyboard",
-             [](Test &test) {
-                 test.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-             }},
-            {"keyboard, from the end",
-             [](Test &test) {
-                 test.keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Space});
-             }},
-            {"screen reader",
-             [](Test &test) {
-                 test.accessible(2)->actionInterface()->doAction(
-                     QAccessibleActionInterface::pressAction());
-             }},
-        });
-    }
-
     void aTapChoosesOnce()
     {
-        show({2, 2});
-        m_table->whenChosen = [&] { m_table->tableView()->reloadData(); }; // from its own action
-        std::get<1>(currentCase<Choice>())(*this);
-        QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+        const std::function<void()> ways[] = {
+            [this] { m_fixture->tap(second()); },
+            [this] { QTest::mouseClick(window(), Qt::LeftButton, {}, second()); },
+            [this] {
+                keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+            },
+            [this] {
+                keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Space});
+            },
+            [this] { accessible(2)->actionInterface()->doAction(press); },
+        };
+        for (const auto &choose : ways) {
+            show({2, 2});
+            // From its own action.
+            m_table->whenChosen = [&] { m_table->tableView()->reloadData(); };
+            choose();
+            QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+        }
     }
 
     void aPressedRowIsHighlightedUntilTheFingerLeaves()
@@ -139,25 +121,21 @@ private Q_SLOTS:
         QTRY_VERIFY(SampleCell::living < 60);
     }
 
-    void aReloadKeepsThePlace_data()
-    {
-        addCases<Reload>({{"as many", 100}, {"more", 200}, {"a few", 3}, {"none", 0}});
-    }
-
     void aReloadKeepsThePlace()
     {
-        const int rows = std::get<1>(currentCase<Reload>());
-        show({100});
-        list()->setProperty("contentY", 1000);
-        const double place = item(25)->y() - offset();
-        m_table->rows = {rows};
-        m_table->tableView()->reloadData();
-        m_fixture->grab();
-        const double expected = rows < 100 ? item(0)->y() : item(25)->y() - place;
-        QTRY_COMPARE(offset(), expected);
-        for (int i = 1; i <= rows && item(i); ++i)
-            QVERIFY(cell(i)->preparations > 0);
-        QVERIFY(SampleCell::living < 60);
+        for (const int rows : {100, 200, 3, 0}) {
+            show({100});
+            list()->setProperty("contentY", 1000);
+            const double place = item(25)->y() - offset();
+            m_table->rows = {rows};
+            m_table->tableView()->reloadData();
+            m_fixture->grab();
+            const double expected = rows < 100 ? item(0)->y() : item(25)->y() - place;
+            QTRY_COMPARE(offset(), expected);
+            for (int i = 1; i <= rows && item(i); ++i)
+                QVERIFY(cell(i)->preparations > 0);
+            QVERIFY(SampleCell::living < 60);
+        }
     }
 
     // In the order in which a stack lets go of a controller.
@@ -170,8 +148,11 @@ private Q_SLOTS:
     }
 
 private:
+    /// Another table in another window.
     void show(std::vector<int> rows)
     {
+        cleanup();
+        m_fixture = std::make_unique<QmlFixture>();
         m_table = make<SampleTable>(std::move(rows));
         const auto controller = QVariant::fromValue(m_table.get());
         QVERIFY(

@@ -68,6 +68,9 @@ private Q_SLOTS:
         page.key(Qt::Key_V, Qt::ControlModifier);
         page.type("c");
         QCOMPARE(page.name.text(), std::optional(u"a bc"_s));
+        page.name.setText(std::nullopt);
+        page.key(Qt::Key_Backspace);
+        QCOMPARE(page.name.text(), std::nullopt);
     }
 
     void textIsComposed()
