@@ -257,27 +257,6 @@ private Q_SLOTS:
         QCOMPARE(codeOf("GET", "https://localhost/user.php", true), 0);
     }
 
-    void resumingIsWhatSends()
-    {
-        Outcome never;
-        Outcome twice;
-        const auto request = NSMutableURLRequest::requestWithURL("https://localhost/user.php");
-        const auto unsent = m_session->dataTaskWithRequest(request, never.completion());
-        auto task = m_session->dataTaskWithRequest(request, twice.completion());
-        task->resume();
-        task->resume();
-        task.reset();
-        twice.done.wait();
-        m_session.reset();
-        QCOMPARE(never.calls, 0);
-        QCOMPARE(twice.calls, 1);
-        QCOMPARE(m_service->requests().size(), 1);
-        // The session is gone: cancelled at once.
-        unsent->resume();
-        QCOMPARE(never.calls, 1);
-        QCOMPARE(never.code(), int(NSURLErrorCancelled));
-    }
-
     /// Requests in every stage, and one that is sent by a completion when all is over.
     void endsWithRequestsUnderWay()
     {
