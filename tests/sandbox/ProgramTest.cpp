@@ -114,5 +114,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(ProgramTest)
-
 #include "ProgramTest.moc"
