@@ -244,22 +244,6 @@ private Q_SLOTS:
         }
     }
 
-    void theKeyboardFollowsReturnAndTaps()
-    {
-        TestApp app;
-        app.launch();
-        WZTLoginViewController &screen = login(app);
-        QVERIFY(screen.emailTextField()->isFirstResponder());
-        QVERIFY(screen.isModalInPresentation());
-        screen.emailTextField()->returnPressed();
-        QVERIFY(screen.passwordTextField()->isFirstResponder());
-        screen.view()->tapped();
-        QCOMPARE(app.application().firstResponder(), nullptr);
-        screen.emailTextField()->becomeFirstResponder();
-        screen.view()->tapped();
-        QCOMPARE(app.application().firstResponder(), nullptr);
-    }
-
     void twoTapsAreTwoRequests()
     {
         TestApp app;
@@ -295,21 +279,16 @@ private Q_SLOTS:
         app.application().traits().setSystemVersion(version);
         const auto screen = make<WZTLoginViewController>();
         screen->loadViewIfNeeded();
+        QVERIFY(screen->isModalInPresentation());
         QCOMPARE(screen->view()->backgroundColor().drawn(true), background.drawn(true));
         QCOMPARE(screen->formContainer()->backgroundColor().drawn(true), card.drawn(true));
         QCOMPARE(screen->headerLabel()->textColor().drawn(true), text.drawn(true));
         QCOMPARE(screen->formContainer()->layer().cornerCurve == CALayer::CornerCurve::Continuous,
                  continuous);
-        QCOMPARE(screen->formContainer()->layer().cornerRadius, 12);
-        QCOMPARE(screen->headerLabel()->font().pointSize(), 22);
-        QCOMPARE(screen->forgotPasswordButton()->titleFont().pointSize(), 13);
         for (UITextField *field : {screen->emailTextField(), screen->passwordTextField()}) {
             QCOMPARE(field->textColor().drawn(true), text.drawn(true));
             QCOMPARE(field->placeholderColor().drawn(true), placeholder.drawn(true));
             QCOMPARE(field->layer().borderColor.drawn(true), line.drawn(true));
-            QCOMPARE(field->layer().borderWidth, 2);
-            QCOMPARE(field->layer().cornerRadius, 12);
-            QCOMPARE(field->leftViewWidth(), 14);
         }
         using Capitals = UITextAutocapitalizationType;
         QVERIFY(screen->emailTextField()->inputTraits()
