@@ -37,21 +37,19 @@ WZTUser someUser(const QString &name = u"Jo"_s)
 }
 
 /// How often both tabs' tables were reloaded since it was made.
-class Reloads {
-public:
+struct Reloads {
     explicit Reloads(TestApp &app)
-        : m_home(app.delegate().rootVC()->tableView(), &UITableView::reloaded),
-          m_account(app.delegate().userVC()->tableView(), &UITableView::reloaded)
+        : home(app.delegate().rootVC()->tableView(), &UITableView::reloaded),
+          account(app.delegate().userVC()->tableView(), &UITableView::reloaded)
     {
     }
     [[nodiscard]] bool were(int count) const
     {
-        return m_home.count() == count && m_account.count() == count;
+        return home.count() == count && account.count() == count;
     }
 
-private:
-    QSignalSpy m_home;
-    QSignalSpy m_account;
+    QSignalSpy home;
+    QSignalSpy account;
 };
 
 /// How the controller over the tabs was presented.

@@ -144,5 +144,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(AppearanceTest)
-
 #include "AppearanceTest.moc"

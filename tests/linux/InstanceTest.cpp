@@ -143,5 +143,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(InstanceTest)
-
 #include "InstanceTest.moc"

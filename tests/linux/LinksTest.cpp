@@ -69,5 +69,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(LinksTest)
-
 #include "LinksTest.moc"
