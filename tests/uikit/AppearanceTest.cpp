@@ -22,14 +22,6 @@ private Q_SLOTS:
         QCOMPARE(UIColor::colorWithWhite(0.4, 0.2).components().size(), std::size_t(2));
         QVERIFY(UIColor().isNil());
         QCOMPARE(UIColor().drawn(true).alpha(), 0);
-    }
-
-    void dynamicColorsFollowTheStyle()
-    {
-        const UIColor background = UIColor::secondarySystemGroupedBackgroundColor();
-        QVERIFY(background.components().empty());
-        QCOMPARE(background.drawn(false), QColor(255, 255, 255));
-        QCOMPARE(background.drawn(true), QColor(28, 28, 30));
         const UIColor nested = UIColor::initWithDynamicProvider(
             [](const UITraitCollection &) { return UIColor::labelColor(); });
         QCOMPARE(nested.drawn(true), QColor(Qt::white));

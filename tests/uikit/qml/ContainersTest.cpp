@@ -84,23 +84,6 @@ private Q_SLOTS:
         QVERIFY(off.manhattanLength() <= 1);
     }
 
-    void barsFollowTheStyle()
-    {
-        WindowFixture fixture;
-        const Shell shell;
-        fixture.show(shell.tabs);
-        UITraits &traits = fixture.application.traits();
-        for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
-            traits.setOverride(UIAppearance{.style = style});
-            const QImage image = fixture.host->view().grabWindow();
-            QCOMPARE(image.pixelColor(2, 20), traits.barColor());
-            QCOMPARE(image.pixelColor(2, 830), traits.barColor());
-            QCOMPARE(image.pixelColor(2, 100), traits.backgroundColor());
-            QVERIFY(image.pixelColor(2, 43) != traits.barColor());
-            QVERIFY(image.pixelColor(2, 795) != traits.barColor());
-        }
-    }
-
     void waysBack_data()
     {
         addCases<WayBack>({{"touch", Qt::Key_unknown, {}},
