@@ -4,6 +4,7 @@
 #include "tests/support/TestRunner.h"
 
 #include <QDateTime>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -19,20 +20,12 @@ NSDate utc(const char *isoDate)
 }
 
 /// Sets a variable of the environment for one scope.
-class Variable {
-public:
-    Variable(const char *name, const QByteArray &value) : m_name(name), m_previous(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    ~Variable() { qputenv(m_name, m_previous); }
-    Variable(const Variable &) = delete;
-    Variable &operator=(const Variable &) = delete;
-
-private:
-    const char *m_name;
-    QByteArray m_previous;
-};
+[[nodiscard]] auto scopedVariable(const char *name, const QByteArray &value)
+{
+    const QByteArray previous = qgetenv(name);
+    qputenv(name, value);
+    return qScopeGuard([name, previous] { qputenv(name, previous); });
+}
 
 } // namespace
 
@@ -40,12 +33,8 @@ class DateFormatterTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void reads_data()
+    void reads()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("moment"); // empty for nil
-        QTest::addColumn<QByteArray>("zone");
-
         const struct {
             const char *text;
             const char *moment;
@@ -54,51 +43,33 @@ private Q_SLOTS:
             {"2019-08-14 17:05:09", "2019-08-14T15:05:09Z"},
             {"2019-08-14 17:05:09", "2019-08-14T08:05:09Z", "Asia/Tokyo"},
             {"2019-08-14 17:05:09", "2019-08-14T17:05:09Z", "UTC"},
-            {"2000-12-31 23:59:59", "2000-12-31T22:59:59Z"},
             {"2020-02-29 00:00:00", "2020-02-28T23:00:00Z"},
             {"1969-12-31 12:00:00", "1969-12-31T11:00:00Z"},
             {"2019-10-27 02:30:00", "2019-10-27T01:30:00Z"}, // occurs twice: the later
-            {"٢٠١٩-٠٨-١٤ ١٧:٠٥:٠٩", "2019-08-14T15:05:09Z"},
-            {"", ""},
-            {"2019-08-14", ""},
-            {"14/08/2019 17:05", ""},
-            {"2019-08-14 17:05", ""},
-            {"2019-08-14T17:05:09", ""},
-            {"2019-08-14 17:05:09 ", ""},
-            {"2019-08-14 17:05:09Z", ""},
-            {"2019-08-14 17:05:09.5", ""},
-            {"2019-Aug-14 17:05:09", ""},
-            {"2019-8-4 7:5:9", ""},
-            {"0000-00-00 00:00:00", ""},
-            {"2019-02-29 10:00:00", ""},
-            {"2019-04-31 10:00:00", ""},
-            {"2019-13-01 10:00:00", ""},
-            {"2019-08-14 24:00:00", ""},
-            {"2019-08-14 23:60:00", ""},
-            {"2019-08-14 23:59:60", ""},
-            {"2019-03-31 02:30:00", ""}, // skipped by summer time
             {"2019-03-31 02:30:00", "2019-03-31T02:30:00Z", "UTC"},
-            {"now", ""},
+            {"٢٠١٩-٠٨-١٤ ١٧:٠٥:٠٩", "2019-08-14T15:05:09Z"},
         };
-        for (const auto &row : rows) {
-            QTest::addRow("%s %s", row.zone, row.text)
-                << QString::fromUtf8(row.text) << QByteArray(row.moment) << QByteArray(row.zone);
+        NSDateFormatter formatter;
+        formatter.setDateFormat(u"yyy-MM-dd HH:mm:ss"_s);
+        for (const auto &[text, moment, zone] : rows) {
+            formatter.setTimeZone(QString::fromLatin1(zone));
+            QCOMPARE(formatter.dateFromString(QString::fromUtf8(text)), utc(moment));
         }
     }
 
-    void reads()
+    void refuses()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, moment);
-        QFETCH(QByteArray, zone);
         NSDateFormatter formatter;
         formatter.setDateFormat(u"yyy-MM-dd HH:mm:ss"_s);
-        formatter.setTimeZone(QString::fromLatin1(zone));
-        const std::optional<NSDate> date = formatter.dateFromString(text);
-        QCOMPARE(date.has_value(), !moment.isEmpty());
-        if (date) {
-            QCOMPARE(*date, utc(moment.constData()));
-        }
+        formatter.setTimeZone(QString::fromLatin1(berlin));
+        for (const char *text :
+             {"", "now", "2019-08-14", "14/08/2019 17:05", "2019-08-14 17:05",
+              "2019-08-14T17:05:09", "2019-08-14 17:05:09 ", "2019-08-14 17:05:09Z",
+              "2019-08-14 17:05:09.5", "2019-Aug-14 17:05:09", "2019-8-4 7:5:9",
+              "0000-00-00 00:00:00", "2019-02-29 10:00:00", "2019-04-31 10:00:00",
+              "2019-13-01 10:00:00", "2019-08-14 24:00:00", "2019-08-14 23:60:00",
+              "2019-08-14 23:59:60", "2019-03-31 02:30:00" /* skipped by summer time */})
+            QVERIFY2(!formatter.dateFromString(QString::fromLatin1(text)), text);
     }
 
     void writesWhatItReads()
@@ -113,46 +84,32 @@ private Q_SLOTS:
         QCOMPARE(formatter.stringFromDate({qQNaN()}), QString());
     }
 
-    void mediumStyleIsTheLocales()
-    {
-        NSDateFormatter formatter;
-        const NSDate date = utc("2026-11-16T12:00:00Z");
-        QCOMPARE(formatter.stringFromDate(date), QString());
-        formatter.setDateStyle(NSDateFormatterStyle::Medium);
-        const std::pair<QString, QString> rows[] = {
-            {u"en_US"_s, u"Nov 16, 2026"_s}, {u"en_GB"_s, u"16 Nov 2026"_s},
-            {u"de_DE"_s, u"16.11.2026"_s},   {u"de_DE.UTF-8@euro"_s, u"16.11.2026"_s},
-            {u"ja_JP"_s, u"2026/11/16"_s},   {u"C.UTF-8"_s, u"Nov 16, 2026"_s},
-        };
-        for (const auto &[locale, text] : rows) {
-            formatter.setLocale(locale);
-            QCOMPARE(formatter.stringFromDate(date), text);
-        }
-    }
-
     /// The device's settings count at the time of each use, in the order of their precedence.
     void followsTheEnvironment()
     {
-        const Variable language("LANG", "ja_JP.UTF-8");
-        const Variable time("LC_TIME", "");
-        const Variable all("LC_ALL", "");
+        const auto language = scopedVariable("LANG", "ja_JP.UTF-8");
+        const auto time = scopedVariable("LC_TIME", "");
+        const auto all = scopedVariable("LC_ALL", "");
         NSDateFormatter style;
+        QCOMPARE(style.stringFromDate(utc("2026-11-16T12:00:00Z")), QString()); // no style yet
         style.setDateStyle(NSDateFormatterStyle::Medium);
         NSDateFormatter format;
         format.setDateFormat(u"HH:mm"_s);
         const NSDate date = utc("2026-11-16T23:30:00Z");
         {
-            const Variable zone("TZ", "Asia/Tokyo");
+            const auto zone = scopedVariable("TZ", "Asia/Tokyo");
             QCOMPARE(style.stringFromDate(date), u"2026/11/17"_s);
             QCOMPARE(format.stringFromDate(date), u"08:30"_s);
         }
-        const Variable zone("TZ", "America/New_York");
+        const auto zone = scopedVariable("TZ", "America/New_York");
         QCOMPARE(style.stringFromDate(date), u"2026/11/16"_s);
         QCOMPARE(format.stringFromDate(date), u"18:30"_s);
-        const Variable german("LC_TIME", "de_DE.UTF-8");
+        const auto german = scopedVariable("LC_TIME", "de_DE.UTF-8");
         QCOMPARE(style.stringFromDate(date), u"16.11.2026"_s);
-        const Variable american("LC_ALL", "en_US.UTF-8");
+        const auto american = scopedVariable("LC_ALL", "en_US.UTF-8");
         QCOMPARE(style.stringFromDate(date), u"Nov 16, 2026"_s);
+        style.setLocale(u"de_DE.UTF-8@euro"_s); // its own over all of them
+        QCOMPARE(style.stringFromDate(date), u"16.11.2026"_s);
     }
 };
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/foundation/NSKeyedUnarchiver.h"
 #include "platform/foundation/PropertyList.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QElapsedTimer>
@@ -126,32 +127,27 @@ QByteArray reference(int index)
     return QByteArray("\0\0", 2) + char(index >> 8) + char(index);
 }
 
+using Refusal = std::tuple<const char *, QByteArray>;
+
 } // namespace
 
 class KeyedArchiveTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void roundTrip_data()
-    {
-        QTest::addColumn<Record>("record");
-        QTest::newRow("full") << Record{17, u"Jürgen 😀"_s, u"jo"_s, NSDate{587487909.25}, true};
-        QTest::newRow("nil") << Record{0, u""_s, std::nullopt, std::nullopt, false};
-        QTest::newRow("extremes") << Record{INT_MIN, u"1"_s, u""_s, NSDate{-63114076800}, true};
-        QTest::newRow("confusable") << Record{INT_MAX, u"$null"_s, u"true"_s, NSDate{0}, false};
-        QTest::newRow("markup") << Record{-1, u"$class<&>\n\t\x1f"_s, u"$null"_s, NSDate{1}, true};
-        QTest::newRow("long") << Record{70000, QString(100000, u'ä'), QString(20, u'a'),
-                                        NSDate{1e9 + 1e-3}, false};
-    }
-
     void roundTrip()
     {
-        QFETCH(Record, record);
-        const auto data = archived(record);
-        QVERIFY(data);
-        const auto copy = unarchived(*data);
-        QVERIFY(copy);
-        QCOMPARE(*copy, record);
+        for (const Record &record : {
+                 Record{17, u"Jürgen 😀"_s, u"jo"_s, NSDate{587487909.25}, true},
+                 Record{0, u""_s, std::nullopt, std::nullopt, false},
+                 Record{INT_MIN, u"1"_s, u""_s, NSDate{-63114076800}, true},
+                 Record{INT_MAX, u"$null"_s, u"true"_s, NSDate{0}, false},
+                 Record{-1, u"$class<&>\n\t\x1f"_s, u"$null"_s, NSDate{1}, true},
+                 Record{70000, QString(100000, u'ä'), QString(20, u'a'), NSDate{1e9 + 1e-3}},
+             })
+            QCOMPARE(unarchived(archived(record).value()), record);
+        QVERIFY(!archived({1, u"a\0b"_s, {}, {}, false}));
+        QVERIFY(!archived({1, u"a"_s, QString(QChar(0xdc00)), {}, false}));
     }
 
     /// The layout that other readers of the format count on.
@@ -188,12 +184,6 @@ private Q_SLOTS:
         }
     }
 
-    void textThatCannotBeStored()
-    {
-        QVERIFY(!archived({1, u"a\0b"_s, {}, {}, false}));
-        QVERIFY(!archived({1, u"a"_s, QString(QChar(0xdc00)), {}, false}));
-    }
-
     void readsWhatOthersWrite()
     {
         const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(foreignArchive, recordClass);
@@ -206,75 +196,57 @@ private Q_SLOTS:
         QVERIFY(!NSKeyedUnarchiver::unarchiveObjectWithData(foreignArchive, u"NSDate"_s));
     }
 
-    void readsValues_data()
+    void readsValues()
     {
-        QTest::addColumn<QByteArray>("archive");
-        QTest::addColumn<Record>("record");
         const QString no = u"nil"_s;
         const Record nothing{0, no, {}, {}, false};
         const Record flagged{0, no, {}, {}, true};
-        const QByteArray text = "<k>NS.string</k><s>x</s>";
-        const struct {
-            const char *name;
-            QByteArray archive;
-            Record record;
-        } rows[] = {
-            {"no values", archiveOf("other", "<true/>"), nothing},
-            {"text for a number", archiveOf("number", "@3", "<s> 12abc</s>"), {12, no, {}, {}}},
-            {"real for a number", archiveOf("number", "@3", "<r>-2.9</r>"), {-2, no, {}, {}}},
-            {"large number", archiveOf("number", "@3", "<i>4294967297</i>"), {INT_MAX, no, {}, {}}},
-            {"number in place", archiveOf("number", "<i>-5</i>"), {-5, no, {}, {}}},
-            {"number object",
-             archiveOf("number", "@3", objectOf("NSNumber", "<k>NS.intval</k><i>8</i>")),
-             {8, no, {}, {}}},
-            {"number for a text", archiveOf("name", "@3", "<i>17</i>"), {0, u"17"_s, {}, {}}},
-            {"boolean for a text", archiveOf("name", "@3", "<true/>"), nothing},
-            {"list for a text", archiveOf("name", "@3", "<array/>"), nothing},
-            {"text in place", archiveOf("name", "<s>Jo</s>"), {0, u"Jo"_s, {}, {}}},
-            {"bytes of a text",
-             archiveOf("name", "@3", objectOf("NSString", "<k>NS.bytes</k><data>w6Q=</data>")),
-             {0, u"ä"_s, {}, {}}},
-            {"null object", archiveOf("name", "@3", objectOf("NSNull", "")), nothing},
-            {"another object", archiveOf("name", "@3", objectOf("NSURL", text)), nothing},
-            {"plain date",
-             archiveOf("date", "<date>2001-01-01T00:00:10Z</date>"),
-             {0, no, {}, NSDate{10}}},
-            {"plain date as an object",
-             archiveOf("date", "@3", "<date>2001-01-01T00:01:00Z</date>"),
-             {0, no, {}, NSDate{60}}},
-            {"whole seconds",
-             archiveOf("date", "@3", objectOf("NSDate", "<k>NS.time</k><i>-3</i>")),
-             {0, no, {}, NSDate{-3}}},
-            {"date without time", archiveOf("date", "@3", objectOf("NSDate", "")), nothing},
-            {"boolean as an object", archiveOf("flag", "@3", "<true/>"), flagged},
-            {"number for a boolean", archiveOf("flag", "<i>2</i>"), flagged},
-            {"itself", archiveOf("name", "@1"), nothing},
-            {"a reference to a reference", archiveOf("name", "@3", "@4<s>x</s>"), nothing},
-            {"derived class",
-             xmlArchive("<dict><k>$class</k>@2</dict><dict><k>$classname</k><s>Derived</s>"
-                        "<k>$classes</k><array><s>Derived</s><s>Record</s></array></dict>"),
-             nothing},
+        const QByteArray url = objectOf("NSURL", "<k>NS.string</k><s>x</s>");
+        const QByteArray bytes = objectOf("NSString", "<k>NS.bytes</k><data>w6Q=</data>");
+        const std::tuple<const char *, const char *, QByteArray, Record> rows[] = {
+            {"other", "<true/>", "", nothing},
+            {"number", "@3", "<s> 12abc</s>", {12, no, {}, {}}},
+            {"number", "@3", "<r>-2.9</r>", {-2, no, {}, {}}},
+            {"number", "@3", "<i>4294967297</i>", {INT_MAX, no, {}, {}}},
+            {"number", "<i>-5</i>", "", {-5, no, {}, {}}},
+            {"number", "@3", objectOf("NSNumber", "<k>NS.intval</k><i>8</i>"), {8, no, {}, {}}},
+            {"name", "@3", "<i>17</i>", {0, u"17"_s, {}, {}}},
+            {"name", "@3", "<true/>", nothing},
+            {"name", "@3", "<array/>", nothing},
+            {"name", "<s>Jo</s>", "", {0, u"Jo"_s, {}, {}}},
+            {"name", "@3", bytes, {0, u"ä"_s, {}, {}}},
+            {"name", "@3", objectOf("NSNull", ""), nothing},
+            {"name", "@3", url, nothing},
+            {"name", "@1", "", nothing}, // itself
+            {"name", "@3", "@4<s>x</s>", nothing}, // a reference to a reference
+            {"date", "<date>2001-01-01T00:00:10Z</date>", "", {0, no, {}, NSDate{10}}},
+            {"date", "@3", "<date>2001-01-01T00:01:00Z</date>", {0, no, {}, NSDate{60}}},
+            {"date", "@3", objectOf("NSDate", "<k>NS.time</k><i>-3</i>"), {0, no, {}, NSDate{-3}}},
+            {"date", "@3", objectOf("NSDate", ""), nothing},
+            {"flag", "@3", "<true/>", flagged},
+            {"flag", "<i>2</i>", "", flagged},
         };
-        for (const auto &row : rows) {
-            QTest::newRow(row.name) << row.archive << row.record;
-        }
-    }
-
-    void readsValues()
-    {
-        QFETCH(QByteArray, archive);
-        QFETCH(Record, record);
-        QCOMPARE(unarchived(archive), record);
+        for (const auto &[key, value, more, record] : rows)
+            QVERIFY2(unarchived(archiveOf(key, value, more)) == record, more.constData());
+        const QByteArray derived =
+            "<dict><k>$class</k>@2</dict><dict><k>$classname</k><s>Derived</s>"
+            "<k>$classes</k><array><s>Derived</s><s>Record</s></array></dict>";
+        QCOMPARE(unarchived(xmlArchive(derived)), nothing);
     }
 
     void refuses_data()
     {
-        QTest::addColumn<QByteArray>("data");
         const QByteArray root = "<dict><k>$class</k>@2</dict>" + recordDescription;
         const QByteArray version = "<k>$version</k><i>100000</i>";
         const QByteArray archiver = "<k>$archiver</k><s>Keyed</s>";
         QVERIFY(unarchived(xmlArchive(root)));
-        const std::pair<const char *, QByteArray> rows[] = {
+        QByteArrayList chain;
+        QByteArrayList bomb; // each list holds the next one ten times
+        for (int i = 1; i <= 1000; ++i) {
+            chain.append("\xa1" + reference(i));
+            bomb.append("\xaa" + reference(std::min(i, 9)).repeated(10));
+        }
+        addCases<Refusal>({
             {"nothing", ""},
             {"text", "hello"},
             {"a list", "<plist version=\"1.0\"><array/></plist>"},
@@ -306,26 +278,16 @@ private Q_SLOTS:
                     3)},
             {"contains itself", binary({"\xa1" + reference(0)}, 1)},
             {"refers to nothing", binary({"\xa1" + reference(7)}, 1)},
-        };
-        for (const auto &[name, data] : rows) {
-            QTest::newRow(name) << data;
-        }
-        QByteArrayList chain;
-        QByteArrayList bomb; // each list holds the next one ten times
-        for (int i = 1; i <= 1000; ++i) {
-            chain.append("\xa1" + reference(i));
-            bomb.append("\xaa" + reference(std::min(i, 9)).repeated(10));
-        }
-        QTest::newRow("a long chain") << binary(chain << "\x09", 1001);
-        QTest::newRow("a bomb of references") << binary(bomb.mid(0, 9) << "\x09", 10);
+            {"a long chain", binary(chain << "\x09", 1001)},
+            {"a bomb of references", binary(bomb.mid(0, 9) << "\x09", 10)},
+        });
     }
 
     void refuses()
     {
-        QFETCH(QByteArray, data);
         QElapsedTimer time;
         time.start();
-        QVERIFY(!unarchived(data));
+        QVERIFY(!unarchived(std::get<1>(currentCase<Refusal>())));
         QVERIFY(time.elapsed() < 2000);
     }
 

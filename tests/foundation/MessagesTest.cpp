@@ -28,19 +28,13 @@ private Q_SLOTS:
     void dispatchesInOrderOnTheMainThread()
     {
         QList<int> order;
-        const auto append = [&](int number) {
-            dispatchAsyncMain([&order, number, main = std::this_thread::get_id()] {
+        const auto append = [&, main = std::this_thread::get_id()](int number) {
+            dispatchAsyncMain([&order, number, main] {
                 order.append(std::this_thread::get_id() == main ? number : -number);
             });
         };
         append(1);
-        std::thread([&order, main = std::this_thread::get_id()] {
-            for (int number : {2, 3}) {
-                dispatchAsyncMain([&order, number, main] {
-                    order.append(std::this_thread::get_id() == main ? number : -number);
-                });
-            }
-        }).join();
+        std::thread([&] { append(2), append(3); }).join();
         dispatchAsyncMain([&] { append(5); });
         append(4);
         QVERIFY(order.isEmpty());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSURLSession.h"
 #include "sandbox/Sandbox.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QTest>
@@ -49,6 +50,15 @@ Fault rawReply(const QByteArray &rest)
     return Fault::raw("HTTP/1.1 200 OK\r\n" + rest);
 }
 
+struct Reply {
+    const char *name;
+    Fault fault;
+    int code = 0;
+    QByteArray body = {}; // empty: not looked at
+    QByteArray method = "GET";
+    int sendings = 1;
+};
+
 QStringList logged;
 
 void record(QtMsgType, const QMessageLogContext &, const QString &line)
@@ -85,6 +95,16 @@ private:
         m_session->dataTaskWithRequest(request, outcome.completion())->resume();
     }
 
+    /// The code with which such a request ends.
+    template <class... Arguments>
+    [[nodiscard]] int codeOf(const Arguments &...arguments)
+    {
+        Outcome outcome;
+        send(outcome, arguments...);
+        outcome.done.wait();
+        return outcome.code();
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -111,22 +131,9 @@ private Q_SLOTS:
 
     void replies_data()
     {
-        QTest::addColumn<Fault>("fault");
-        QTest::addColumn<QByteArray>("method");
-        QTest::addColumn<int>("code"); // 0 for success
-        QTest::addColumn<QByteArray>("body"); // empty: not looked at
-        QTest::addColumn<int>("sendings");
-
         const qsizetype longest = qsizetype(16) * 1024 * 1024;
         const QByteArray pieces = "Transfer-Encoding: chunked\r\n\r\n5\r\nhello\r\n";
-        const struct {
-            const char *name;
-            Fault fault;
-            int code = 0;
-            QByteArray body = {};
-            QByteArray method = "GET";
-            int sendings = 1;
-        } rows[] = {
+        addCases<Reply>({
             {"body", Fault::json("{}"), 0, "{}"},
             {"body of a POST", Fault::json("{}"), 0, "{}", "POST"},
             {"any status", Fault::json("no", 503), 0, "no"},
@@ -175,22 +182,14 @@ private Q_SLOTS:
              NSURLErrorBadServerResponse},
             {"redirect to a file", Fault::redirect("file:///etc/passwd"),
              NSURLErrorBadServerResponse},
-        };
-        for (const auto &row : rows) {
-            QTest::newRow(row.name)
-                << row.fault << row.method << row.code << row.body << row.sendings;
-        }
+        });
     }
 
     /// Over a session whose connections are warm: what was open already must not be used.
     void replies()
     {
-        QFETCH(Fault, fault);
-        QFETCH(QByteArray, method);
-        QFETCH(QByteArray, body);
-        Outcome warm;
-        send(warm, "GET", "https://localhost/user.php", true);
-        warm.done.wait();
+        const auto &[name, fault, code, body, method, sendings] = currentCase<Reply>();
+        QCOMPARE(codeOf("GET", "https://localhost/user.php", true), 0);
         m_service->clear();
         m_service->stage("/user.php", fault, -1);
 
@@ -198,12 +197,12 @@ private Q_SLOTS:
         send(outcome, method);
         outcome.done.wait();
         m_session.reset();
-        QTEST(outcome.code(), "code");
+        QCOMPARE(outcome.code(), code);
         QVERIFY(body.isEmpty() || outcome.body == body);
         QVERIFY(!outcome.error || outcome.body.isEmpty());
         QCOMPARE(outcome.calls, 1);
         QVERIFY(outcome.thread != std::this_thread::get_id());
-        QTEST(int(m_service->requests().size()), "sendings");
+        QCOMPARE(m_service->requests().size(), sendings);
     }
 
     void certificates()
@@ -216,10 +215,7 @@ private Q_SLOTS:
         };
         for (const auto &[reception, code] : rows) {
             m_service->receive(reception);
-            Outcome outcome;
-            send(outcome);
-            outcome.done.wait();
-            QCOMPARE(outcome.code(), code);
+            QCOMPARE(codeOf(), code);
         }
         NSURLSessionConfiguration missing = configuration();
         missing.certificateAuthorityFile += u".not"_s;
@@ -227,103 +223,38 @@ private Q_SLOTS:
         systemsOwn.certificateAuthorityFile.clear();
         for (const auto &trust : {missing, systemsOwn}) {
             m_session = std::make_unique<NSURLSession>(trust);
-            Outcome outcome;
-            send(outcome);
-            outcome.done.wait();
-            QVERIFY(outcome.error);
+            QVERIFY(codeOf() != 0);
         }
         QCOMPARE(m_service->requests().size(), 0);
     }
 
     void requestsThatCannotBeSent()
     {
-        const struct {
-            QByteArray method;
-            QByteArray url;
-            int code;
-        } rows[] = {
+        const std::tuple<QByteArray, QByteArray, int> rows[] = {
             {"GET", "http://localhost/user.php", NSURLErrorUnsupportedURL},
             {"GET", "file:///etc/passwd", NSURLErrorBadURL},
             {"GET", "", NSURLErrorBadURL},
             {"GET", "https://", NSURLErrorBadURL},
             {"PUT", "https://localhost/user.php", NSURLErrorUnsupportedURL},
         };
-        for (const auto &row : rows) {
-            Outcome outcome;
-            send(outcome, row.method, row.url);
-            outcome.done.wait();
-            QCOMPARE(outcome.code(), row.code);
-        }
+        for (const auto &[method, url, code] : rows)
+            QCOMPARE(codeOf(method, url), code);
         NSURLSessionConfiguration nobody = configuration();
         nobody.connectTo = u"127.0.0.1:1"_s;
         m_session = std::make_unique<NSURLSession>(nobody);
-        Outcome outcome;
-        send(outcome);
-        outcome.done.wait();
-        QCOMPARE(outcome.code(), int(NSURLErrorCannotConnectToHost));
+        QCOMPARE(codeOf(), int(NSURLErrorCannotConnectToHost));
         QCOMPARE(m_service->requests().size(), 0);
-    }
-
-    void onTheWire()
-    {
-        for (const QByteArray method : {"GET", "POST"}) {
-            m_service->clear();
-            Outcome outcome;
-            send(outcome, method, "https://localhost/a%20b.php?x=%2B%2541&y&z=");
-            outcome.done.wait();
-            const sandbox::Request request = m_service->requests().value(0);
-            QCOMPARE(request.method, method);
-            QCOMPARE(request.target, QByteArray("/a%20b.php?x=%2B%2541&y&z="));
-            QCOMPARE(request.bodySize, 0);
-            QCOMPARE(request.header("Host"), QByteArray("localhost"));
-            QByteArrayList names;
-            for (const auto &[name, value] : request.headers) {
-                names.append(name);
-            }
-            const QByteArrayList length = {"Content-Length"};
-            QCOMPARE(names,
-                     (QByteArrayList{"Host", "Accept", "Accept-Encoding"}
-                      + (method == "POST" ? length : QByteArrayList())));
-        }
     }
 
     /// Only what may be repeated uses an open connection, and survives that it was closed.
     void connections()
     {
         const int before = m_service->connectionCount();
-        for (const bool repeatable : {false, true, true, false, true}) {
-            Outcome outcome;
-            send(outcome, "GET", "https://localhost/user.php", repeatable);
-            outcome.done.wait();
-            QCOMPARE(outcome.code(), 0);
-        }
+        for (const bool repeatable : {false, true, true, false, true})
+            QCOMPARE(codeOf("GET", "https://localhost/user.php", repeatable), 0);
         QCOMPARE(m_service->connectionCount(), before + 2);
         m_service->closeIdleConnections();
-        Outcome outcome;
-        send(outcome, "GET", "https://localhost/user.php", true);
-        outcome.done.wait();
-        QCOMPARE(outcome.code(), 0);
-    }
-
-    void resumingIsWhatSends()
-    {
-        Outcome never;
-        Outcome twice;
-        const auto request = NSMutableURLRequest::requestWithURL("https://localhost/user.php");
-        const auto unsent = m_session->dataTaskWithRequest(request, never.completion());
-        auto task = m_session->dataTaskWithRequest(request, twice.completion());
-        task->resume();
-        task->resume();
-        task.reset();
-        twice.done.wait();
-        m_session.reset();
-        QCOMPARE(never.calls, 0);
-        QCOMPARE(twice.calls, 1);
-        QCOMPARE(m_service->requests().size(), 1);
-        // The session is gone: cancelled at once.
-        unsent->resume();
-        QCOMPARE(never.calls, 1);
-        QCOMPARE(never.code(), int(NSURLErrorCancelled));
+        QCOMPARE(codeOf("GET", "https://localhost/user.php", true), 0);
     }
 
     /// Requests in every stage, and one that is sent by a completion when all is over.
@@ -333,9 +264,8 @@ private Q_SLOTS:
         m_service->stage("*", Fault::silence(), -1);
         m_service->receive(sandbox::Reception::Mute, 5);
         std::array<Outcome, 20> outcomes;
-        for (Outcome &outcome : outcomes) {
+        for (Outcome &outcome : outcomes)
             send(outcome);
-        }
         Outcome late;
         const auto request = NSMutableURLRequest::requestWithURL("https://localhost/user.php");
         m_session

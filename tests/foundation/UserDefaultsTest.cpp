@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/foundation/PropertyList.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDir>
@@ -53,6 +54,8 @@ uint modeOf(const QString &path)
         }
     }
 }
+
+using Damage = std::tuple<const char *, QByteArray>;
 
 } // namespace
 
@@ -147,39 +150,38 @@ private Q_SLOTS:
         QCOMPARE(after->item(u"s"_s).string(), u"ä😀"_s);
         QCOMPARE(after->item(u"t"_s).boolean(), true);
         QCOMPARE(after->item(u"d"_s).date(), before->item(u"d"_s).date());
-        QCOMPARE(after->item(u"l"_s).elements().value(0).item(u"k"_s).data(),
-                 QByteArray("\0\1", 2));
+        QCOMPARE(after->item(u"l"_s).elements()[0].item(u"k"_s).data(), QByteArray("\0\1", 2));
         QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
     }
 
     void damagedFile_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("empty") << QByteArray("");
-        QTest::newRow("text") << QByteArray("hello");
-        QTest::newRow("zeros") << QByteArray(4096, '\0');
-        QTest::newRow("cut") << QByteArray("bplist00\xd1\1");
-        QTest::newRow("a list") << QByteArray("<plist version=\"1.0\"><array/></plist>");
-        QTest::newRow("a folder") << QByteArray("folder");
-        QTest::newRow("a pipe") << QByteArray("pipe");
-        QTest::newRow("too long") << QByteArray(tooLong, ' ');
+        addCases<Damage>({
+            {"empty", ""},
+            {"text", "hello"},
+            {"zeros", QByteArray(4096, '\0')},
+            {"cut", "bplist00\xd1\1"},
+            {"a list", "<plist version=\"1.0\"><array/></plist>"},
+            {"a folder", "folder"},
+            {"a pipe", "pipe"},
+            {"too long", QByteArray(tooLong, ' ')},
+        });
     }
 
     /// Twice, first found by reading, then by writing.
     void damagedFile()
     {
-        QFETCH(QByteArray, content);
+        const auto &[name, content] = currentCase<Damage>();
         const QByteArray path = QFile::encodeName(m_file);
         for (int round = 1; round <= 2; ++round) {
             QDir().mkpath(m_folder);
             QFile::remove(m_file);
-            if (content == "folder") {
+            if (content == "folder")
                 QCOMPARE(mkdir(path.constData(), 0700), 0);
-            } else if (content == "pipe") {
+            else if (content == "pipe")
                 QCOMPARE(mkfifo(path.constData(), 0600), 0);
-            } else {
+            else
                 writeFile(m_file, content);
-            }
             QElapsedTimer time;
             time.start();
             QVERIFY(round == 2 || !defaults().dataForKey(userKey));
@@ -189,12 +191,9 @@ private Q_SLOTS:
             const QStringList aside =
                 QDir(m_folder).entryList({id + u".plist.damaged-*"_s}, QDir::Dirs);
             QCOMPARE(aside.size(), round);
-            for (const QString &name : aside) {
-                const QString kept = m_folder + u'/' + name + u'/' + id + u".plist"_s;
-                QVERIFY(QDir(m_folder + u'/' + name)
-                            .entryList(QDir::AllEntries | QDir::System)
-                            .contains(id + u".plist"_s));
-                QVERIFY(modeOf(m_folder + u'/' + name) == 0700U);
+            for (const QString &folder : aside) {
+                const QString kept = m_folder + u'/' + folder + u'/' + id + u".plist"_s;
+                QVERIFY(modeOf(m_folder + u'/' + folder) == 0700U && modeOf(kept) != 0);
                 QVERIFY(content == "folder" || content == "pipe" || contentOf(kept) == content);
             }
         }

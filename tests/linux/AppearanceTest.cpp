@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDBusMetaType>
@@ -9,7 +10,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <limits>
 
@@ -54,6 +54,8 @@ struct ObservedHost {
     QList<UIAppearance> told;
 };
 
+using Setting = std::tuple<const char *, QString, const char *, QVariant, UIAppearance>;
+
 } // namespace
 
 class AppearanceTest : public QObject {
@@ -66,39 +68,31 @@ private Q_SLOTS:
 
     void portalSettings_data()
     {
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<UIAppearance>("expected");
-        const auto row = [](const char *name, const QString &group, const char *key,
-                            const QVariant &value, const UIAppearance &expected) {
-            QTest::newRow(name) << group << QString::fromLatin1(key) << value << expected;
-        };
         const double nan = std::numeric_limits<double>::quiet_NaN();
-        row("no preference", looks, "color-scheme", 0U, {});
-        row("dark", looks, "color-scheme", 1U, {.style = dark});
-        row("light", looks, "color-scheme", 2U, {.style = light});
-        row("dark, wrapped more", looks, "color-scheme", wrapped(wrapped(1U)), {.style = dark});
-        row("unknown scheme", looks, "color-scheme", 3U, {});
-        row("scheme as text", looks, "color-scheme", u"1"_s, {});
-        row("key of another group", desktop, "color-scheme", 1U, {});
-        row("larger text", desktop, "text-scaling-factor", 1.25, {.textScale = 1.25});
-        row("giant text", desktop, "text-scaling-factor", 1e9, {.textScale = 3.0});
-        row("no text at all", desktop, "text-scaling-factor", 0.0, {.textScale = 0.5});
-        row("no number", desktop, "text-scaling-factor", nan, {});
-        row("scale as integer", desktop, "text-scaling-factor", 2, {});
-        row("animations off", desktop, "enable-animations", false, {.reduceMotion = true});
-        row("animations on", desktop, "enable-animations", true, {});
-        row("reduced motion", looks, "reduced-motion", 1U, {.reduceMotion = true});
+        addCases<Setting>({
+            {"no preference", looks, "color-scheme", 0U, {}},
+            {"dark", looks, "color-scheme", 1U, {.style = dark}},
+            {"light", looks, "color-scheme", 2U, {.style = light}},
+            {"dark, wrapped more", looks, "color-scheme", wrapped(wrapped(1U)), {.style = dark}},
+            {"unknown scheme", looks, "color-scheme", 3U, {}},
+            {"scheme as text", looks, "color-scheme", u"1"_s, {}},
+            {"key of another group", desktop, "color-scheme", 1U, {}},
+            {"larger text", desktop, "text-scaling-factor", 1.25, {.textScale = 1.25}},
+            {"giant text", desktop, "text-scaling-factor", 1e9, {.textScale = 3.0}},
+            {"no text at all", desktop, "text-scaling-factor", 0.0, {.textScale = 0.5}},
+            {"no number", desktop, "text-scaling-factor", nan, {}},
+            {"scale as integer", desktop, "text-scaling-factor", 2, {}},
+            {"animations off", desktop, "enable-animations", false, {.reduceMotion = true}},
+            {"animations on", desktop, "enable-animations", true, {}},
+            {"reduced motion", looks, "reduced-motion", 1U, {.reduceMotion = true}},
+        });
     }
 
     // Each value once as the portal has it at the start and once as a change.
     void portalSettings()
     {
-        QFETCH(QString, group);
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        QFETCH(UIAppearance, expected);
+        const auto &[name, group, keyName, value, expected] = currentCase<Setting>();
+        const QString key = QString::fromLatin1(keyName);
         UIAppearance after = expected;
         after.reduceMotion = true;
         for (const bool live : {false, true}) {
@@ -150,5 +144,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(AppearanceTest)
-
 #include "AppearanceTest.moc"

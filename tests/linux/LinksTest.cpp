@@ -41,17 +41,17 @@ private Q_SLOTS:
     void handlerGetsEveryByte_data()
     {
         QTest::addColumn<QString>("url");
-        QTest::newRow("scheme alone") << u"zbra://"_s;
-        QTest::newRow("a URL in a URL") << u"zbra://sources/add/https://repo.wzt.example/repo/"_s;
-        QTest::newRow("a URL in a fragment")
-            << u"cydia://url/https://share.wzt.example/api/share#?source=https://Repo.WZT.example"_s;
-        QTest::newRow("capitals and percents") << u"ZBRA://Host.EXAMPLE/%41%zz%u%%f//../."_s;
-        QTest::newRow("shell") << u"zbra://a b'c\"d$(e)`f`;&|*?~\\\n<>é€"_s;
+        for (const QString &url :
+             {u"zbra://"_s, u"zbra://sources/add/https://repo.wzt.example/repo/"_s,
+              u"cydia://url/https://share.wzt.example/api/share#?source=https://Repo.WZT.example"_s,
+              u"ZBRA://Host.EXAMPLE/%41%zz%u%%f//../."_s,
+              u"zbra://a b'c\"d$(e)`f`;&|*?~\\\n<>é€"_s})
+            QTest::newRow(qPrintable(url)) << url;
     }
 
     void handlerGetsEveryByte()
     {
-        QFETCH(QString, url);
+        QFETCH(const QString, url);
         QVERIFY(m_host.canOpenURL(url));
         m_host.openURL(url); // would never come back if it waited for the handler
         QCOMPARE(m_gate.write("go\n"), 3);
@@ -69,5 +69,4 @@ private Q_SLOTS:
 };
 
 WZT_TEST(LinksTest)
-
 #include "LinksTest.moc"

@@ -38,9 +38,8 @@ Answer Client::send(const Call &call)
     CURL *handle = m_handle.get();
     Answer answer;
     curl_slist *headers = nullptr;
-    for (const QByteArray &each : call.headers) {
+    for (const QByteArray &each : call.headers)
         headers = curl_slist_append(headers, each.constData());
-    }
     const QByteArray url = "https://" + call.host + ':' + QByteArray::number(m_port) + call.target;
     curl_easy_reset(handle);
     curl_easy_setopt(handle, CURLOPT_URL, url.constData());

@@ -14,7 +14,6 @@
 #include "views/WZTHeaderTableViewCell.h"
 
 #include <QAccessible>
-#include <QPointingDevice>
 #include <QQmlEngine>
 #include <QTest>
 
@@ -94,14 +93,14 @@ struct Pointer {
     void press(const QPoint &at)
     {
         if (touch)
-            QTest::touchEvent(&view, screen()).press(0, at, &view);
+            QTest::touchEvent(&view, WindowDriver::screen()).press(0, at, &view);
         else
             QTest::mousePress(&view, Qt::LeftButton, {}, at);
     }
     void move(const QPoint &at)
     {
         if (touch)
-            QTest::touchEvent(&view, screen()).move(0, at, &view);
+            QTest::touchEvent(&view, WindowDriver::screen()).move(0, at, &view);
         else
             QTest::mouseMove(&view, at);
         QTest::qWait(20); // moves are compressed within a frame
@@ -109,7 +108,7 @@ struct Pointer {
     void release(const QPoint &at)
     {
         if (touch)
-            QTest::touchEvent(&view, screen()).release(0, at, &view);
+            QTest::touchEvent(&view, WindowDriver::screen()).release(0, at, &view);
         else
             QTest::mouseRelease(&view, Qt::LeftButton, {}, at);
     }
@@ -118,11 +117,6 @@ struct Pointer {
         press(from);
         for (int step = 1; step <= 8; ++step)
             move(from + QPoint(0, by * step / 8));
-    }
-    static QPointingDevice *screen()
-    {
-        static QPointingDevice *const device = QTest::createTouchDevice();
-        return device;
     }
 
     QQuickView &view;

@@ -6,12 +6,12 @@
 #include "platform/uikit/UIAlertController.h"
 #include "screens/WZTLoginViewController.h"
 #include "service/TavloCategoryExtension.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 
-#include <QTest>
-
 using namespace Qt::StringLiterals;
+using sandbox::Fault;
 
 namespace {
 
@@ -53,10 +53,21 @@ void signUp(TestApp &app, const QString &text)
     answerAlert(app, text);
 }
 
-QByteArray result(const char *text)
+Fault result(const char *text)
 {
-    return R"({"result":")" + QByteArray(text) + R"("})";
+    return Fault::json(R"({"result":")" + QByteArray(text) + R"("})", 500);
 }
+
+struct Ending {
+    const char *name;
+    Flow flow;
+    QByteArray path;
+    Fault reply;
+    QString message;
+    QString title = u"Error"_s;
+};
+using Looks = std::tuple<const char *, double, UIColor, UIColor, UIColor, UIColor, UIColor, bool>;
+using Sent = std::tuple<const char *, Flow, QString, QByteArray>;
 
 } // namespace
 
@@ -67,51 +78,41 @@ class LoginTest : public QObject {
 private Q_SLOTS:
     void outcomes_data()
     {
-        QTest::addColumn<Flow>("flow");
-        QTest::addColumn<QByteArray>("path");
-        QTest::addColumn<QByteArray>("reply");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("message");
-
-        const auto row = [](const char *name, Flow flow, const char *path, const QByteArray &reply,
-                            QStringView message, QStringView title = u"Error") {
-            QTest::newRow(name) << flow << QByteArray(path) << reply << title.toString()
-                                << message.toString();
-        };
         const char *in = "/login.php";
-        row("wrong password", signIn, in, result("Incorrect"),
-            u"Account details did not match any account");
-        row("unknown address", signIn, in, result("User Does Not Exist"),
-            u"An account was not found for the supplied email.");
-        row("nonsense", signIn, in, "<html>", u"An unknown error occured.");
-        row("signed in", signIn, in, aUser, u"", u"");
-
         const char *forgotten = "/passwordreset.php";
-        row("reset sent", reset, forgotten, result("Message has been sent"),
-            u"A reset email has been sent.", u"Great!");
-        row("reset not sent", reset, forgotten, result("Message could not be sent"),
-            u"There was an error sending reset email");
-        row("reset nonsense", reset, forgotten, aUser, u"An unknown error occured.");
-
         const char *up = "/register.php";
-        row("address taken", signUp, up, result("User Exists"),
-            u"An account already exists for this email.");
-        row("improper", signUp, up, result("Improper request"),
-            u"Account request couldn't be made at this time.");
-        row("unexpected", signUp, up, result("user exists"),
-            u"Received an unexpected response from server.");
-        row("registered", signUp, up, aUser, u"", u"");
+        const QString unknown = u"An unknown error occured."_s;
+        addCases<Ending>({
+            {"wrong password", signIn, in, result("Incorrect"),
+             u"Account details did not match any account"_s},
+            {"unknown address", signIn, in, result("User Does Not Exist"),
+             u"An account was not found for the supplied email."_s},
+            {"nonsense", signIn, in, Fault::json("<html>"), unknown},
+            {"lost", signIn, in, Fault::close(), unknown},
+            {"signed in", signIn, in, Fault::json(aUser, 500), {}, {}},
+            {"reset sent", reset, forgotten, result("Message has been sent"),
+             u"A reset email has been sent."_s, u"Great!"_s},
+            {"reset not sent", reset, forgotten, result("Message could not be sent"),
+             u"There was an error sending reset email"_s},
+            {"reset nonsense", reset, forgotten, Fault::json(aUser), unknown},
+            {"reset lost", reset, forgotten, Fault::close(), unknown},
+            {"address taken", signUp, up, result("User Exists"),
+             u"An account already exists for this email."_s},
+            {"improper", signUp, up, result("Improper request"),
+             u"Account request couldn't be made at this time."_s},
+            {"unexpected", signUp, up, result("user exists"),
+             u"Received an unexpected response from server."_s},
+            {"registration lost", signUp, up, Fault::close(), unknown},
+            {"registered", signUp, up, Fault::json(aUser, 500), {}, {}},
+        });
     }
 
     void outcomes()
     {
-        QFETCH(const Flow, flow);
-        QFETCH(const QByteArray, path);
-        QFETCH(const QByteArray, reply);
-        QFETCH(const QString, title);
+        const auto &[name, flow, path, reply, message, title] = currentCase<Ending>();
         TestApp app;
         app.launch();
-        app.service().stage(path, sandbox::Fault::json(reply, 500));
+        app.service().stage(path, reply);
 
         flow(app, u"jo"_s);
         QCOMPARE(app.host().taps, 1);
@@ -124,65 +125,39 @@ private Q_SLOTS:
         QTRY_VERIFY(app.top<UIAlertController>());
         const auto *alert = app.top<UIAlertController>();
         QCOMPARE(alert->title(), title);
-        QTEST(alert->message(), "message");
+        QCOMPARE(alert->message(), message);
         QCOMPARE(alert->actions().size(), std::size_t(1));
         QCOMPARE(alert->actions()[0]->title(), u"Dismiss"_s);
         QVERIFY(!login(app).activityIndicator()->isAnimating());
         QVERIFY(!app.delegate().currentUser());
     }
 
-    void unreachableService_data()
-    {
-        QTest::addColumn<Flow>("flow");
-        QTest::newRow("sign in") << Flow(signIn);
-        QTest::newRow("reset") << Flow(reset);
-        QTest::newRow("register") << Flow(signUp);
-    }
-
-    void unreachableService()
-    {
-        QFETCH(const Flow, flow);
-        TestApp app;
-        app.launch();
-        app.stopService();
-        flow(app, u"jo"_s);
-        QTRY_VERIFY(app.top<UIAlertController>());
-        QCOMPARE(app.top<UIAlertController>()->message(), u"An unknown error occured."_s);
-        QVERIFY(!login(app).activityIndicator()->isAnimating());
-    }
-
     void whatIsSent_data()
     {
-        QTest::addColumn<Flow>("flow");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("target");
         const auto digest = [](const QString &text) { return SHA256(text).toLatin1(); };
-
-        QTest::newRow("sign-in trims both fields")
-            << Flow(signIn) << u" \u00a0jo\n"_s
-            << QByteArray("/login.php?userEmail=jo&userPassword=" + digest(u"jo"_s));
-        QTest::newRow("registration sends as typed")
-            << Flow(signUp) << u" jo "_s
-            << QByteArray("/register.php?userEmail=%20jo%20&userPassword=" + digest(u" jo "_s)
-                          + "&userName=%20jo%20");
-        QTest::newRow("registration sends empty fields")
-            << Flow(signUp) << u""_s
-            << QByteArray("/register.php?userEmail=&userPassword=" + digest(u""_s) + "&userName=");
-        QTest::newRow("reset sends as typed")
-            << Flow(reset) << u" jo "_s << QByteArray("/passwordreset.php?userEmail=%20jo%20");
-        QTest::newRow("reset sends an empty field")
-            << Flow(reset) << u""_s << QByteArray("/passwordreset.php?userEmail=");
+        addCases<Sent>({
+            {"sign-in trims both fields", signIn, u" \u00a0jo\n"_s,
+             "/login.php?userEmail=jo&userPassword=" + digest(u"jo"_s)},
+            {"registration sends as typed", signUp, u" jo "_s,
+             "/register.php?userEmail=%20jo%20&userPassword=" + digest(u" jo "_s)
+                 + "&userName=%20jo%20"},
+            {"registration sends empty fields",
+             signUp,
+             {},
+             "/register.php?userEmail=&userPassword=" + digest({}) + "&userName="},
+            {"reset sends as typed", reset, u" jo "_s, "/passwordreset.php?userEmail=%20jo%20"},
+            {"reset sends an empty field", reset, {}, "/passwordreset.php?userEmail="},
+        });
     }
 
     void whatIsSent()
     {
-        QFETCH(const Flow, flow);
-        QFETCH(const QString, text);
+        const auto &[name, flow, text, target] = currentCase<Sent>();
         TestApp app;
         app.launch();
         flow(app, text);
         QTRY_COMPARE(app.service().requests().size(), 1);
-        QTEST(app.service().requests().constFirst().target, "target");
+        QCOMPARE(app.service().requests().constFirst().target, target);
     }
 
     void emptyFieldsAreRefusedWithoutARequest()
@@ -205,26 +180,22 @@ private Q_SLOTS:
     void codesWithoutAUserOrAMeaning()
     {
         using Screen = WZTLoginViewController;
-        const struct {
-            std::function<void(Screen &)> end;
-            const char16_t *message;
-            bool leaves;
-        } rows[] = {
-            {[](Screen &screen) { screen.loginEnded(1, std::nullopt); }, u"", true},
-            {[](Screen &screen) { screen.registrationEnded(2, std::nullopt); }, u"", true},
-            {[](Screen &screen) { screen.loginEnded(4, std::nullopt); }, u"", false},
-            {[](Screen &screen) { screen.resetEnded(4); }, u"", false},
+        const std::tuple<void (*)(Screen &), QString, bool> rows[] = {
+            {[](Screen &screen) { screen.loginEnded(1, std::nullopt); }, {}, true},
+            {[](Screen &screen) { screen.registrationEnded(2, std::nullopt); }, {}, true},
+            {[](Screen &screen) { screen.loginEnded(4, std::nullopt); }, {}, false},
+            {[](Screen &screen) { screen.registrationEnded(5, std::nullopt); }, {}, false},
+            {[](Screen &screen) { screen.resetEnded(4); }, {}, false},
             {[](Screen &screen) { screen.resetEnded(1); },
-             u"An account doesn't exists for this email.", false},
-            {[](Screen &screen) { screen.registrationEnded(5, std::nullopt); }, u"", false},
+             u"An account doesn't exists for this email."_s, false},
         };
-        for (const auto &row : rows) {
+        for (const auto &[end, message, leaves] : rows) {
             TestApp app;
             app.launch();
-            row.end(login(app));
-            QCOMPARE(app.top<WZTTabBarController>() != nullptr, row.leaves);
+            end(login(app));
+            QCOMPARE(app.top<WZTTabBarController>() != nullptr, leaves);
             const auto *alert = app.top<UIAlertController>();
-            QCOMPARE(alert ? alert->message() : QString(), QString::fromUtf16(row.message));
+            QCOMPARE(alert ? alert->message() : QString(), message);
             QVERIFY(!app.delegate().currentUser());
         }
     }
@@ -240,76 +211,45 @@ private Q_SLOTS:
         const UITextInputTraits password{.textContentType = UITextContentType::NewPassword,
                                          .secureTextEntry = true};
         const UITextInputTraits older{.secureTextEntry = true};
-        using Fields = std::vector<std::pair<const char16_t *, UITextInputTraits>>;
-        const struct {
-            double version;
-            UIButton *(WZTLoginViewController::*button)();
-            const char16_t *title;
-            const char16_t *action;
-            Fields fields;
-        } rows[] = {
-            {12,
-             &WZTLoginViewController::registerButton,
-             u"New Account",
-             u"Register",
-             {{u"Name", name}, {u"Email", email}, {u"Password", password}}},
-            {11,
-             &WZTLoginViewController::registerButton,
-             u"New Account",
-             u"Register",
-             {{u"Name", name}, {u"Email", email}, {u"Password", older}}},
-            {12,
-             &WZTLoginViewController::forgotPasswordButton,
-             u"Reset Password",
-             u"Reset",
-             {{u"Email", email}}},
+        using Screen = WZTLoginViewController;
+        using Fields = std::vector<std::pair<QString, UITextInputTraits>>;
+        const auto signUpButton = &Screen::registerButton;
+        const Fields fields{{u"Name"_s, name}, {u"Email"_s, email}, {u"Password"_s, password}};
+        const Fields before{{u"Name"_s, name}, {u"Email"_s, email}, {u"Password"_s, older}};
+        const std::tuple<double, UIButton *(Screen::*)(), QString, QString, Fields> rows[] = {
+            {12, signUpButton, u"New Account"_s, u"Register"_s, fields},
+            {11, signUpButton, u"New Account"_s, u"Register"_s, before},
+            {12, &Screen::forgotPasswordButton, u"Reset Password"_s, u"Reset"_s, {fields[1]}},
         };
-        for (const auto &row : rows) {
+        for (const auto &[version, button, title, action, expected] : rows) {
             TestApp app;
             app.launch();
-            app.application().traits().setSystemVersion(row.version);
-            (login(app).*row.button)()->activate();
+            app.application().traits().setSystemVersion(version);
+            (login(app).*button)()->activate();
             const auto *alert = app.top<UIAlertController>();
-            QCOMPARE(alert->title(), QString::fromUtf16(row.title));
+            QCOMPARE(alert->title(), title);
             QCOMPARE(alert->message(), QString());
             QCOMPARE(alert->actions().size(), std::size_t(2));
             QCOMPARE(alert->actions()[0]->title(), u"Dismiss"_s);
             QCOMPARE(alert->actions()[0]->style(), UIAlertAction::Style::Cancel);
-            QCOMPARE(alert->actions()[1]->title(), QString::fromUtf16(row.action));
+            QCOMPARE(alert->actions()[1]->title(), action);
             QCOMPARE(alert->actions()[1]->style(), UIAlertAction::Style::Default);
-            QCOMPARE(alert->textFields().size(), row.fields.size());
-            for (std::size_t i = 0; i < row.fields.size(); ++i) {
+            QCOMPARE(alert->textFields().size(), expected.size());
+            for (std::size_t i = 0; i < expected.size(); ++i) {
                 const UITextField &field = *alert->textFields()[i];
-                QCOMPARE(field.placeholder(), QString::fromUtf16(row.fields[i].first));
-                QVERIFY(field.inputTraits() == row.fields[i].second);
+                QCOMPARE(field.placeholder(), expected[i].first);
+                QVERIFY(field.inputTraits() == expected[i].second);
                 QCOMPARE(field.borderStyle(), UITextField::BorderStyle::RoundedRect);
             }
         }
-    }
-
-    void theKeyboardFollowsReturnAndTaps()
-    {
-        TestApp app;
-        app.launch();
-        WZTLoginViewController &screen = login(app);
-        QVERIFY(screen.emailTextField()->isFirstResponder());
-        QVERIFY(screen.isModalInPresentation());
-        screen.emailTextField()->returnPressed();
-        QVERIFY(screen.passwordTextField()->isFirstResponder());
-        screen.view()->tapped();
-        QCOMPARE(app.application().firstResponder(), nullptr);
-        screen.emailTextField()->becomeFirstResponder();
-        screen.view()->tapped();
-        QCOMPARE(app.application().firstResponder(), nullptr);
     }
 
     void twoTapsAreTwoRequests()
     {
         TestApp app;
         app.launch();
-        app.service().stage("/login.php", sandbox::Fault::json(result("Incorrect")));
-        app.service().stage("/login.php",
-                            sandbox::Fault::json(aUser).after(std::chrono::milliseconds(150)));
+        app.service().stage("/login.php", result("Incorrect"));
+        app.service().stage("/login.php", Fault::json(aUser).after(std::chrono::milliseconds(150)));
         signIn(app, u"jo"_s);
         QTRY_COMPARE(app.service().requests().size(), 1);
         login(app).loginButton()->activate();
@@ -321,55 +261,34 @@ private Q_SLOTS:
 
     void looksByVersion_data()
     {
-        QTest::addColumn<double>("version");
-        QTest::addColumn<UIColor>("background");
-        QTest::addColumn<UIColor>("card");
-        QTest::addColumn<UIColor>("text");
-        QTest::addColumn<UIColor>("placeholder");
-        QTest::addColumn<UIColor>("line");
-        QTest::addColumn<bool>("continuous");
-        const auto drawn = [](const UIColor &color) {
-            const QColor c = color.drawn(true);
-            return UIColor::colorWithRed(c.redF(), c.greenF(), c.blueF(), c.alphaF());
-        };
-        QTest::newRow("10") << 10.0 << drawn(UIColor::colorWithRed(0.949, 0.945, 0.965, 1))
-                            << drawn(UIColor::whiteColor()) << drawn(UIColor::blackColor())
-                            << drawn(UIColor::lightGrayColor()) << drawn(UIColor::grayColor())
-                            << false;
-        QTest::newRow("13") << 13.0 << drawn(UIColor::systemGroupedBackgroundColor())
-                            << drawn(UIColor::secondarySystemGroupedBackgroundColor())
-                            << drawn(UIColor::labelColor()) << drawn(UIColor::tertiaryLabelColor())
-                            << drawn(UIColor::separatorColor()) << true;
+        addCases<Looks>({
+            {"10", 10, UIColor::colorWithRed(0.949, 0.945, 0.965, 1), UIColor::whiteColor(),
+             UIColor::blackColor(), UIColor::lightGrayColor(), UIColor::grayColor(), false},
+            {"13", 13, UIColor::systemGroupedBackgroundColor(),
+             UIColor::secondarySystemGroupedBackgroundColor(), UIColor::labelColor(),
+             UIColor::tertiaryLabelColor(), UIColor::separatorColor(), true},
+        });
     }
 
     void looksByVersion()
     {
-        QFETCH(const double, version);
+        const auto &[name, version, background, card, text, placeholder, line, continuous] =
+            currentCase<Looks>();
         TestApp app;
         app.launch();
         app.application().traits().setSystemVersion(version);
         const auto screen = make<WZTLoginViewController>();
         screen->loadViewIfNeeded();
-        const auto matches = [](const UIColor &color, const char *column) {
-            const auto *expected =
-                static_cast<UIColor *>(QTest::qData(column, qMetaTypeId<UIColor>()));
-            return color.drawn(true) == expected->drawn(true);
-        };
-        QVERIFY(matches(screen->view()->backgroundColor(), "background"));
-        QVERIFY(matches(screen->formContainer()->backgroundColor(), "card"));
-        QVERIFY(matches(screen->headerLabel()->textColor(), "text"));
-        QTEST(screen->formContainer()->layer().cornerCurve == CALayer::CornerCurve::Continuous,
-              "continuous");
-        QCOMPARE(screen->formContainer()->layer().cornerRadius, 12);
-        QCOMPARE(screen->headerLabel()->font().pointSize(), 22);
-        QCOMPARE(screen->forgotPasswordButton()->titleFont().pointSize(), 13);
+        QVERIFY(screen->isModalInPresentation());
+        QCOMPARE(screen->view()->backgroundColor().drawn(true), background.drawn(true));
+        QCOMPARE(screen->formContainer()->backgroundColor().drawn(true), card.drawn(true));
+        QCOMPARE(screen->headerLabel()->textColor().drawn(true), text.drawn(true));
+        QCOMPARE(screen->formContainer()->layer().cornerCurve == CALayer::CornerCurve::Continuous,
+                 continuous);
         for (UITextField *field : {screen->emailTextField(), screen->passwordTextField()}) {
-            QVERIFY(matches(field->textColor(), "text"));
-            QVERIFY(matches(field->placeholderColor(), "placeholder"));
-            QVERIFY(matches(field->layer().borderColor, "line"));
-            QCOMPARE(field->layer().borderWidth, 2);
-            QCOMPARE(field->layer().cornerRadius, 12);
-            QCOMPARE(field->leftViewWidth(), 14);
+            QCOMPARE(field->textColor().drawn(true), text.drawn(true));
+            QCOMPARE(field->placeholderColor().drawn(true), placeholder.drawn(true));
+            QCOMPARE(field->layer().borderColor.drawn(true), line.drawn(true));
         }
         using Capitals = UITextAutocapitalizationType;
         QVERIFY(screen->emailTextField()->inputTraits()

@@ -11,12 +11,6 @@
 ///
 ///     WZT_TEST(UserTest)      // in UserTest.cpp, after the class
 ///
-///     int main(int argc, char *argv[])
-///     {
-///         QCoreApplication application(argc, argv);
-///         return TestRunner::run();
-///     }
-///
 /// With a class's name as its first argument the program runs that class alone and hands it the
 /// arguments that follow: `test_model UserTest roundTrip`.
 namespace TestRunner {

@@ -5,30 +5,14 @@
 #include "tests/support/TestApp.h"
 #include "tests/support/WindowDriver.h"
 
-#include <QAccessible>
 #include <QIcon>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isSettled(const UITransitionStack &stack)
+TestWindow::TestWindow(TestApp &app, const QSize &size, const UIAppearance &appearance)
 {
-    for (int row = 0; row < stack.rowCount(); ++row) {
-        const auto phase = stack.index(row).data(UITransitionStack::PhaseRole);
-        if (phase.value<UITransitionStack::Phase>() != UITransitionStack::Phase::Settled)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
-TestWindow::TestWindow(TestApp &app, const QSize &size, const UIAppearance &appearance) : m_app(app)
-{
-    QTest::failOnWarning(QRegularExpression(u"."_s));
-    QAccessible::setActive(true);
+    WindowDriver::beStrict();
     app.application().traits().setOverride(appearance);
     m_host = std::make_unique<UIWindowHost>(*app.delegate().window(), u"WZT Companion"_s, QIcon());
     view().resize(size);
@@ -40,8 +24,7 @@ TestWindow::~TestWindow() = default;
 
 void TestWindow::settle()
 {
-    QTRY_VERIFY(isSettled(*m_app.delegate().window()->presentation()));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    WindowDriver::settle(view());
 }
 
 void TestWindow::tap(const QObject *control)

@@ -29,6 +29,5 @@ public:
     void type(const QString &text);
 
 private:
-    TestApp &m_app;
     std::unique_ptr<UIWindowHost> m_host;
 };

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/WindowDriver.h"
 
+#include "platform/uikit/UITransitionStack.h"
+
 #include <QAccessible>
 #include <QPointingDevice>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <functional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,7 +42,39 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
     return nullptr;
 }
 
+void describe(QAccessibleInterface *parent, QStringList &found)
+{
+    for (int i = 0; i < parent->childCount(); ++i) {
+        QAccessibleInterface *child = parent->child(i);
+        const QString role = QVariant::fromValue(child->role()).toString();
+        if (!child->state().invisible)
+            found.append(role + u' ' + child->text(QAccessible::Name));
+        describe(child, found);
+    }
+}
+
+bool isSettled(const QQuickItem *entry)
+{
+    return entry->property("phase").toInt() == int(UITransitionStack::Phase::Settled);
+}
+
 } // namespace
+
+void WindowDriver::beStrict()
+{
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+    QAccessible::setActive(true);
+}
+
+void WindowDriver::settle(const QQuickWindow &window)
+{
+    const auto settled = [&] {
+        const QList<QQuickItem *> entries = items(window, u"UITransitionEntryView"_s);
+        return std::all_of(entries.begin(), entries.end(), isSettled);
+    };
+    QTRY_VERIFY(settled());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 QList<QQuickItem *> WindowDriver::items(const QQuickWindow &window, const QString &type)
 {
@@ -51,8 +88,12 @@ QList<QQuickItem *> WindowDriver::items(const QQuickWindow &window, const QStrin
 
 QQuickItem *WindowDriver::named(const QQuickWindow &window, const QString &name)
 {
-    return collect(window.contentItem(),
-                   [&](const QQuickItem *item) { return item->objectName() == name; })
+    return named(window.contentItem(), name);
+}
+
+QQuickItem *WindowDriver::named(QQuickItem *item, const QString &name)
+{
+    return collect(item, [&](const QQuickItem *each) { return each->objectName() == name; })
         .value(0);
 }
 
@@ -70,6 +111,13 @@ QAccessibleInterface *WindowDriver::accessible(QQuickWindow &window, const QStri
     return findBelow(QAccessible::queryAccessibleInterface(&window), name);
 }
 
+QStringList WindowDriver::accessible(QQuickWindow &window)
+{
+    QStringList found;
+    describe(QAccessible::queryAccessibleInterface(&window), found);
+    return found;
+}
+
 QRectF WindowDriver::rect(const QQuickItem *item)
 {
     return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
@@ -80,11 +128,16 @@ QPoint WindowDriver::centre(const QQuickItem *item)
     return rect(item).center().toPoint();
 }
 
-void WindowDriver::tap(QQuickWindow &window, const QPoint &point)
+QPointingDevice *WindowDriver::screen()
 {
     static QPointingDevice *const screen = QTest::createTouchDevice();
-    QTest::touchEvent(&window, screen).press(0, point, &window);
-    QTest::touchEvent(&window, screen).release(0, point, &window);
+    return screen;
+}
+
+void WindowDriver::tap(QQuickWindow &window, const QPoint &point)
+{
+    QTest::touchEvent(&window, screen()).press(0, point, &window);
+    QTest::touchEvent(&window, screen()).release(0, point, &window);
 }
 
 void WindowDriver::type(QQuickWindow &window, const QString &text)

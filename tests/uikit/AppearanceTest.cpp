@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIColor.h"
-#include "platform/uikit/UIFont.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TestRunner.h"
 
@@ -23,14 +22,6 @@ private Q_SLOTS:
         QCOMPARE(UIColor::colorWithWhite(0.4, 0.2).components().size(), std::size_t(2));
         QVERIFY(UIColor().isNil());
         QCOMPARE(UIColor().drawn(true).alpha(), 0);
-    }
-
-    void dynamicColorsFollowTheStyle()
-    {
-        const UIColor background = UIColor::secondarySystemGroupedBackgroundColor();
-        QVERIFY(background.components().empty());
-        QCOMPARE(background.drawn(false), QColor(255, 255, 255));
-        QCOMPARE(background.drawn(true), QColor(28, 28, 30));
         const UIColor nested = UIColor::initWithDynamicProvider(
             [](const UITraitCollection &) { return UIColor::labelColor(); });
         QCOMPARE(nested.drawn(true), QColor(Qt::white));
@@ -53,24 +44,6 @@ private Q_SLOTS:
         traits.setOverride(std::nullopt);
         QCOMPARE(traits.userInterfaceStyle(), UIUserInterfaceStyle::Unspecified);
         QCOMPARE(changed.count(), 4);
-    }
-
-    void fontsScaleWithTheText()
-    {
-        const UIFont footnote = UIFont::preferredFontForTextStyle(UIFontTextStyle::Footnote);
-        QCOMPARE(footnote.drawn(1).pixelSize(), 13);
-        QCOMPARE(footnote.drawn(2).pixelSize(), 26);
-        QCOMPARE(UIFont::systemFontOfSize(24, QFont::Medium).drawn(1).weight(), QFont::Medium);
-    }
-
-    void systemVersionGates()
-    {
-        RecordingHost host;
-        UIApplication application(host);
-        QVERIFY(application.traits().systemVersionIsAtLeast(13));
-        application.traits().setSystemVersion(12.4);
-        QVERIFY(application.traits().systemVersionIsAtLeast(12));
-        QVERIFY(!application.traits().systemVersionIsAtLeast(13));
     }
 };
 

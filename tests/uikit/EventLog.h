@@ -7,38 +7,30 @@
 #include <QStringList>
 
 #include <array>
-#include <bit>
 
 /// Writes down the events of a control; a star says that it was highlighted: "down* up".
 class EventLog : public QObject {
 public:
-    explicit EventLog(UIControl &control)
-    {
-        using enum UIControlEvent;
-        listen<TouchDown, TouchDragInside, TouchDragOutside, TouchDragEnter, TouchDragExit,
-               TouchUpInside, TouchUpOutside, TouchCancel, EditingDidBegin, EditingChanged,
-               EditingDidEnd, EditingDidEndOnExit>(control);
-    }
+    explicit EventLog(UIControl &control) { listen(control, std::make_index_sequence<20>()); }
 
     /// What was noted since the last call, words separated by a blank.
     [[nodiscard]] QString take() { return std::exchange(m_events, {}).join(u' '); }
 
 private:
-    template <UIControlEvent... events>
-    void listen(UIControl &control)
+    template <std::size_t... bits>
+    void listen(UIControl &control, std::index_sequence<bits...>)
     {
-        (control.addTarget(this, &EventLog::note<events>, events), ...);
+        (control.addTarget(this, &EventLog::note<bits>, UIControlEvent(1U << bits)), ...);
     }
 
-    template <UIControlEvent event>
+    template <std::size_t bit>
     void note(UIControl *sender)
     {
-        static constexpr std::array names{"down", "",      "inside",  "outside", "enter",
+        static constexpr std::array names{"down", "down2", "inside",  "outside", "enter",
                                           "exit", "up",    "off",     "cancel",  "",
                                           "",     "",      "value",   "",        "",
                                           "",     "begin", "changed", "end",     "return"};
-        const auto index = std::size_t(std::countr_zero(unsigned(event)));
-        m_events.append(QLatin1String(names[index])
+        m_events.append(QLatin1String(names[bit])
                         + QLatin1String(sender->isHighlighted() ? "*" : ""));
     }
 

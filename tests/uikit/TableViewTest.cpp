@@ -7,9 +7,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <numeric>
-#include <set>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -37,13 +34,8 @@ private Q_SLOTS:
         const auto table = make<SampleTable>(std::vector{3, 0, 2});
         UITableViewEntries &entries = *table->tableView()->entries();
         const QAbstractItemModelTester tester(&entries);
-        struct Expected {
-            QString name;
-            double height;
-            int position;
-        };
         constexpr double free = UITableViewAutomaticDimension;
-        const std::vector<Expected> expected{
+        const std::vector<std::tuple<QString, double, int>> expected{
             {u""_s, free, 0},        {u"Row 0.0"_s, free, 1}, {u"Row 0.1"_s, free, 2},
             {u"Row 0.2"_s, 70, 3},   {u""_s, 14, 4},          {u"Above"_s, free, 0},
             {u"Below,"_s, free, 1},  {u""_s, free, 0},        {u"Row 2.0"_s, free, 1},
@@ -71,44 +63,6 @@ private Q_SLOTS:
         table->tableView()->reloadData();
         QCOMPARE(reset.count(), 0);
         QVERIFY(!table->isViewLoaded());
-        const auto plain = make<UITableViewController>(UITableViewStyle::Grouped);
-        QCOMPARE(plain->tableView()->entries()->rowCount(), 2);
-        QCOMPARE(plain->view(), plain->tableView());
-    }
-
-    void reloadedRowsReuseTheCells_data()
-    {
-        QTest::addColumn<std::vector<int>>("rows");
-        QTest::newRow("as many") << std::vector{2, 0, 3};
-        QTest::newRow("more") << std::vector{7};
-        QTest::newRow("fewer") << std::vector{0, 1};
-        QTest::newRow("none") << std::vector<int>{};
-    }
-
-    void reloadedRowsReuseTheCells()
-    {
-        QFETCH(const std::vector<int>, rows);
-        const auto table = make<SampleTable>(std::vector{2, 0, 3});
-        UITableViewEntries &entries = *table->tableView()->entries();
-        const QAbstractItemModelTester tester(&entries);
-        std::set<const SampleCell *> before;
-        for (int i = 0; i < entries.rowCount(); ++i)
-            before.insert(cellAt(*table, i));
-        table->rows = rows;
-        table->tableView()->reloadData();
-
-        int reused = 0;
-        int shown = 0;
-        for (int i = 0; i < entries.rowCount(); ++i) {
-            const SampleCell *cell = cellAt(*table, i);
-            if (!cell)
-                continue;
-            ++shown;
-            reused += cell->preparations;
-            QCOMPARE(cell->preparations, before.contains(cell) ? 1 : 0);
-        }
-        QCOMPARE(shown, std::accumulate(rows.begin(), rows.end(), 0));
-        QCOMPARE(reused, std::min(shown, 5));
     }
 
     void cellsAreMadeByClassAndPreparedWhenReused()

@@ -6,10 +6,10 @@
 #include "platform/uikit/UITabBarController.h"
 #include "platform/uikit/UITabBarItem.h"
 #include "platform/uikit/UIWindow.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 #include <map>
 
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Writes down its life: "A loads", "A will", "A did".
+/// Writes down its life: "Al" A loads, "Aw" A will appear, "Ad" it did.
 class Page : public UIViewController {
 public:
     Page(const QString &name, QStringList &log) : m_name(name), m_log(log)
@@ -25,11 +25,11 @@ public:
         navigationItem()->setTitle(name);
     }
 
-    void viewDidLoad() override { m_log.append(m_name + u" loads"_s); }
-    void viewWillAppear(bool) override { m_log.append(m_name + u" will"_s); }
+    void viewDidLoad() override { m_log.append(m_name + u'l'); }
+    void viewWillAppear(bool) override { m_log.append(m_name + u'w'); }
     void viewDidAppear(bool) override
     {
-        m_log.append(m_name + u" did"_s);
+        m_log.append(m_name + u'd');
         if (onDidAppear)
             onDidAppear();
     }
@@ -95,6 +95,8 @@ public:
     }
 };
 
+using Script = std::tuple<const char *, bool, const char *, const char *, const char *>;
+
 } // namespace
 
 class TransitionStackTest : public QObject {
@@ -103,76 +105,50 @@ class TransitionStackTest : public QObject {
 private Q_SLOTS:
     void operationsAgainstPhases_data()
     {
-        QTest::addColumn<bool>("drawn");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("events");
-        QTest::addColumn<QString>("present");
-
-        const auto row = [](const char *name, bool drawn, const char *script, const char *events,
-                            const char *present) {
-            QTest::newRow(name) << drawn << QString::fromLatin1(script)
-                                << QString::fromLatin1(events) << QString::fromLatin1(present);
-        };
-        row("not drawn: settles at once", false, "R+A", "A loads,A will,A did,[R+A]", "RA");
-        row("drawn: did waits for the end", true, "R+A", "A loads,A will", "RA");
-        row("drawn: settles when it ended", true, "R+A A.", "A loads,A will,A did,[R+A]", "RA");
-        row("drawn but not animated", true, "R+!A", "A loads,A will,A did,[R+!A]", "RA");
-        row("ended twice counts once", true, "R+A A. A.", "A loads,A will,A did,[R+A]", "RA");
-        row("uncovered appears again", true, "R+!A -A A.",
-            "A loads,A will,A did,[R+!A],R will,R did,[-A]", "R");
-        row("an alert covers nothing", true, "R+a a. -a a.", "a loads,a will,a did,[R+a],[-a]",
-            "R");
-        row("a second alert covers the first", false, "R+a R+b -b",
-            "a loads,a will,a did,[R+a],b loads,b will,b did,[R+b],[-b]", "Ra");
-        row("present goes over alerts", false, "R+a R+A",
-            "a loads,a will,a did,[R+a],A loads,A will,A did,[R+A]", "RaA");
-        row("dismiss on the presenter takes all above", false, "R+A A+a A+B -R",
-            "A loads,A will,A did,[R+A],a loads,a will,a did,[A+a],B loads,B will,B did,[A+B],"
-            "R will,R did,[-R]",
-            "R");
-        row("dismiss on a covered one keeps it", false, "R+A A+a -A",
-            "A loads,A will,A did,[R+A],a loads,a will,a did,[A+a],[-A]", "RA");
-        row("completion waits for the last to leave", true, "R+!A A+!a -R A. a.",
-            "A loads,A will,A did,[R+!A],a loads,a will,a did,[A+!a],R will,R did,[-R]", "R");
-        row("dismiss while entering", true, "R+A -A A.", "A loads,A will,R will,R did,[R+A],[-A]",
-            "R");
-        row("present while one leaves", true, "R+!A -A R+B A. B.",
-            "A loads,A will,A did,[R+!A],R will,B loads,B will,[-A],B did,[R+B]", "RB");
-        row("dismiss on one leaving does nothing", true, "R+!A -A -A A.",
-            "A loads,A will,A did,[R+!A],R will,[-A],R did,[-A]", "R");
-        row("present from one leaving does nothing", true, "R+!A -A A+B A.",
-            "A loads,A will,A did,[R+!A],R will,[A+B],R did,[-A]", "R");
-        row("present from one gone does nothing", false, "R+A -A A+B",
-            "A loads,A will,A did,[R+A],R will,R did,[-A],[A+B]", "R");
-        row("present what is present does nothing", false, "R+A A+A",
-            "A loads,A will,A did,[R+A],[A+A]", "RA");
-        row("the root stays", false, "-R", "[-R]", "R");
-        row("presented again loads once", false, "R+A -A R+A",
-            "A loads,A will,A did,[R+A],R will,R did,[-A],A will,A did,[R+A]", "RA");
+        addCases<Script>({
+            {"not drawn: settles at once", false, "R+A", "Al Aw Ad [R+A]", "RA"},
+            {"drawn: did waits for the end", true, "R+A", "Al Aw", "RA"},
+            {"drawn: settles when it ended", true, "R+A A.", "Al Aw Ad [R+A]", "RA"},
+            {"drawn but not animated", true, "R+!A", "Al Aw Ad [R+!A]", "RA"},
+            {"ended twice counts once", true, "R+A A. A.", "Al Aw Ad [R+A]", "RA"},
+            {"uncovered appears again", true, "R+!A -A A.", "Al Aw Ad [R+!A] Rw Rd [-A]", "R"},
+            {"an alert covers nothing", true, "R+a a. -a a.", "al aw ad [R+a] [-a]", "R"},
+            {"a second alert covers the first", false, "R+a R+b -b",
+             "al aw ad [R+a] bl bw bd [R+b] [-b]", "Ra"},
+            {"present goes over alerts", false, "R+a R+A", "al aw ad [R+a] Al Aw Ad [R+A]", "RaA"},
+            {"dismiss on the presenter takes all above", false, "R+A A+a A+B -R",
+             "Al Aw Ad [R+A] al aw ad [A+a] Bl Bw Bd [A+B] Rw Rd [-R]", "R"},
+            {"dismiss on a covered one keeps it", false, "R+A A+a -A",
+             "Al Aw Ad [R+A] al aw ad [A+a] [-A]", "RA"},
+            {"completion waits for the last to leave", true, "R+!A A+!a -R A. a.",
+             "Al Aw Ad [R+!A] al aw ad [A+!a] Rw Rd [-R]", "R"},
+            {"dismiss while entering", true, "R+A -A A.", "Al Aw Rw Rd [R+A] [-A]", "R"},
+            {"present while one leaves", true, "R+!A -A R+B A. B.",
+             "Al Aw Ad [R+!A] Rw Bl Bw [-A] Bd [R+B]", "RB"},
+            {"dismiss on one leaving does nothing", true, "R+!A -A -A A.",
+             "Al Aw Ad [R+!A] Rw [-A] Rd [-A]", "R"},
+            {"present from one leaving does nothing", true, "R+!A -A A+B A.",
+             "Al Aw Ad [R+!A] Rw [A+B] Rd [-A]", "R"},
+            {"present from one gone does nothing", false, "R+A -A A+B",
+             "Al Aw Ad [R+A] Rw Rd [-A] [A+B]", "R"},
+            {"present what is present does nothing", false, "R+A A+A", "Al Aw Ad [R+A] [A+A]",
+             "RA"},
+            {"the root stays", false, "-R", "[-R]", "R"},
+            {"presented again loads once", false, "R+A -A R+A",
+             "Al Aw Ad [R+A] Rw Rd [-A] Aw Ad [R+A]", "RA"},
+        });
     }
 
     void operationsAgainstPhases()
     {
-        QFETCH(const bool, drawn);
-        QFETCH(const QString, script);
+        const auto &[name, drawn, script, events, present] = currentCase<Script>();
         Stage stage;
         if (drawn)
             stage.window.presentation()->attachView();
-        for (const QString &step : script.split(u' '))
+        for (const QString &step : QString::fromLatin1(script).split(u' '))
             stage.run(step);
-        QTEST(stage.log.join(u','), "events");
-        QTEST(stage.present(), "present");
-    }
-
-    void losingTheViewEndsTransitions()
-    {
-        Stage stage;
-        stage.window.presentation()->attachView();
-        stage.run(u"R+A"_s);
-        stage.run(u"R+b"_s);
-        stage.window.presentation()->detachView();
-        QCOMPARE(stage.log.last(), u"[R+b]"_s);
-        QCOMPARE(stage.page(u"A"_s)->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(stage.log.join(u' '), QLatin1String(events));
+        QCOMPARE(stage.present(), QLatin1String(present));
     }
 
     void lifeCycleMayChangeTheStack()
@@ -195,40 +171,39 @@ private Q_SLOTS:
         Stage stage;
         UITransitionStack &stack = *stage.window.presentation();
         stack.attachView();
-        const auto root = [&](int role) { return stack.index(0).data(role).toBool(); };
-        stage.run(u"R+A"_s);
-        QVERIFY(root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
-        stage.run(u"A."_s);
-        QVERIFY(root(UITransitionStack::BlockedRole) && root(UITransitionStack::ConcealedRole));
-        stage.run(u"-A"_s);
-        QVERIFY(!root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
-        stage.run(u"A."_s);
-        stage.run(u"R+!a"_s);
-        QVERIFY(root(UITransitionStack::BlockedRole) && !root(UITransitionStack::ConcealedRole));
+        for (const auto &[step, blocked, concealed] : {std::tuple(u"R+A"_s, true, false),
+                                                       {u"A."_s, true, true},
+                                                       {u"-A"_s, false, false},
+                                                       {u"A."_s, false, false},
+                                                       {u"R+!a"_s, true, false}}) {
+            stage.run(step);
+            QCOMPARE(stack.index(0).data(UITransitionStack::BlockedRole).toBool(), blocked);
+            QCOMPARE(stack.index(0).data(UITransitionStack::ConcealedRole).toBool(), concealed);
+        }
     }
 
     void navigationPushesAndPops()
     {
         Stage stage;
-        const auto navigation = make<UINavigationController>(stage.page(u"H"_s));
+        const auto home = stage.page(u"H"_s);
+        const auto last = stage.page(u"Q"_s);
+        const auto navigation = make<UINavigationController>(home);
         stage.run(u"R+!A"_s);
         stage.log.clear();
         stage.page(u"A"_s)->presentViewController(navigation, false);
-        stage.page(u"H"_s)->showViewController(stage.page(u"P"_s));
-        stage.page(u"P"_s)->showViewController(stage.page(u"Q"_s));
-        QCOMPARE(navigation->topViewController(), stage.page(u"Q"_s).get());
+        home->showViewController(stage.page(u"P"_s));
+        stage.page(u"P"_s)->showViewController(last);
+        QCOMPARE(navigation->topViewController(), last.get());
         QCOMPARE(navigation->backTitle(), u"P"_s);
         navigation->goBack();
-        QCOMPARE(stage.page(u"Q"_s)->navigationController(), nullptr);
-        stage.page(u"Q"_s)->presentViewController(stage.page(u"B"_s), false); // gone: nothing
+        QCOMPARE(last->navigationController(), nullptr);
+        last->presentViewController(stage.page(u"B"_s), false); // gone: nothing
         navigation->popToRootViewControllerAnimated(true);
         navigation->goBack(); // the root stays
         QVERIFY(!navigation->canGoBack());
-        QCOMPARE(
-            stage.log.join(u','),
-            u"H will,H did,P loads,P will,P did,Q loads,Q will,Q did,P will,P did,H will,H did"_s);
+        QCOMPARE(stage.log.join(u' '), u"Hw Hd Pl Pw Pd Ql Qw Qd Pw Pd Hw Hd"_s);
         QCOMPARE(stage.present(), u"RA"_s + navigation->navigationItem()->title());
-        stage.page(u"H"_s)->dismissViewControllerAnimated(false); // a page dismisses its container
+        home->dismissViewControllerAnimated(false); // a page dismisses its container
         QCOMPARE(stage.present(), u"RA"_s);
     }
 
@@ -248,18 +223,18 @@ private Q_SLOTS:
         home->setTabBarItem(std::make_unique<UITabBarItem>(QString(), UIImage(), 7));
         tabs->setViewControllers({navigation, account});
         window.setRootViewController(tabs);
-        QVERIFY2(!log.join(u',').contains(u"will"_s), "nothing appears before the window does");
+        QVERIFY2(!log.contains(u"Hw"_s), "nothing appears before the window does");
         window.makeKeyAndVisible();
-        QCOMPARE(log.join(u','), u"H loads,H will,H did"_s);
+        QCOMPARE(log.join(u' '), u"Hl Hw Hd"_s);
 
-        QCOMPARE(tabs->tabBar()->items().front()->tag(),
-                 7); // a navigation controller shows its page's
+        // A navigation controller shows its page's.
+        QCOMPARE(tabs->tabBar()->items().front()->tag(), 7);
         tabs->setSelectedIndex(1);
         tabs->setSelectedIndex(5);
         QCOMPARE(tabs->told, 0);
         tabs->tabBar()->choose(0);
         tabs->tabBar()->choose(9);
-        QCOMPARE(log.join(u','), u"H loads,H will,H did,A loads,A will,A did,H will,H did"_s);
+        QCOMPARE(log.join(u' '), u"Hl Hw Hd Al Aw Ad Hw Hd"_s);
         home->showViewController(pushed);
         tabs->tabBar()->choose(0); // the selected tab: back to its first page
         QCOMPARE(navigation->topViewController(), home.get());

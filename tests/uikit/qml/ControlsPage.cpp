@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto source = R"(
@@ -45,35 +47,35 @@ ControlsPage::ControlsPage()
     view.setBackgroundColor(UIColor::systemGroupedBackgroundColor());
     view.addGestureRecognizer(
         std::make_shared<UITapGestureRecognizer>(this, &ControlsPage::tapped));
-    label.setText(QStringLiteral("Account Login"));
-    name.setPlaceholder(QStringLiteral("Name"));
+    label.setText(u"Account Login"_s);
+    name.setPlaceholder(u"Name"_s);
     name.setLeftViewWidth(14);
     name.setLayer({.cornerRadius = 12, .borderWidth = 2, .borderColor = UIColor::grayColor()});
-    secret.setPlaceholder(QStringLiteral("Password"));
+    secret.setPlaceholder(u"Password"_s);
     secret.setInputTraits({.secureTextEntry = true});
     secret.setBorderStyle(UITextField::BorderStyle::RoundedRect);
-    button.setTitle(QStringLiteral("Login"));
-    link.setTitle(QStringLiteral("Help"));
-    picture.setImage(UIImage::imageNamed(QStringLiteral("testMark")));
-    QVariantMap controls{{QStringLiteral("control"), QVariant::fromValue(&view)}};
-    controls[QStringLiteral("label")] = QVariant::fromValue(&label);
-    controls[QStringLiteral("name")] = QVariant::fromValue(&name);
-    controls[QStringLiteral("secret")] = QVariant::fromValue(&secret);
-    controls[QStringLiteral("button")] = QVariant::fromValue(&button);
-    controls[QStringLiteral("link")] = QVariant::fromValue(&link);
-    controls[QStringLiteral("picture")] = QVariant::fromValue(&picture);
-    controls[QStringLiteral("spinner")] = QVariant::fromValue(&spinner);
-    fixture.showSource(source, controls);
+    button.setTitle(u"Login"_s);
+    link.setTitle(u"Help"_s);
+    picture.setImage(UIImage::imageNamed(u"testMark"_s));
+    fixture.showSource(source,
+                       {{u"control"_s, QVariant::fromValue(&view)},
+                        {u"label"_s, QVariant::fromValue(&label)},
+                        {u"name"_s, QVariant::fromValue(&name)},
+                        {u"secret"_s, QVariant::fromValue(&secret)},
+                        {u"button"_s, QVariant::fromValue(&button)},
+                        {u"link"_s, QVariant::fromValue(&link)},
+                        {u"picture"_s, QVariant::fromValue(&picture)},
+                        {u"spinner"_s, QVariant::fromValue(&spinner)}});
 }
 
 QQuickItem *ControlsPage::item(const char *objectName) const
 {
-    return QmlFixture::find(fixture.window.rootObject(), QLatin1String(objectName));
+    return WindowDriver::named(fixture.window.rootObject(), QLatin1String(objectName));
 }
 
 QPoint ControlsPage::at(const char *objectName) const
 {
-    return QmlFixture::centre(item(objectName));
+    return WindowDriver::centre(item(objectName));
 }
 
 void ControlsPage::key(int key, Qt::KeyboardModifiers modifiers)
@@ -83,6 +85,5 @@ void ControlsPage::key(int key, Qt::KeyboardModifiers modifiers)
 
 void ControlsPage::type(const char *text)
 {
-    for (; *text; ++text)
-        QTest::keyClick(&fixture.window, *text);
+    WindowDriver::type(fixture.window, QLatin1String(text));
 }

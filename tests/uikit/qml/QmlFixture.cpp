@@ -5,10 +5,13 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
 
-QmlFixture::QmlFixture() : screen(QTest::createTouchDevice())
+Q_IMPORT_QML_PLUGIN(UIKitPlugin)
+
+QmlFixture::QmlFixture()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    WindowDriver::beStrict();
     window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
     window.setResizeMode(QQuickView::SizeRootObjectToView);
     window.resize(390, 844);
@@ -39,31 +42,4 @@ QQuickItem *QmlFixture::show(QQmlComponent &component, const QVariantMap &proper
     window.requestActivate();
     [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&window);
     return window.rootObject();
-}
-
-QQuickItem *QmlFixture::find(QQuickItem *item, const QString &objectName)
-{
-    if (item->objectName() == objectName)
-        return item;
-    for (QQuickItem *child : item->childItems()) {
-        if (QQuickItem *found = find(child, objectName))
-            return found;
-    }
-    return nullptr;
-}
-
-QPoint QmlFixture::centre(const QQuickItem *item)
-{
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-}
-
-QImage QmlFixture::grab()
-{
-    return window.grabWindow();
-}
-
-void QmlFixture::tap(const QPoint &point)
-{
-    QTest::touchEvent(&window, screen.get()).press(0, point, &window);
-    QTest::touchEvent(&window, screen.get()).release(0, point, &window);
 }

@@ -4,12 +4,9 @@
 
 #include "platform/uikit/UIApplication.h"
 #include "tests/support/RecordingHost.h"
+#include "tests/support/WindowDriver.h"
 
-#include <QPointingDevice>
-#include <QQuickItem>
 #include <QQuickView>
-
-#include <memory>
 
 /// An application and a window to draw in, 390x844, shown and active. Anything that QML complains
 /// about fails the test.
@@ -20,24 +17,16 @@ public:
     RecordingHost host;
     UIApplication application{host};
     QQuickView window;
-    /// What a finger touches.
-    const std::unique_ptr<QPointingDevice> screen;
 
     /// Shows the drawing `file` ("UILabelView.qml") of the module UIKit with these properties and
     /// returns its root item; null, with the test failed, when it cannot be loaded.
     QQuickItem *show(const QString &file, const QVariantMap &properties);
     /// The same for a piece of QML.
     QQuickItem *showSource(const QByteArray &source, const QVariantMap &properties);
-
-    /// The item of that objectName anywhere below `item`, Repeaters and Loaders included; null
-    /// for none.
-    static QQuickItem *find(QQuickItem *item, const QString &objectName);
-    /// The middle of `item` in the window.
-    static QPoint centre(const QQuickItem *item);
     /// What is drawn now.
-    QImage grab();
+    QImage grab() { return window.grabWindow(); }
     /// A finger taps at `point`.
-    void tap(const QPoint &point);
+    void tap(const QPoint &point) { WindowDriver::tap(window, point); }
 
 private:
     QQuickItem *show(class QQmlComponent &component, const QVariantMap &properties);

@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 class TableDrawingTest : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init() { m_fixture = std::make_unique<QmlFixture>(); }
+    const QString press = QAccessibleActionInterface::pressAction();
 
+private Q_SLOTS:
     void cleanup()
     {
         m_fixture.reset();
@@ -26,17 +26,12 @@ private Q_SLOTS:
     void entriesStandWhereThePlatformPutsThem()
     {
         show({3, 3, 3});
-        struct Expected {
-            int entry;
-            double y;
-            double height;
-        };
         const double header = item(5)->height();
         const double rows = 208 + header;
         const double footer = item(9)->height();
         QVERIFY(header > 18 + 7 + 10); // with its text
         QVERIFY(footer > 18 + 2 * 14); // its text wraps
-        const Expected expected[] = {
+        const std::tuple<int, double, double> expected[] = {
             {0, 0, 36},
             {1, 36, 44},
             {2, 80, 44},
@@ -52,7 +47,7 @@ private Q_SLOTS:
             QCOMPARE(item(entry)->height(), height);
             QCOMPARE(item(entry)->width(), 390);
         }
-        QCOMPARE(QmlFixture::find(item(1), u"textLabel"_s)->x(), 16);
+        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
@@ -64,41 +59,32 @@ private Q_SLOTS:
         QVERIFY(!separator(1)->isVisible());
     }
 
-    void aTapChoosesOnce_data()
-    {
-        QTest::addColumn<std::function<void(TableDrawingTest &)>>("choose");
-        using Test = TableDrawingTest;
-        const auto row = [](const std::function<void(Test &)> &choose) { return choose; };
-        QTest::newRow("finger") << row([](Test &test) { test.m_fixture->tap(test.second()); });
-        QTest::newRow("mouse") << row([](Test &test) {
-            QTest::mouseClick(test.window(), Qt::LeftButton, {}, test.second());
-        });
-        QTest::newRow("keyboard") << row([](Test &test) {
-            test.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-        });
-        QTest::newRow("keyboard, from the end") << row([](Test &test) {
-            test.keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down,
-                       Qt::Key_Space});
-        });
-        QTest::newRow("screen reader") << row([](Test &test) {
-            test.accessible(2)->actionInterface()->doAction(
-                QAccessibleActionInterface::pressAction());
-        });
-    }
-
     void aTapChoosesOnce()
     {
-        QFETCH(const std::function<void(TableDrawingTest &)>, choose);
-        show({2, 2});
-        m_table->whenChosen = [&] { m_table->tableView()->reloadData(); }; // from its own action
-        choose(*this);
-        QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+        const std::function<void()> ways[] = {
+            [this] { m_fixture->tap(second()); },
+            [this] { QTest::mouseClick(window(), Qt::LeftButton, {}, second()); },
+            [this] {
+                keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+            },
+            [this] {
+                keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Space});
+            },
+            [this] { accessible(2)->actionInterface()->doAction(press); },
+        };
+        for (const auto &choose : ways) {
+            show({2, 2});
+            // From its own action.
+            m_table->whenChosen = [&] { m_table->tableView()->reloadData(); };
+            choose();
+            QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
+        }
     }
 
     void aPressedRowIsHighlightedUntilTheFingerLeaves()
     {
         show({3});
-        QQuickItem *selection = QmlFixture::find(item(2), u"selection"_s);
+        QQuickItem *selection = WindowDriver::named(item(2), u"selection"_s);
         QTest::mousePress(window(), Qt::LeftButton, {}, second());
         QCOMPARE(selection->opacity(), 1);
         QTest::mouseMove(window(), second() + QPoint(0, 100));
@@ -135,29 +121,21 @@ private Q_SLOTS:
         QTRY_VERIFY(SampleCell::living < 80);
     }
 
-    void aReloadKeepsThePlace_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("as many rows") << 100;
-        QTest::newRow("more rows") << 200;
-        QTest::newRow("a few rows") << 3;
-        QTest::newRow("no rows") << 0;
-    }
-
     void aReloadKeepsThePlace()
     {
-        QFETCH(const int, rows);
-        show({100});
-        list()->setProperty("contentY", 1000);
-        const double place = item(25)->y() - offset();
-        m_table->rows = {rows};
-        m_table->tableView()->reloadData();
-        m_fixture->grab();
-        const double expected = rows < 100 ? item(0)->y() : item(25)->y() - place;
-        QTRY_COMPARE(offset(), expected);
-        for (int i = 1; i <= rows && item(i); ++i)
-            QVERIFY(cell(i)->preparations > 0);
-        QVERIFY(SampleCell::living < 80);
+        for (const int rows : {100, 200, 3, 0}) {
+            show({100});
+            list()->setProperty("contentY", 1000);
+            const double place = item(25)->y() - offset();
+            m_table->rows = {rows};
+            m_table->tableView()->reloadData();
+            m_fixture->grab();
+            const double expected = rows < 100 ? item(0)->y() : item(25)->y() - place;
+            QTRY_COMPARE(offset(), expected);
+            for (int i = 1; i <= rows && item(i); ++i)
+                QVERIFY(cell(i)->preparations > 0);
+            QVERIFY(SampleCell::living < 80);
+        }
     }
 
     // In the order in which a stack lets go of a controller.
@@ -170,8 +148,11 @@ private Q_SLOTS:
     }
 
 private:
+    /// Another table in another window.
     void show(std::vector<int> rows)
     {
+        cleanup();
+        m_fixture = std::make_unique<QmlFixture>();
         m_table = make<SampleTable>(std::move(rows));
         const auto controller = QVariant::fromValue(m_table.get());
         QVERIFY(
@@ -182,7 +163,7 @@ private:
     [[nodiscard]] QQuickWindow *window() const { return &m_fixture->window; }
     [[nodiscard]] QQuickItem *list() const
     {
-        return QmlFixture::find(m_fixture->window.rootObject(), u"list"_s);
+        return WindowDriver::named(m_fixture->window.rootObject(), u"list"_s);
     }
     [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
     [[nodiscard]] QQuickItem *item(int entry) const
@@ -198,12 +179,11 @@ private:
     }
     [[nodiscard]] QQuickItem *separator(int entry) const
     {
-        return QmlFixture::find(item(entry), u"separator"_s);
+        return WindowDriver::named(item(entry), u"separator"_s);
     }
-    [[nodiscard]] QPoint second() const { return QmlFixture::centre(item(2)); }
+    [[nodiscard]] QPoint second() const { return WindowDriver::centre(item(2)); }
     [[nodiscard]] QAccessibleInterface *accessible(int entry) const
     {
-        QAccessible::setActive(true);
         return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst());
     }
     void keys(const QList<Qt::Key> &keys) const

@@ -3,26 +3,11 @@
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabBarController.h"
 #include "platform/uikit/UITabBarItem.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/qml/WindowFixture.h"
 
-#include <QQuickItem>
-#include <QTest>
-
 using namespace Qt::StringLiterals;
-
-/// Transitions as they are drawn.
-class TransitionViewTest : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void everyTransitionEndsOnce_data();
-    void everyTransitionEndsOnce();
-    void pagesMoveAsideAndBack();
-    void interruptedTransitionsEnd();
-    void closedWindowEndsTransitions();
-    void tabsAreBuiltWhenTheyAreSeen();
-};
 
 namespace {
 
@@ -36,146 +21,148 @@ std::shared_ptr<UITabBarController> tabsOf(const std::shared_ptr<UIViewControlle
     return tabs;
 }
 
+using Transition = std::tuple<const char *, bool, bool, bool, bool>;
 } // namespace
 
-void TransitionViewTest::everyTransitionEndsOnce_data()
-{
-    QTest::addColumn<bool>("broken");
-    QTest::addColumn<bool>("animated");
-    QTest::addColumn<bool>("reduceMotion");
-    QTest::addColumn<bool>("slides");
-    QTest::newRow("animated") << false << true << false << true;
-    QTest::newRow("immediate") << false << false << false << false;
-    QTest::newRow("reduced motion") << false << true << true << false;
-    QTest::newRow("file missing") << true << true << false << false;
-    QTest::newRow("file missing, immediate") << true << false << false << false;
-}
+/// Transitions as they are drawn.
+class TransitionViewTest : public QObject {
+    Q_OBJECT
 
-void TransitionViewTest::everyTransitionEndsOnce()
-{
-    QFETCH(const bool, broken);
-    QFETCH(const bool, animated);
-    QFETCH(const bool, reduceMotion);
-    WindowFixture fixture({.reduceMotion = reduceMotion});
-    const auto root = make<TestPage>(u"Root"_s);
-    fixture.show(root);
-    QCOMPARE(root->appeared, 1);
-
-    std::shared_ptr<TestPage> modal = make<TestPage>(u"Modal"_s);
-    if (broken) {
-        modal = make<BrokenPage>();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Missing\\.qml"_s));
+private Q_SLOTS:
+    void everyTransitionEndsOnce_data()
+    {
+        addCases<Transition>({
+            {"animated", false, true, false, true},
+            {"immediate", false, false, false, false},
+            {"reduced motion", false, true, true, false},
+            {"file missing", true, true, false, false},
+        });
     }
-    root->presentViewController(modal, animated, modal->counted());
-    QCOMPARE(modal->completed, animated ? 0 : 1);
-    const QPointer<QQuickItem> entry = fixture.items(u"UITransitionEntryView"_s).value(1);
-    QVERIFY(entry);
-    QTEST(entry->y() > 0 && entry->isVisible(), "slides");
-    fixture.settle();
-    QCOMPARE(modal->completed, 1);
-    QCOMPARE(modal->appeared, 1);
-    QCOMPARE(entry->y(), 0);
-    QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
 
-    modal->dismissViewControllerAnimated(animated, modal->counted());
-    QFETCH(const bool, slides);
-    if (slides)
-        QTRY_VERIFY(entry && entry->y() > 0);
-    fixture.settle();
-    QCOMPARE(modal->completed, 2);
-    QCOMPARE(root->appeared, 2);
-    QCOMPARE(fixture.items(u"UITransitionEntryView"_s).size(), 1);
-}
+    void everyTransitionEndsOnce()
+    {
+        const auto &[name, broken, animated, reduceMotion, slides] = currentCase<Transition>();
+        WindowFixture fixture({.reduceMotion = reduceMotion});
+        const auto root = make<TestPage>(u"Root"_s);
+        fixture.show(root);
+        QCOMPARE(root->appeared, 1);
 
-void TransitionViewTest::pagesMoveAsideAndBack()
-{
-    WindowFixture fixture;
-    const auto root = make<TestPage>(u"Root"_s);
-    const auto navigation = make<UINavigationController>(root);
-    fixture.show(navigation);
-    const auto page = make<TestPage>(u"Page"_s);
-    navigation->pushViewController(page, true);
-    const QList<QQuickItem *> entries = fixture.items(u"UITransitionEntryView"_s).mid(1);
-    QCOMPARE(entries.size(), 2);
-    QTRY_VERIFY(entries[0]->x() < 0);
-    QVERIFY(entries[1]->x() > 0);
-    fixture.settle();
-    QCOMPARE(entries[1]->x(), 0);
-    QVERIFY(!entries[0]->isVisible());
+        std::shared_ptr<TestPage> modal = make<TestPage>(u"Modal"_s);
+        if (broken) {
+            modal = make<BrokenPage>();
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Missing\\.qml"_s));
+        }
+        root->presentViewController(modal, animated, modal->counted());
+        QCOMPARE(modal->completed, animated ? 0 : 1);
+        const QPointer<QQuickItem> entry = fixture.items(u"UITransitionEntryView"_s).value(1);
+        QVERIFY(entry);
+        QCOMPARE(entry->y() > 0 && entry->isVisible(), slides);
+        fixture.settle();
+        QCOMPARE(modal->completed, 1);
+        QCOMPARE(modal->appeared, 1);
+        QCOMPARE(entry->y(), 0);
+        QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
 
-    // Not animated: nothing may be left aside.
-    navigation->popViewControllerAnimated(false);
-    QCOMPARE(entries[0]->x(), 0);
-    QVERIFY(entries[0]->isVisible());
-    QCOMPARE(root->appeared, 2);
-}
+        modal->dismissViewControllerAnimated(animated, modal->counted());
+        if (slides)
+            QTRY_VERIFY(entry && entry->y() > 0);
+        fixture.settle();
+        QCOMPARE(modal->completed, 2);
+        QCOMPARE(root->appeared, 2);
+        QCOMPARE(fixture.items(u"UITransitionEntryView"_s).size(), 1);
+    }
 
-void TransitionViewTest::interruptedTransitionsEnd()
-{
-    WindowFixture fixture;
-    const auto root = make<TestPage>(u"Root"_s);
-    const auto navigation = make<UINavigationController>(root);
-    fixture.show(navigation);
-    const auto page = make<TestPage>(u"Page"_s);
-    const auto modal = make<TestPage>(u"Modal"_s);
-    const auto second = make<TestPage>(u"Second"_s);
-    // A page goes while it comes; another follows; a modal comes over both and goes while it comes.
-    navigation->pushViewController(page, true);
-    QTest::qWait(50);
-    navigation->popViewControllerAnimated(true);
-    navigation->pushViewController(second, true);
-    root->presentViewController(modal, true, modal->counted());
-    QTest::qWait(50);
-    modal->dismissViewControllerAnimated(true, modal->counted());
-    fixture.settle();
-    QCOMPARE(modal->completed, 2);
-    QCOMPARE(modal->appeared, 0);
-    QCOMPARE(page->appeared, 0);
-    QCOMPARE(second->appearanceState(), UIAppearanceState::Appeared);
-    QCOMPARE(WindowFixture::rect(fixture.named(u"Second"_s)), QRectF(0, 44, 390, 800));
-    QVERIFY(!fixture.named(u"Modal"_s) && !fixture.named(u"Page"_s));
-}
+    void pagesMoveAsideAndBack()
+    {
+        WindowFixture fixture;
+        const auto root = make<TestPage>(u"Root"_s);
+        const auto navigation = make<UINavigationController>(root);
+        fixture.show(navigation);
+        const auto page = make<TestPage>(u"Page"_s);
+        navigation->pushViewController(page, true);
+        const QList<QQuickItem *> entries = fixture.items(u"UITransitionEntryView"_s).mid(1);
+        QCOMPARE(entries.size(), 2);
+        QTRY_VERIFY(entries[0]->x() < 0);
+        QVERIFY(entries[1]->x() > 0);
+        fixture.settle();
+        QCOMPARE(entries[1]->x(), 0);
+        QVERIFY(!entries[0]->isVisible());
 
-void TransitionViewTest::closedWindowEndsTransitions()
-{
-    WindowFixture fixture;
-    const auto root = make<TestPage>(u"Root"_s);
-    fixture.show(root);
-    const auto modal = make<TestPage>(u"Modal"_s);
-    root->presentViewController(modal, true, modal->counted());
-    fixture.host.reset();
-    QCOMPARE(modal->completed, 1);
-    QCOMPARE(modal->appeared, 1);
-}
+        // Not animated: nothing may be left aside.
+        navigation->popViewControllerAnimated(false);
+        QCOMPARE(entries[0]->x(), 0);
+        QVERIFY(entries[0]->isVisible());
+        QCOMPARE(root->appeared, 2);
+    }
 
-void TransitionViewTest::tabsAreBuiltWhenTheyAreSeen()
-{
-    WindowFixture fixture;
-    const auto login = make<TestPage>(u"Login"_s);
-    const auto tabs = tabsOf(make<TestPage>(u"Home"_s), make<TestPage>(u"Account"_s));
-    fixture.show(tabs, login);
-    QCOMPARE(fixture.focused(), u"Login"_s);
-    QVERIFY(!fixture.item(u"UITabBarView"_s));
+    void interruptedTransitionsEnd()
+    {
+        WindowFixture fixture;
+        const auto root = make<TestPage>(u"Root"_s);
+        const auto navigation = make<UINavigationController>(root);
+        fixture.show(navigation);
+        const auto page = make<TestPage>(u"Page"_s);
+        const auto modal = make<TestPage>(u"Modal"_s);
+        const auto second = make<TestPage>(u"Second"_s);
+        // A page goes while it comes; another follows; a modal comes over both and goes while it
+        // comes.
+        navigation->pushViewController(page, true);
+        QTest::qWait(50);
+        navigation->popViewControllerAnimated(true);
+        navigation->pushViewController(second, true);
+        root->presentViewController(modal, true, modal->counted());
+        QTest::qWait(50);
+        modal->dismissViewControllerAnimated(true, modal->counted());
+        fixture.settle();
+        QCOMPARE(modal->completed, 2);
+        QCOMPARE(modal->appeared, 0);
+        QCOMPARE(page->appeared, 0);
+        QCOMPARE(second->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(WindowFixture::rect(fixture.named(u"Second"_s)), QRectF(0, 44, 390, 800));
+        QVERIFY(!fixture.named(u"Modal"_s) && !fixture.named(u"Page"_s));
+    }
 
-    login->dismissViewControllerAnimated(true);
-    QTRY_VERIFY(fixture.item(u"UITabBarView"_s));
-    QTRY_VERIFY(fixture.named(u"Login"_s)->mapToScene(QPointF()).y() > 0);
-    fixture.settle();
-    QCOMPARE(fixture.focused(), u"Home"_s);
-    const QPointer<QQuickItem> home = fixture.named(u"Home"_s);
-    QVERIFY(home && home->isVisible());
-    QVERIFY(!fixture.named(u"Account"_s));
+    void closedWindowEndsTransitions()
+    {
+        WindowFixture fixture;
+        const auto root = make<TestPage>(u"Root"_s);
+        fixture.show(root);
+        const auto modal = make<TestPage>(u"Modal"_s);
+        root->presentViewController(modal, true, modal->counted());
+        fixture.host.reset();
+        QCOMPARE(modal->completed, 1);
+        QCOMPARE(modal->appeared, 1);
+    }
 
-    tabs->setSelectedIndex(1);
-    QCOMPARE(fixture.focused(), u"Account"_s);
-    const QPointer<QQuickItem> account = fixture.named(u"Account"_s);
-    QVERIFY(account->isVisible() && !home->isVisible());
-    tabs->presentViewController(make<TestPage>(u"Modal"_s), false);
-    tabs->setSelectedIndex(0);
-    tabs->dismissViewControllerAnimated(false);
-    QVERIFY(home && home->isVisible() && account && !account->isVisible());
-    QCOMPARE(fixture.focused(), u"Home"_s);
-}
+    void tabsAreBuiltWhenTheyAreSeen()
+    {
+        WindowFixture fixture;
+        const auto login = make<TestPage>(u"Login"_s);
+        const auto tabs = tabsOf(make<TestPage>(u"Home"_s), make<TestPage>(u"Account"_s));
+        fixture.show(tabs, login);
+        QCOMPARE(fixture.focused(), u"Login"_s);
+        QVERIFY(!fixture.item(u"UITabBarView"_s));
+
+        login->dismissViewControllerAnimated(true);
+        QTRY_VERIFY(fixture.item(u"UITabBarView"_s));
+        QTRY_VERIFY(fixture.named(u"Login"_s)->mapToScene(QPointF()).y() > 0);
+        fixture.settle();
+        QCOMPARE(fixture.focused(), u"Home"_s);
+        const QPointer<QQuickItem> home = fixture.named(u"Home"_s);
+        QVERIFY(home && home->isVisible());
+        QVERIFY(!fixture.named(u"Account"_s));
+
+        tabs->setSelectedIndex(1);
+        QCOMPARE(fixture.focused(), u"Account"_s);
+        const QPointer<QQuickItem> account = fixture.named(u"Account"_s);
+        QVERIFY(account->isVisible() && !home->isVisible());
+        tabs->presentViewController(make<TestPage>(u"Modal"_s), false);
+        tabs->setSelectedIndex(0);
+        tabs->dismissViewControllerAnimated(false);
+        QVERIFY(home && home->isVisible() && account && !account->isVisible());
+        QCOMPARE(fixture.focused(), u"Home"_s);
+    }
+};
 
 WZT_TEST(TransitionViewTest)
 #include "TransitionViewTest.moc"

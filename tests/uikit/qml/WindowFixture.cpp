@@ -3,24 +3,10 @@
 #include "tests/uikit/qml/WindowFixture.h"
 
 #include "platform/uikit/UINavigationItem.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QAccessible>
 #include <QIcon>
-#include <QQuickItem>
 #include <QTest>
-
-namespace {
-
-void collect(QAccessibleInterface *interface, QStringList &found)
-{
-    const QString role = QVariant::fromValue(interface->role()).toString();
-    found.append(role + u' ' + interface->text(QAccessible::Name));
-    for (int i = 0; i < interface->childCount(); ++i)
-        collect(interface->child(i), found);
-}
-
-} // namespace
 
 TestPage::TestPage(const QString &title)
 {
@@ -40,8 +26,7 @@ void TestPage::viewDidAppear(bool animated)
 
 WindowFixture::WindowFixture(const UIAppearance &appearance)
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
-    QAccessible::setActive(true);
+    WindowDriver::beStrict();
     application.traits().setOverride(appearance);
 }
 
@@ -71,39 +56,6 @@ void WindowFixture::show(const std::shared_ptr<UIViewController> &root,
     QVERIFY(QTest::qWaitForWindowActive(&host->view()));
 }
 
-void WindowFixture::settle()
-{
-    const auto settled = [this] {
-        for (const QQuickItem *entry : items(QStringLiteral("UITransitionEntryView"))) {
-            if (entry->property("phase").toInt() != int(UITransitionStack::Phase::Settled))
-                return false;
-        }
-        return true;
-    };
-    QTRY_VERIFY(settled());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-QList<QQuickItem *> WindowFixture::items(const QString &type) const
-{
-    return WindowDriver::items(host->view(), type);
-}
-
-QQuickItem *WindowFixture::named(const QString &name) const
-{
-    return WindowDriver::named(host->view(), name);
-}
-
-QRectF WindowFixture::rect(const QQuickItem *item)
-{
-    return WindowDriver::rect(item);
-}
-
-void WindowFixture::tap(const QQuickItem *item)
-{
-    WindowDriver::tap(host->view(), WindowDriver::centre(item));
-}
-
 void WindowFixture::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(&host->view(), key, modifiers);
@@ -114,11 +66,4 @@ QString WindowFixture::focused() const
     QAccessibleInterface *interface =
         QAccessible::queryAccessibleInterface(host->view().activeFocusItem());
     return interface ? interface->text(QAccessible::Name) : QString();
-}
-
-QStringList WindowFixture::accessible() const
-{
-    QStringList found;
-    collect(QAccessible::queryAccessibleInterface(&host->view()), found);
-    return found.mid(1);
 }

@@ -9,8 +9,7 @@
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/qml/UIWindowHost.h"
 #include "tests/support/RecordingHost.h"
-
-class QQuickItem;
+#include "tests/support/WindowDriver.h"
 
 /// A page that writes down what it is told and what is counted for it.
 class TestPage : public UIViewController {
@@ -49,22 +48,26 @@ public:
     void show(const std::shared_ptr<UIViewController> &root,
               const std::shared_ptr<UIViewController> &presented = {},
               const QSize &size = {390, 844});
-    /// Waits until no controller of the window is in a transition.
-    void settle();
+    void settle() { WindowDriver::settle(host->view()); }
 
-    /// The items of that QML type in the window, in the order in which they are drawn.
-    [[nodiscard]] QList<QQuickItem *> items(const QString &type) const;
-    /// The first of them; null for none.
+    /// As WindowDriver has them.
+    [[nodiscard]] QList<QQuickItem *> items(const QString &type) const
+    {
+        return WindowDriver::items(host->view(), type);
+    }
     [[nodiscard]] QQuickItem *item(const QString &type) const { return items(type).value(0); }
-    /// The item of that objectName; null for none.
-    [[nodiscard]] QQuickItem *named(const QString &name) const;
-    /// `item`'s rectangle in the window.
-    [[nodiscard]] static QRectF rect(const QQuickItem *item);
+    [[nodiscard]] QQuickItem *named(const QString &name) const
+    {
+        return WindowDriver::named(host->view(), name);
+    }
+    [[nodiscard]] static QRectF rect(const QQuickItem *item) { return WindowDriver::rect(item); }
+    [[nodiscard]] QStringList accessible() const { return WindowDriver::accessible(host->view()); }
 
-    void tap(const QQuickItem *item);
+    void tap(const QQuickItem *item)
+    {
+        WindowDriver::tap(host->view(), WindowDriver::centre(item));
+    }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// The title of the page, the alert's field or the button that has the keyboard.
     [[nodiscard]] QString focused() const;
-    /// "role name" of everything that a screen reader finds, in order.
-    [[nodiscard]] QStringList accessible() const;
 };
