@@ -23,8 +23,8 @@ QString joinLine(int number, const std::optional<NSDate> &date)
 {
     NSDateFormatter formatter;
     formatter.setDateStyle(NSDateFormatterStyle::Medium);
-    return u"#%1 Joined %2"_s.arg(QString::number(number),
-                                  date ? formatter.stringFromDate(*date) : u"(null)"_s);
+    const QString day = date ? formatter.stringFromDate(*date) : QString();
+    return u"#%1 Joined %2"_s.arg(QString::number(number), day.isEmpty() ? u"(null)"_s : day);
 }
 
 } // namespace

@@ -26,7 +26,7 @@ Item {
             id: header
             control: root.control.headerLabel
             anchors { top: parent.top; topMargin: 14; left: parent.left; leftMargin: 14 }
-            width: Math.min(implicitWidth, root.room - edit.width - 10)
+            width: Math.max(0, Math.min(implicitWidth, root.room - edit.width - 10))
             Accessible.role: Accessible.Heading
         }
         UIButtonView {

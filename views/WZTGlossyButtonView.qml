@@ -32,6 +32,7 @@ UIControlArea {
     }
     UISublayersPicture {
         anchors.fill: parent
+        visible: root.made.width > 0 && root.made.height > 0
         view: root.control
     }
     Rectangle {

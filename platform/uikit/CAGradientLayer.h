@@ -10,6 +10,7 @@
 struct CAGradientLayer {
     /// In points, from the top left corner of the layer around it.
     QRectF frame = {};
+    /// The same in every style.
     std::vector<UIColor> colors = {};
     /// Where each colour stands, ascending from 0, the top, to 1. Two in one place are an edge.
     std::vector<double> locations = {};

@@ -299,8 +299,11 @@ private Q_SLOTS:
         QTRY_VERIFY(isPressed());
         const QColor drawn = stage.window->view().grabWindow().pixelColor(at - QPoint(150, 0));
         QCOMPARE(drawn, pressedColor(red).drawn(false));
+        pointer.move(at + QPoint(0, 150)); // the touch stays the button's
+        QTRY_VERIFY(!isPressed());
+        QCOMPARE(stage.scrolled(), 0);
         pointer.move(at + QPoint(0, 5));
-        QVERIFY(isPressed());
+        QTRY_VERIFY(isPressed());
         pointer.release(at);
         QTRY_VERIFY(stage.app.top<WZTLoginViewController>());
     }
@@ -360,6 +363,51 @@ private Q_SLOTS:
         QTRY_COMPARE(stage.scrolled(), -60);
         stage.refreshControl().endRefreshing();
         QTRY_COMPARE(stage.scrolled(), 0);
+    }
+
+    // While the table is still on its way to the spinner.
+    void aRefreshThatEndsAtOnceLeavesTheTableInPlace_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<bool>("pulls");
+        for (const QSize size : {QSize(320, 568), QSize(390, 844)}) {
+            for (const bool pulls : {false, true})
+                QTest::addRow("%d points high, pulled: %d", size.height(), pulls) << size << pulls;
+        }
+    }
+
+    void aRefreshThatEndsAtOnceLeavesTheTableInPlace()
+    {
+        QFETCH(const QSize, size);
+        QFETCH(const bool, pulls);
+        Stage stage(size, {.textScale = size.width() < 390 ? 2.0 : 1.0});
+        stage.app.service().stage("/user.php", Fault::close());
+        if (pulls) {
+            Pointer pointer(stage.window->view(), true);
+            pointer.drag({30, 60}, 320);
+            pointer.release({30, 380});
+        } else {
+            stage.window->key(Qt::Key_F5);
+        }
+        QVERIFY(stage.refreshControl().isRefreshing());
+        QTRY_VERIFY(!stage.refreshControl().isRefreshing());
+        QTRY_VERIFY(!stage.list()->property("moving").toBool());
+        QTRY_COMPARE(stage.scrolled(), 0);
+        QTRY_COMPARE(stage.list()->property("topMargin").toDouble(), 0);
+    }
+
+    void tabReachesWhatIsOutOfSight()
+    {
+        Stage stage({320, 568}, {.textScale = 2});
+        for (int i = 0; i < 10 && !stage.drawing(stage.logout())->hasActiveFocus(); ++i)
+            stage.window->key(Qt::Key_Tab);
+        QVERIFY(stage.drawing(stage.logout())->hasActiveFocus());
+        const auto seen = [&] {
+            return WindowDriver::rect(stage.list()).contains(stage.rect(stage.logout()));
+        };
+        QTRY_VERIFY(seen());
+        stage.window->key(Qt::Key_Space);
+        QTRY_VERIFY(stage.app.top<WZTLoginViewController>());
     }
 
     void isReadOut()

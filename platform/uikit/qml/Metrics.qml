@@ -11,10 +11,15 @@ QtObject {
 
     readonly property real margin: 16
     readonly property real row: 44
+    /// Above and below what a row holds.
+    readonly property real rowMargin: 11
     readonly property real rowImage: 29
     /// Above and below a section; twice that above the first one.
     readonly property real sectionSpace: 18
     readonly property real navigationBar: 44
+    readonly property real barGlyph: 22
+    /// The part of a bar that a button beside the title has at most.
+    readonly property real barButtonShare: 0.28
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 

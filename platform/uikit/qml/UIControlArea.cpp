@@ -4,6 +4,8 @@
 
 #include "platform/uikit/qml/HitTest.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QQuickWindow>
 
 #include <chrono>
@@ -65,9 +67,10 @@ bool UIControlArea::contains(const QPointF &point) const
     return !other || other->isAncestorOf(this);
 }
 
-void UIControlArea::begin()
+void UIControlArea::begin(const QPointF &point)
 {
     setFocusByKey(false);
+    m_at = point;
     if (scrolls(*this))
         m_press.start(pressDelay);
     else
@@ -77,12 +80,23 @@ void UIControlArea::begin()
 void UIControlArea::press()
 {
     m_press.stop();
+    keepGrab(true); // from what scrolls: the touch is the control's from now on
+    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
     if (m_receiver)
         m_receiver->beginTracking();
+    if (m_receiver && !reach().contains(m_at)) // it has left while the press waited
+        m_receiver->continueTracking(false);
+}
+
+void UIControlArea::keepGrab(bool keep)
+{
+    setKeepMouseGrab(keep);
+    setKeepTouchGrab(keep);
 }
 
 void UIControlArea::move(const QPointF &point)
 {
+    m_at = point;
     if (m_receiver && !m_press.isActive())
         m_receiver->continueTracking(reach().contains(point));
 }
@@ -90,8 +104,10 @@ void UIControlArea::move(const QPointF &point)
 void UIControlArea::end(const QPointF &point)
 {
     m_touch = -1;
+    m_at = point;
     if (m_press.isActive())
         press();
+    keepGrab(false);
     if (m_receiver)
         m_receiver->endTracking(reach().contains(point));
 }
@@ -100,6 +116,7 @@ void UIControlArea::cancel()
 {
     m_touch = -1;
     m_press.stop();
+    keepGrab(false);
     if (m_receiver)
         m_receiver->cancelTracking();
 }
@@ -107,7 +124,7 @@ void UIControlArea::cancel()
 void UIControlArea::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
-    begin();
+    begin(event->position());
 }
 
 void UIControlArea::mouseMoveEvent(QMouseEvent *event)
@@ -136,7 +153,7 @@ void UIControlArea::touchEvent(QTouchEvent *event)
     for (const QEventPoint &point : points) {
         if (m_touch < 0 && point.state() == QEventPoint::Pressed) {
             m_touch = point.id();
-            begin();
+            begin(point.position());
         } else if (point.id() == m_touch && point.state() == QEventPoint::Updated) {
             move(point.position());
         } else if (point.id() == m_touch && point.state() == QEventPoint::Released) {

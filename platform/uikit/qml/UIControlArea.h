@@ -46,8 +46,9 @@ protected:
 
 private:
     [[nodiscard]] QRectF reach() const;
-    void begin();
+    void begin(const QPointF &point);
     void press();
+    void keepGrab(bool keep);
     void move(const QPointF &point);
     void end(const QPointF &point);
     void cancel();
@@ -55,6 +56,7 @@ private:
 
     QPointer<UIControl> m_receiver;
     QTimer m_press;
+    QPointF m_at; // where the touch was seen last
     int m_touch = -1;
     bool m_focusByKey = false;
 };

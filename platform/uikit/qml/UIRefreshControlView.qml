@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// What is seen behind a table that is pulled down, and above it while it refreshes. Let go of far
+/// The spinner above the first row of a table that is pulled down or refreshes. Let go of far
 /// enough down, the table refreshes; so it does by key.
 Item {
     id: root
@@ -12,45 +12,63 @@ Item {
     required property ListView list
 
     readonly property real pulled: Math.max(0, list.originY - list.contentY)
+    readonly property real margin: control.refreshing ? height : 0
+    /// Whether the drag under way began while nothing was refreshed.
+    property bool armed: false
 
+    /// Puts the table where it belongs, below the spinner or not. A margin that changes would throw
+    /// it there, so it is moved first.
+    function settle() {
+        if (list.dragging)
+            return
+        if (list.contentY > list.originY || control.refreshing && pulled >= height) {
+            list.topMargin = margin // seen from further down, or the way back ends there by itself
+        } else {
+            list.cancelFlick()
+            moving.to = list.originY - margin
+            moving.restart()
+        }
+    }
+
+    y: Math.min(0, pulled - height)
+    width: parent.width
     height: Metrics.refreshControl
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: qsTr("Loading")
+    Accessible.name: control.accessibilityLabel || qsTr("Loading")
     Accessible.ignored: !control.refreshing || !enabled
 
-    Binding {
-        target: root.list
-        property: "topMargin"
-        value: root.control.refreshing ? root.height : 0
-    }
+    onMarginChanged: settle()
+
     Spinner {
         anchors.centerIn: parent
         spinning: root.control.refreshing
         spokes: spinning ? 8 : Math.min(8, 8 * root.pulled / Metrics.pullToRefresh)
     }
     NumberAnimation {
-        id: rising
+        id: moving
         target: root.list
         property: "contentY"
-        to: root.list.originY - root.height
-        duration: Traits.reduceMotion ? 0 : 200
+        duration: Traits.reduceMotion ? 0 : 250
         easing.type: Easing.OutQuad
+        onFinished: root.list.topMargin = root.margin
     }
     Connections {
         target: root.list
         function onDraggingChanged() {
-            if (!root.list.dragging && root.pulled >= Metrics.pullToRefresh)
+            if (root.list.dragging) {
+                moving.stop()
+                root.armed = !root.control.refreshing
+            } else if (root.armed && root.enabled && root.pulled >= Metrics.pullToRefresh) {
                 root.control.pull()
-        }
-        // The spinner comes into sight, if the top of the table is.
-        function onTopMarginChanged() {
-            if (root.control.refreshing && root.pulled < root.height && root.list.contentY <= root.list.originY)
-                rising.restart()
+            } else {
+                root.list.topMargin = root.margin
+            }
         }
     }
     Shortcut {
         sequences: [StandardKey.Refresh]
+        autoRepeat: false
         enabled: root.enabled && root.visible
         onActivated: root.control.pull()
     }

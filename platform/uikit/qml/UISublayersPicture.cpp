@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/qml/UISublayersPicture.h"
 
-#include "platform/uikit/UIApplication.h"
-
 #include <QPainter>
 #include <QPainterPath>
 
@@ -14,13 +12,13 @@ namespace {
 // A gradient holds one colour a place: the second of an edge stands just behind the first.
 constexpr double edge = 1e-4;
 
-QLinearGradient drawn(const CAGradientLayer &layer, bool dark)
+QLinearGradient drawn(const CAGradientLayer &layer)
 {
     QLinearGradient gradient(layer.frame.topLeft(), layer.frame.bottomLeft());
     double last = -1;
     for (size_t i = 0; i < std::min(layer.colors.size(), layer.locations.size()); ++i) {
         last = layer.locations[i] > last ? layer.locations[i] : last + edge;
-        gradient.setColorAt(std::clamp(last, 0.0, 1.0), layer.colors[i].drawn(dark));
+        gradient.setColorAt(std::clamp(last, 0.0, 1.0), layer.colors[i].drawn(false));
     }
     return gradient;
 }
@@ -43,14 +41,12 @@ void UISublayersPicture::setView(UIView *view)
 void UISublayersPicture::paint(QPainter *painter)
 {
     const CALayer layer = m_view ? m_view->layer() : CALayer();
-    const bool dark = UIApplication::sharedApplication()->traits().isDark();
     painter->setRenderHint(QPainter::Antialiasing);
     QPainterPath mask;
     mask.addRoundedRect(boundingRect(), layer.cornerRadius, layer.cornerRadius);
     for (const CAGradientLayer &sublayer : layer.sublayers) {
         QPainterPath shape;
         shape.addRect(sublayer.frame);
-        painter->fillPath(layer.masksToBounds ? shape.intersected(mask) : shape,
-                          drawn(sublayer, dark));
+        painter->fillPath(layer.masksToBounds ? shape.intersected(mask) : shape, drawn(sublayer));
     }
 }

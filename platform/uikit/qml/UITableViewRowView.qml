@@ -42,15 +42,17 @@ Item {
         anchors.fill: parent
         onContainsPressChanged: root.cell.setHighlighted(containsPress)
         onClicked: root.entry.table.chooseEntry(root.entry.index)
-    }
-    Rectangle {
-        anchors.fill: parent
-        color: root.cell.contentView.backgroundColor.drawn(Traits.dark)
-    }
-    Loader {
-        id: content
-        anchors.fill: parent
-        Component.onCompleted: setSource(root.cell.viewUrl, {"control": root.cell})
+
+        // In here, so that a touch beside a small control is the control's.
+        Rectangle {
+            anchors.fill: parent
+            color: root.cell.contentView.backgroundColor.drawn(Traits.dark)
+        }
+        Loader {
+            id: content
+            anchors.fill: parent
+            Component.onCompleted: setSource(root.cell.viewUrl, {"control": root.cell})
+        }
     }
     Separator {
         visible: root.entry.table.drawsSeparators && root.entry.position === 1

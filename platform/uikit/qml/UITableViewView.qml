@@ -4,11 +4,37 @@ import QtQuick
 import UIKit
 
 /// A table: sections from edge to edge, made as they scroll by. With the keyboard the current row
-/// moves by arrow, page, Home and End, and is chosen by Return and Space.
+/// moves by arrow, page, Home and End, and is chosen by Return and Space. What has the
+/// keyboard in a row, or the insertion mark in it, stays in sight above the on-screen keyboard.
 Rectangle {
     id: root
 
     required property UITableView control
+    /// Whether Tab comes to the rows, beside what they hold.
+    property bool rowsHaveKeyboard: true
+    property real keyboardHeight: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
+
+    readonly property Item focused: Window.activeFocusItem
+    readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle
+        ?? Qt.rect(0, 0, focused?.width ?? 0, focused?.height ?? 0)
+
+    function revealSoon() {
+        Qt.callLater(reveal); // qmllint disable
+    }
+    function reveal() {
+        let row = focused;
+        while (row && row.parent !== list.contentItem)
+            row = row.parent;
+        if (!row)
+            return;
+        const before = list.contentY;
+        list.currentIndex = (row as UITableViewEntryView).index; // or it would go when out of sight
+        list.contentY = before;
+        list.forceLayout(); // as high as what is typed has made it
+        const place = focused.mapToItem(list.contentItem, mark);
+        const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
+        list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
+    }
 
     function goTo(entry: int) {
         if (entry < 0)
@@ -30,22 +56,35 @@ Rectangle {
                               edge >= 0 ? step : -step));
     }
 
+    /// The current row is chosen; in one that says nothing its first control gets the keyboard.
+    function choose() {
+        const entry = list.currentItem as UITableViewEntryView;
+        const inside = entry?.cell?.accessibilityLabel ? null : entry?.nextItemInFocusChain();
+        if (inside && entry.contains(entry.mapFromItem(inside, 1, 1)))
+            inside.forceActiveFocus(Qt.TabFocusReason);
+        else
+            root.control.chooseEntry(list.currentIndex);
+    }
+
     color: control.backgroundColor.drawn(Traits.dark)
+    clip: true
+    onFocusedChanged: revealSoon()
+    onMarkChanged: revealSoon()
 
     UIFocusItem {
         id: keyboard
         focus: true
-        activeFocusOnTab: true
+        activeFocusOnTab: root.rowsHaveKeyboard
         onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
-            root.goTo(list.beside(list.indexAt(0, list.contentY) - 1, 1))
+            root.goTo(list.beside(list.topEntry() - 1, 1))
 
         Keys.onUpPressed: root.goTo(list.beside(list.currentIndex, -1))
         Keys.onDownPressed: root.goTo(list.beside(list.currentIndex, 1))
-        Keys.onReturnPressed: root.control.chooseEntry(list.currentIndex)
-        Keys.onEnterPressed: root.control.chooseEntry(list.currentIndex)
+        Keys.onReturnPressed: root.choose()
+        Keys.onEnterPressed: root.choose()
         Keys.onSpacePressed: event => {
             if (!event.isAutoRepeat)
-                root.control.chooseEntry(list.currentIndex)
+                root.choose()
         }
         Keys.onPressed: event => {
             const actions = {
@@ -61,13 +100,17 @@ Rectangle {
     Connections {
         property int entry: -1
         property real offset: 0
+        property bool hadKeyboard: false
 
         target: root.control
         function onReloading() {
-            entry = list.indexAt(0, list.contentY);
+            entry = list.topEntry();
             offset = entry < 0 ? 0 : list.contentY - list.itemAtIndex(entry).y;
+            hadKeyboard = list.activeFocus;
         }
         function onReloaded() {
+            if (hadKeyboard && (!root.focused || root.focused === list))
+                keyboard.forceActiveFocus();
             if (entry < 0 || list.count === 0)
                 return;
             list.positionViewAtIndex(Math.min(entry, list.count - 1), ListView.Beginning);
@@ -78,11 +121,12 @@ Rectangle {
     Loader {
         readonly property UIRefreshControl refreshControl: root.control.refreshControl
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         onRefreshControlChanged: {
             if (refreshControl)
                 setSource("UIRefreshControlView.qml", {"control": refreshControl, "list": list})
+            else
+                source = ""
         }
     }
     ListView {
@@ -91,18 +135,29 @@ Rectangle {
         function beside(entry: int, step: int): int {
             return root.control.entries.rowBeside(entry, step);
         }
+        function topEntry(): int {
+            return indexAt(0, Math.max(originY, contentY));
+        }
 
-        // What is just out of sight is there for Tab and for screen readers.
-        displayMarginBeginning: 200
-        displayMarginEnd: 200
+        // What is just out of sight is there for Tab and for screen readers; of a short table all
+        // is, or the view would throw it back whenever a row leaves while it is pulled down.
+        displayMarginBeginning: count > 0 && count <= 60 ? 10000 : 200
+        displayMarginEnd: displayMarginBeginning
         objectName: "list"
         anchors.fill: parent
         clip: true
         cacheBuffer: 0 // what is being made ahead when rows go is complained about
         currentIndex: -1
+        keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         model: root.control.entries
         delegate: UITableViewEntryView { }
+        bottomMargin: root.keyboardHeight
+        onBottomMarginChanged: {
+            returnToBounds()
+            root.revealSoon()
+        }
+        onHeightChanged: root.revealSoon()
 
         Accessible.role: Accessible.List
         Accessible.ignored: !enabled

@@ -9,6 +9,33 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Rows with a subtitle, one like the other.
+class SubtitleTable : public SampleTable {
+public:
+    QString title;
+    QString detail;
+    int lines = 0;
+
+    explicit SubtitleTable(int count) : SampleTable({count}) { }
+    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &) override
+    {
+        auto cell = make<SampleCell>(UITableViewCellStyle::Subtitle, u"sample"_s);
+        cell->textLabel()->setText(title);
+        cell->textLabel()->setNumberOfLines(lines);
+        cell->detailTextLabel()->setText(detail);
+        cell->detailTextLabel()->setNumberOfLines(lines);
+        return cell;
+    }
+    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &) const override
+    {
+        return UITableViewAutomaticDimension;
+    }
+};
+
+} // namespace
+
 /// Tables in a real window.
 class TableDrawingTest : public QObject {
     Q_OBJECT
@@ -47,7 +74,7 @@ private Q_SLOTS:
             QCOMPARE(item(entry)->height(), height);
             QCOMPARE(item(entry)->width(), 390);
         }
-        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->x(), 16);
+        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->mapToItem(item(1), {}).x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
@@ -91,6 +118,50 @@ private Q_SLOTS:
         QTest::mouseRelease(window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
         QTRY_COMPARE(selection->opacity(), 0);
         QVERIFY(m_table->chosen.empty());
+    }
+
+    void rowsFitTheirTexts_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("detail");
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<int>("titleLines");
+        QTest::addColumn<int>("detailLines");
+        const QString words = u"many words "_s.repeated(10);
+        QTest::newRow("a title alone") << u"One"_s << QString() << 0 << 1 << 0;
+        QTest::newRow("both") << u"One"_s << u"<b>more</b>"_s << 0 << 1 << 1;
+        QTest::newRow("as many lines as needed") << words << words << 0 << 3 << 2;
+        QTest::newRow("two at most") << words << words << 2 << 2 << 2;
+        QTest::newRow("one") << words << words << 1 << 1 << 1;
+        QTest::newRow("a word without end") << QString(90, u'm') << u"a\nb"_s << 0 << 4 << 2;
+    }
+
+    void rowsFitTheirTexts()
+    {
+        QFETCH(const QString, title);
+        QFETCH(const QString, detail);
+        auto table = make<SubtitleTable>(31000);
+        table->title = title;
+        table->detail = detail;
+        QFETCH(const int, lines);
+        table->lines = lines;
+        show(table);
+        QVERIFY2(SampleCell::living < 40, "rows are made before they are seen");
+        const QQuickItem *upper = WindowDriver::named(item(1), u"textLabel"_s);
+        const QQuickItem *lower = WindowDriver::named(item(1), u"detailTextLabel"_s);
+        QTEST(upper->property("lineCount").toInt(), "titleLines");
+        QTEST(lower->height() > 0 ? lower->property("lineCount").toInt() : 0, "detailLines");
+        const double gap = detail.isEmpty() ? 0 : 3;
+        const double texts = upper->height() + gap + lower->height();
+        QCOMPARE(item(1)->height(), qMax(44.0, texts + 2 * 11));
+        QCOMPARE(upper->mapToItem(item(1), {}).y(), std::floor((item(1)->height() - texts) / 2));
+        QCOMPARE(upper->mapToItem(item(1), {}).x(), 16);
+        for (const QQuickItem *label : {upper, lower}) {
+            QCOMPARE(label->width(), 390 - 2 * 16);
+            QVERIFY(label->property("contentWidth").toDouble() <= label->width());
+        }
+        const QString name = accessible(1)->text(QAccessible::Name);
+        QVERIFY(name.contains(title) && name.contains(detail) && !name.endsWith(u", "_s));
     }
 
     void rowsSayNameAndPosition()
@@ -149,11 +220,12 @@ private Q_SLOTS:
 
 private:
     /// Another table in another window.
-    void show(std::vector<int> rows)
+    void show(std::vector<int> rows) { show(make<SampleTable>(std::move(rows))); }
+    void show(std::shared_ptr<SampleTable> table)
     {
         cleanup();
         m_fixture = std::make_unique<QmlFixture>();
-        m_table = make<SampleTable>(std::move(rows));
+        m_table = std::move(table);
         const auto controller = QVariant::fromValue(m_table.get());
         QVERIFY(
             m_fixture->show(u"UITableViewControllerView.qml"_s, {{u"controller"_s, controller}}));
