@@ -58,6 +58,27 @@ QString UINavigationController::backTitle() const
     return previous ? previous->navigationItem()->title() : QString();
 }
 
+bool UINavigationController::goBack()
+{
+    const bool can = canGoBack() && !topViewController()->navigationItem()->leftBarButtonItem();
+    if (can)
+        popViewControllerAnimated(true);
+    return can;
+}
+
+bool UINavigationController::escape()
+{
+    const UIViewController *page = topViewController();
+    UIBarButtonItem *left = page->navigationItem()->leftBarButtonItem();
+    if (!left)
+        return goBack();
+    const bool leaves =
+        left->isSystemItem(UIBarButtonSystemItem::Cancel) && !page->isModalInPresentation();
+    if (leaves)
+        left->trigger();
+    return leaves;
+}
+
 void UINavigationController::appearanceStateDidChange(UITransitionStack::Motion motion)
 {
     m_pages.setLimit(appearanceState(), motion);

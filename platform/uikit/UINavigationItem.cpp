@@ -9,3 +9,15 @@ void UINavigationItem::setTitle(const QString &title)
     m_title = title;
     Q_EMIT changed();
 }
+
+void UINavigationItem::setLeftBarButtonItem(std::shared_ptr<UIBarButtonItem> item)
+{
+    m_left = std::move(item);
+    Q_EMIT changed();
+}
+
+void UINavigationItem::setRightBarButtonItem(std::shared_ptr<UIBarButtonItem> item)
+{
+    m_right = std::move(item);
+    Q_EMIT changed();
+}

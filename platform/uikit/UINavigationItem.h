@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
-#include <QtQmlIntegration>
+#include "platform/uikit/UIBarButtonItem.h"
 
 /// What a navigation bar shows for a controller.
 class UINavigationItem : public QObject {
@@ -11,14 +10,25 @@ class UINavigationItem : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a controller")
     Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(UIBarButtonItem *leftBarButtonItem READ leftBarButtonItem NOTIFY changed)
+    Q_PROPERTY(UIBarButtonItem *rightBarButtonItem READ rightBarButtonItem NOTIFY changed)
 
 public:
     [[nodiscard]] QString title() const { return m_title; }
     void setTitle(const QString &title);
+
+    /// Stands where the back button would; null for none.
+    [[nodiscard]] UIBarButtonItem *leftBarButtonItem() const { return m_left.get(); }
+    void setLeftBarButtonItem(std::shared_ptr<UIBarButtonItem> item);
+    /// Null for none.
+    [[nodiscard]] UIBarButtonItem *rightBarButtonItem() const { return m_right.get(); }
+    void setRightBarButtonItem(std::shared_ptr<UIBarButtonItem> item);
 
 Q_SIGNALS:
     void changed();
 
 private:
     QString m_title;
+    std::shared_ptr<UIBarButtonItem> m_left;
+    std::shared_ptr<UIBarButtonItem> m_right;
 };

@@ -15,6 +15,9 @@ QtObject {
     /// Above and below a section; twice that above the first one.
     readonly property real sectionSpace: 18
     readonly property real navigationBar: 44
+    readonly property real barGlyph: 22
+    /// The part of a bar that a button beside the title has at most.
+    readonly property real barButtonShare: 0.28
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 

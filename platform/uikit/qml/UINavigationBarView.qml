@@ -3,13 +3,15 @@
 import QtQuick
 import UIKit
 
-/// The bar of a navigation controller: back button, title, hairline.
+/// The bar of a navigation controller: back button or left item, title, right item, hairline. The
+/// title keeps the middle, and becomes smaller where the buttons leave too little of it.
 Rectangle {
     id: root
 
     required property UINavigationController controller
 
     readonly property UIViewController page: controller.topViewController
+    readonly property real buttonRoom: width * Metrics.barButtonShare
     /// What the centred title leaves at either side.
     readonly property real side: (width - title.width) / 2 - Metrics.margin
 
@@ -19,19 +21,40 @@ Rectangle {
     UIBackButtonView {
         anchors.left: parent.left
         height: parent.height
-        visible: root.controller.canGoBack
+        visible: root.controller.canGoBack && !left.visible
         title: root.controller.backTitle
         room: root.side
         onTriggered: root.controller.goBack()
     }
+    UIBarButtonItemView {
+        id: left
+        anchors.left: parent.left
+        height: parent.height
+        item: root.page?.navigationItem.leftBarButtonItem ?? null
+        room: root.buttonRoom
+    }
+    UIBarButtonItemView {
+        id: right
+        anchors.right: parent.right
+        height: parent.height
+        item: root.page?.navigationItem.rightBarButtonItem ?? null
+        room: root.buttonRoom
+    }
+    TextMetrics {
+        id: natural
+        text: title.text
+        font: title.font
+    }
     Text {
         id: title
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(implicitWidth, root.width - 2 * Metrics.row)
+        width: Math.min(Math.ceil(natural.advanceWidth), root.width - 2 * Math.max(Metrics.row, left.width, right.width))
         height: parent.height
         text: root.page ? root.page.navigationItem.title : ""
         textFormat: Text.PlainText
         font: Traits.headlineFont
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: font.pixelSize / Traits.textScale
         color: Traits.labelColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter

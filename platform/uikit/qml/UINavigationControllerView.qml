@@ -13,10 +13,8 @@ FocusScope {
 
     // A page that has a use for these keys takes them first.
     Keys.onPressed: event => {
-        event.accepted = controller.canGoBack
-            && (event.key === Qt.Key_Escape || event.matches(StandardKey.Back))
-        if (event.accepted)
-            controller.goBack()
+        event.accepted = event.key === Qt.Key_Escape ? controller.escape()
+            : event.matches(StandardKey.Back) && controller.goBack()
     }
 
     UINavigationBarView {
