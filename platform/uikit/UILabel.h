@@ -5,7 +5,8 @@
 #include "platform/uikit/UIFont.h"
 #include "platform/uikit/UIView.h"
 
-/// Text on one line, ended by an ellipsis where it does not fit. Without text it has no height.
+/// Text on one line, ended by an ellipsis where it does not fit, or on several. Without text it has
+/// no height.
 class UILabel : public UIView {
     Q_OBJECT
     QML_ELEMENT
@@ -14,6 +15,7 @@ class UILabel : public UIView {
     Q_PROPERTY(UIFont font READ font NOTIFY changed)
     Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
     Q_PROPERTY(NSTextAlignment textAlignment READ textAlignment NOTIFY changed)
+    Q_PROPERTY(int numberOfLines READ numberOfLines NOTIFY changed)
 
 public:
     /// `Natural`: where the text's line begins in the interface's direction.
@@ -32,6 +34,10 @@ public:
     [[nodiscard]] NSTextAlignment textAlignment() const { return m_textAlignment; }
     void setTextAlignment(NSTextAlignment alignment) { assign(m_textAlignment, alignment); }
 
+    /// The lines at most, 1 unless set; 0 for as many as the text needs.
+    [[nodiscard]] int numberOfLines() const { return m_numberOfLines; }
+    void setNumberOfLines(int lines) { assign(m_numberOfLines, lines); }
+
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
@@ -39,4 +45,5 @@ private:
     UIFont m_font;
     UIColor m_textColor = UIColor::labelColor();
     NSTextAlignment m_textAlignment = Natural;
+    int m_numberOfLines = 1;
 };

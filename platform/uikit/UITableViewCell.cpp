@@ -8,8 +8,10 @@ UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reus
     : m_style(style), m_reuseIdentifier(reuseIdentifier)
 {
     setBackgroundColor(UIColor::secondarySystemGroupedBackgroundColor());
-    // The label names the row.
+    m_detailTextLabel.setFont(UIFont::preferredFontForTextStyle(UIFontTextStyle::Caption));
+    // The labels name the row.
     connect(&m_textLabel, &UIView::changed, this, &UIView::changed);
+    connect(&m_detailTextLabel, &UIView::changed, this, &UIView::changed);
 }
 
 UITableViewCell::~UITableViewCell() = default;
@@ -56,6 +58,9 @@ UIColor UITableViewCell::selectionColor()
 
 QString UITableViewCell::accessibilityLabel() const
 {
-    const QString label = UIView::accessibilityLabel();
-    return label.isEmpty() ? m_textLabel.accessibilityLabel() : label;
+    if (const QString label = UIView::accessibilityLabel(); !label.isEmpty())
+        return label;
+    QStringList texts{m_textLabel.accessibilityLabel(), m_detailTextLabel.accessibilityLabel()};
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
 }

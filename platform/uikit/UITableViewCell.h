@@ -7,8 +7,8 @@
 
 #include <QUrl>
 
-/// How a cell is laid out. `Default`: an optional image, then one line of text.
-enum class UITableViewCellStyle { Default };
+/// How a cell is laid out. `Default`: an optional image, then text. `Subtitle`: smaller text below.
+enum class UITableViewCellStyle { Default = 0, Subtitle = 3 };
 /// Whether a cell shows that it is pressed or selected.
 enum class UITableViewCellSelectionStyle { None, Default };
 
@@ -24,6 +24,7 @@ class UITableViewCell : public UIView {
     Q_PROPERTY(QUrl viewUrl READ viewUrl CONSTANT)
     Q_PROPERTY(UIView *contentView READ contentView CONSTANT)
     Q_PROPERTY(UILabel *textLabel READ textLabel CONSTANT)
+    Q_PROPERTY(UILabel *detailTextLabel READ detailTextLabel CONSTANT)
     Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT)
     Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT)
     Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed)
@@ -43,6 +44,8 @@ public:
 
     [[nodiscard]] UIView *contentView() { return &m_contentView; }
     [[nodiscard]] UILabel *textLabel() { return &m_textLabel; }
+    /// Only a cell of the style `Subtitle` has a use for it.
+    [[nodiscard]] UILabel *detailTextLabel() { return &m_detailTextLabel; }
     /// Drawn once it has an image.
     [[nodiscard]] UIImageView *imageView() { return &m_imageView; }
 
@@ -64,7 +67,7 @@ public:
     [[nodiscard]] bool animatesSelection() const { return m_animatesSelection; }
     [[nodiscard]] static UIColor selectionColor();
 
-    /// The label's text unless set.
+    /// The labels' texts unless set.
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
@@ -72,6 +75,7 @@ private:
     QString m_reuseIdentifier;
     UIView m_contentView;
     UILabel m_textLabel;
+    UILabel m_detailTextLabel;
     UIImageView m_imageView;
     UITableViewCellSelectionStyle m_selectionStyle = UITableViewCellSelectionStyle::Default;
     bool m_selected = false;

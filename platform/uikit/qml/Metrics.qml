@@ -11,6 +11,8 @@ QtObject {
 
     readonly property real margin: 16
     readonly property real row: 44
+    /// Above and below what a row holds.
+    readonly property real rowMargin: 11
     readonly property real rowImage: 29
     /// Above and below a section; twice that above the first one.
     readonly property real sectionSpace: 18

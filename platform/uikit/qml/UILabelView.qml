@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// One line of text; without text it takes no height.
+/// Text on as many lines as the label may have; without text it takes no height.
 Text {
     id: root
 
@@ -14,9 +14,10 @@ Text {
     textFormat: Text.PlainText
     font: control.font.drawn(Traits.textScale)
     color: control.textColor.drawn(Traits.dark)
-    elide: Text.ElideRight
-    maximumLineCount: 1
-    horizontalAlignment: control.textAlignment === UILabel.Center ? Text.AlignHCenter : undefined
+    elide: control.numberOfLines > 0 ? Text.ElideRight : Text.ElideNone
+    wrapMode: control.numberOfLines === 1 ? Text.NoWrap : Text.Wrap
+    maximumLineCount: control.numberOfLines > 0 ? control.numberOfLines : 0x7fffffff
+    horizontalAlignment: control.textAlignment === UILabel.Center ? Text.AlignHCenter : Text.AlignLeft
 
     Accessible.role: Accessible.StaticText
     Accessible.name: control.accessibilityLabel

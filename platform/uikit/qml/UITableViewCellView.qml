@@ -3,13 +3,13 @@
 import QtQuick
 import UIKit
 
-/// The plain look of a row: an image, when there is one, and one line of text.
+/// The plain look of a row: an image, when there is one, a text, and a smaller one below.
 Item {
     id: root
 
     required property UITableViewCell control
 
-    implicitHeight: Math.max(Metrics.row, label.implicitHeight + 2 * 11)
+    implicitHeight: Math.max(Metrics.row, texts.implicitHeight + 2 * Metrics.rowMargin)
 
     UIImagePicture {
         id: image
@@ -22,15 +22,27 @@ Item {
         name: root.control.imageView.image.name
         tint: root.control.imageView.tintColor.drawn(Traits.dark)
     }
-    UILabelView {
-        id: label
-        objectName: "textLabel"
+    Column {
+        id: texts
         anchors.left: image.visible ? image.right : parent.left
         anchors.right: parent.right
         anchors.leftMargin: Metrics.margin
         anchors.rightMargin: Metrics.margin
         anchors.verticalCenter: parent.verticalCenter
-        control: root.control.textLabel
-        Accessible.ignored: true // the row says it
+        spacing: detail.text ? 3 : 0
+
+        UILabelView {
+            objectName: "textLabel"
+            width: texts.width
+            control: root.control.textLabel
+            Accessible.ignored: true // the row says it
+        }
+        UILabelView {
+            id: detail
+            objectName: "detailTextLabel"
+            width: texts.width
+            control: root.control.detailTextLabel
+            Accessible.ignored: true
+        }
     }
 }

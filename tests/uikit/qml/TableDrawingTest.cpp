@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
 #include "tests/uikit/qml/QmlFixture.h"
@@ -8,6 +9,42 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Rows with a subtitle, one like the other.
+class SubtitleTable : public SampleTable {
+public:
+    QString title;
+    QString detail;
+    int lines = 0;
+
+    explicit SubtitleTable(int count) : SampleTable({count}) { }
+    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &) override
+    {
+        auto cell = make<SampleCell>(UITableViewCellStyle::Subtitle, u"sample"_s);
+        cell->textLabel()->setText(title);
+        cell->textLabel()->setNumberOfLines(lines);
+        cell->detailTextLabel()->setText(detail);
+        cell->detailTextLabel()->setNumberOfLines(lines);
+        return cell;
+    }
+    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &) const override
+    {
+        return UITableViewAutomaticDimension;
+    }
+};
+
+struct Subtitle {
+    const char *name;
+    QString title;
+    QString detail;
+    int lines; // that each may have
+    int titleLines;
+    int detailLines;
+};
+
+} // namespace
 
 /// Tables in a real window.
 class TableDrawingTest : public QObject {
@@ -47,7 +84,7 @@ private Q_SLOTS:
             QCOMPARE(item(entry)->height(), height);
             QCOMPARE(item(entry)->width(), 390);
         }
-        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->x(), 16);
+        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->mapToItem(item(1), {}).x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
@@ -57,6 +94,44 @@ private Q_SLOTS:
         QTRY_VERIFY(item(1)->height() > 44);
         m_table->tableView()->setSeparatorStyle(UITableViewCellSeparatorStyle::None);
         QVERIFY(!separator(1)->isVisible());
+    }
+
+    void rowsFitTheirTexts_data()
+    {
+        const QString words = u"many words "_s.repeated(10);
+        addCases<Subtitle>({
+            {"a title alone", u"One"_s, {}, 0, 1, 0},
+            {"both", u"One"_s, u"<b>more</b>"_s, 0, 1, 1},
+            {"as many lines as needed", words, words, 0, 3, 2},
+            {"two at most", words, words, 2, 2, 2},
+            {"one", words, words, 1, 1, 1},
+            {"a word without end", QString(90, u'm'), u"a\nb"_s, 0, 4, 2},
+        });
+    }
+
+    void rowsFitTheirTexts()
+    {
+        const auto &[name, title, detail, lines, titleLines, detailLines] = currentCase<Subtitle>();
+        auto table = make<SubtitleTable>(31000);
+        table->title = title;
+        table->detail = detail;
+        table->lines = lines;
+        show(table);
+        QVERIFY2(SampleCell::living < 80, "rows are made before they are seen");
+        const QQuickItem *upper = WindowDriver::named(item(1), u"textLabel"_s);
+        const QQuickItem *lower = WindowDriver::named(item(1), u"detailTextLabel"_s);
+        QCOMPARE(upper->property("lineCount").toInt(), titleLines);
+        QCOMPARE(lower->height() > 0 ? lower->property("lineCount").toInt() : 0, detailLines);
+        const double texts = upper->height() + (detail.isEmpty() ? 0 : 3) + lower->height();
+        QCOMPARE(item(1)->height(), qMax(44.0, texts + 2 * 11));
+        const QPointF place = upper->mapToItem(item(1), {});
+        QCOMPARE(place, QPointF(16, std::floor((item(1)->height() - texts) / 2)));
+        for (const QQuickItem *label : {upper, lower}) {
+            QCOMPARE(label->width(), 390 - 2 * 16);
+            QVERIFY(label->property("contentWidth").toDouble() <= label->width());
+        }
+        const QString said = accessible(1)->text(QAccessible::Name);
+        QCOMPARE(said, detail.isEmpty() ? title : title + u", "_s + detail);
     }
 
     void aTapChoosesOnce()
@@ -149,11 +224,12 @@ private Q_SLOTS:
 
 private:
     /// Another table in another window.
-    void show(std::vector<int> rows)
+    void show(std::vector<int> rows) { show(make<SampleTable>(std::move(rows))); }
+    void show(const std::shared_ptr<SampleTable> &table)
     {
         cleanup();
         m_fixture = std::make_unique<QmlFixture>();
-        m_table = make<SampleTable>(std::move(rows));
+        m_table = table;
         const auto controller = QVariant::fromValue(m_table.get());
         QVERIFY(
             m_fixture->show(u"UITableViewControllerView.qml"_s, {{u"controller"_s, controller}}));
