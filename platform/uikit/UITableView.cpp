@@ -88,6 +88,7 @@ std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &inde
     auto cell = m_dataSource->cellForRowAtIndexPath(indexPath);
     if (!cell)
         cell = make<UITableViewCell>();
+    addSubview(*cell);
     cell->setSelected(m_selected == indexPath, false);
     return cell;
 }

@@ -23,6 +23,11 @@ QColor UITraits::secondaryLabelColor() const
     return UIColor::secondaryLabelColor().drawn(isDark());
 }
 
+QColor UITraits::placeholderColor() const
+{
+    return UIColor::tertiaryLabelColor().drawn(isDark());
+}
+
 QColor UITraits::separatorColor() const
 {
     return UIColor::separatorColor().drawn(isDark());

@@ -25,6 +25,7 @@ class UITraits : public QObject {
     // Colours of what the platform itself draws, in the current style.
     Q_PROPERTY(QColor labelColor READ labelColor NOTIFY changed)
     Q_PROPERTY(QColor secondaryLabelColor READ secondaryLabelColor NOTIFY changed)
+    Q_PROPERTY(QColor placeholderColor READ placeholderColor NOTIFY changed)
     Q_PROPERTY(QColor separatorColor READ separatorColor NOTIFY changed)
     Q_PROPERTY(QColor accentColor READ accentColor NOTIFY changed)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
@@ -49,6 +50,7 @@ public:
 
     [[nodiscard]] QColor labelColor() const;
     [[nodiscard]] QColor secondaryLabelColor() const;
+    [[nodiscard]] QColor placeholderColor() const;
     [[nodiscard]] QColor separatorColor() const;
     [[nodiscard]] QColor accentColor() const;
     [[nodiscard]] QColor backgroundColor() const;

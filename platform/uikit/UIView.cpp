@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UIView.h"
 
+#include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UITapGestureRecognizer.h"
 
 UIView::UIView() = default;
@@ -10,6 +11,17 @@ UIView::~UIView() = default;
 QString UIView::accessibilityLabel() const
 {
     return m_accessibilityLabel.value_or(QString());
+}
+
+bool UIView::endEditing(bool /*force*/)
+{
+    const UIApplication *application = UIApplication::sharedApplication();
+    auto *editor = application ? qobject_cast<UIView *>(application->firstResponder()) : nullptr;
+    for (const UIView *view = editor; view; view = view->superview()) {
+        if (view == this)
+            return editor->resignFirstResponder();
+    }
+    return true;
 }
 
 void UIView::addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer)

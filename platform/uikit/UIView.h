@@ -5,6 +5,7 @@
 #include "platform/uikit/CALayer.h"
 #include "platform/uikit/UIResponder.h"
 
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -46,6 +47,13 @@ public:
         assign(m_accessibilityLabel, std::optional(label));
     }
 
+    /// The view that this one is a part of; null for none. Where it stands there is QML's matter.
+    [[nodiscard]] UIView *superview() const { return m_superview; }
+    void addSubview(UIView &view) { view.m_superview = this; }
+    /// Takes the keyboard from this view or the part of it that has it. Returns whether none has
+    /// it now; nothing refuses, `force` or not.
+    bool endEditing(bool force);
+
     void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
     [[nodiscard]] bool recognizesTaps() const { return !m_recognizers.empty(); }
     /// Runs the view's tap recognisers; for whoever draws the view.
@@ -67,6 +75,7 @@ protected:
     }
 
 private:
+    QPointer<UIView> m_superview;
     UIColor m_backgroundColor;
     UIColor m_tintColor = UIColor::systemBlueColor();
     CALayer m_layer;

@@ -3,9 +3,15 @@
 import QtQuick
 import UIKit
 
-/// The insertion mark of a field: blinks at the desktop's pace, and stands still at each move.
+/// The insertion mark of what edits text: blinks at the desktop's pace, and stands still at each move.
 Rectangle {
     id: root
+
+    function stand() {
+        blink.lit = true
+        if (blink.running)
+            blink.restart()
+    }
 
     width: 2
     radius: 1
@@ -23,9 +29,6 @@ Rectangle {
         onTriggered: lit = !lit
         onRunningChanged: lit = true
     }
-    onXChanged: {
-        blink.lit = true
-        if (blink.running)
-            blink.restart()
-    }
+    onXChanged: stand()
+    onYChanged: stand()
 }

@@ -3,8 +3,7 @@
 import QtQuick
 import UIKit
 
-/// Where a field's text is edited. It has the keyboard while the field is first responder,
-/// whichever of the two comes first.
+/// Where a field's text is edited.
 TextInput {
     id: root
 
@@ -32,16 +31,6 @@ TextInput {
 
     onAccepted: control.returnPressed()
     onTextChanged: control.edit(text)
-    onActiveFocusChanged: {
-        if (activeFocus)
-            control.becomeFirstResponder()
-        else
-            control.resignFirstResponder()
-    }
-    Component.onCompleted: {
-        if (control.firstResponder)
-            forceActiveFocus()
-    }
 
     Accessible.role: Accessible.EditableText
     Accessible.name: control.accessibilityLabel
@@ -49,13 +38,5 @@ TextInput {
     Accessible.focusable: true
     Accessible.ignored: !enabled
 
-    Connections {
-        target: root.control
-        function onFirstResponderChanged() {
-            if (root.control.firstResponder)
-                root.forceActiveFocus()
-            else if (root.activeFocus)
-                root.focus = false
-        }
-    }
+    TextInputFocus { responder: root.control }
 }

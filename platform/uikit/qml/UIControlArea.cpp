@@ -4,6 +4,8 @@
 
 #include "platform/uikit/qml/HitTest.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QQuickWindow>
 
 #include <chrono>
@@ -77,6 +79,7 @@ void UIControlArea::begin()
 void UIControlArea::press()
 {
     m_press.stop();
+    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
     if (m_receiver)
         m_receiver->beginTracking();
 }

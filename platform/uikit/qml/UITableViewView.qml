@@ -4,11 +4,30 @@ import QtQuick
 import UIKit
 
 /// A table: sections from edge to edge, made as they scroll by. With the keyboard the current row
-/// moves by arrow, page, Home and End, and is chosen by Return and Space.
+/// moves by arrow, page, Home and End, and is chosen by Return and Space. Where text is edited in a
+/// row, its insertion mark stays above the on-screen keyboard.
 Rectangle {
     id: root
 
     required property UITableView control
+    /// Whether Tab comes to the rows, beside what they hold.
+    property bool rowsHaveKeyboard: true
+    property real keyboardHeight: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
+
+    readonly property Item focused: Window.activeFocusItem
+    readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
+
+    function reveal() {
+        let row = focused;
+        while (row && row.parent !== list.contentItem)
+            row = row.parent;
+        if (!row)
+            return;
+        list.currentIndex = (row as UITableViewEntryView).index; // or it would go when out of sight
+        const place = focused.mapToItem(list.contentItem, mark);
+        const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
+        list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
+    }
 
     function goTo(entry: int) {
         if (entry < 0)
@@ -31,11 +50,13 @@ Rectangle {
     }
 
     color: control.backgroundColor.drawn(Traits.dark)
+    onFocusedChanged: reveal()
+    onMarkChanged: reveal()
 
     UIFocusItem {
         id: keyboard
         focus: true
-        activeFocusOnTab: true
+        activeFocusOnTab: root.rowsHaveKeyboard
         onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
             root.goTo(list.beside(list.indexAt(0, list.contentY) - 1, 1))
 
@@ -100,9 +121,16 @@ Rectangle {
         clip: true
         cacheBuffer: 0 // what is being made ahead when rows go is complained about
         currentIndex: -1
+        keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         model: root.control.entries
         delegate: UITableViewEntryView { }
+        bottomMargin: root.keyboardHeight
+        onBottomMarginChanged: {
+            returnToBounds()
+            root.reveal()
+        }
+        onHeightChanged: root.reveal()
 
         Accessible.role: Accessible.List
         Accessible.ignored: !enabled
