@@ -31,6 +31,8 @@ TextInput {
 
     onAccepted: control.returnPressed()
     onTextChanged: control.edit(text)
+    onActiveFocusChanged: if (!activeFocus)
+        ensureVisible(0)
 
     Accessible.role: Accessible.EditableText
     Accessible.name: control.accessibilityLabel

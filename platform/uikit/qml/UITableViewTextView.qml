@@ -25,6 +25,7 @@ Item {
         text: root.entry.text
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
         font: root.entry.table.sectionFont.drawn(Traits.textScale)
         color: Traits.secondaryLabelColor
 

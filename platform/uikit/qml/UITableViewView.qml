@@ -4,8 +4,8 @@ import QtQuick
 import UIKit
 
 /// A table: sections from edge to edge, made as they scroll by. With the keyboard the current row
-/// moves by arrow, page, Home and End, and is chosen by Return and Space. Where text is edited in a
-/// row, its insertion mark stays above the on-screen keyboard.
+/// moves by arrow, page, Home and End, and is chosen by Return and Space. What has the
+/// keyboard in a row, or the insertion mark in it, stays in sight above the on-screen keyboard.
 Rectangle {
     id: root
 
@@ -15,15 +15,22 @@ Rectangle {
     property real keyboardHeight: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
 
     readonly property Item focused: Window.activeFocusItem
-    readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
+    readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle
+        ?? Qt.rect(0, 0, focused?.width ?? 0, focused?.height ?? 0)
 
+    function revealSoon() {
+        Qt.callLater(reveal); // qmllint disable
+    }
     function reveal() {
         let row = focused;
         while (row && row.parent !== list.contentItem)
             row = row.parent;
         if (!row)
             return;
+        const before = list.contentY;
         list.currentIndex = (row as UITableViewEntryView).index; // or it would go when out of sight
+        list.contentY = before;
+        list.forceLayout(); // as high as what is typed has made it
         const place = focused.mapToItem(list.contentItem, mark);
         const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
         list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
@@ -50,8 +57,8 @@ Rectangle {
     }
 
     color: control.backgroundColor.drawn(Traits.dark)
-    onFocusedChanged: reveal()
-    onMarkChanged: reveal()
+    onFocusedChanged: revealSoon()
+    onMarkChanged: revealSoon()
 
     UIFocusItem {
         id: keyboard
@@ -128,9 +135,9 @@ Rectangle {
         bottomMargin: root.keyboardHeight
         onBottomMarginChanged: {
             returnToBounds()
-            root.reveal()
+            root.revealSoon()
         }
-        onHeightChanged: root.reveal()
+        onHeightChanged: root.revealSoon()
 
         Accessible.role: Accessible.List
         Accessible.ignored: !enabled
