@@ -132,6 +132,9 @@ private Q_SLOTS:
         }
         const QString said = accessible(1)->text(QAccessible::Name);
         QCOMPARE(said, detail.isEmpty() ? title : title + u", "_s + detail);
+        m_fixture->application.traits().setOverride(UIAppearance{.textScale = 1.5});
+        for (const QQuickItem *label : {upper, lower})
+            QVERIFY2(!label->property("truncated").toBool(), "enlarged text is cut");
     }
 
     void aTapChoosesOnce()
