@@ -9,18 +9,19 @@
 
 using namespace Qt::StringLiterals;
 
-std::shared_ptr<UIAlertController> messageAlert(MessageKind kind, const QString &text)
+void presentMessage(UIViewController &screen, MessageKind kind, const QString &text)
 {
     const QString title = kind == MessageKind::Error ? u"Error"_s : u"Great!"_s;
-    auto alert = make<UIAlertController>(title, text);
+    const auto alert = make<UIAlertController>(title, text);
     alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-    return alert;
+    screen.presentViewController(alert, true);
 }
 
-const Message *messageForCode(std::span<const Message> messages, NSUInteger code)
+void presentMessage(UIViewController &screen, std::span<const Message> messages, NSUInteger code)
 {
     const auto found =
         std::find_if(messages.begin(), messages.end(),
                      [code](const Message &message) { return message.code == code; });
-    return found == messages.end() ? nullptr : &*found;
+    if (found != messages.end())
+        presentMessage(screen, found->kind, found->text.toString());
 }

@@ -7,10 +7,9 @@
 #include <QString>
 #include <QStringView>
 
-#include <memory>
 #include <span>
 
-class UIAlertController;
+class UIViewController;
 
 /// The title of an alert that reports an outcome.
 enum class MessageKind { Error, Success };
@@ -22,9 +21,28 @@ struct Message {
     QStringView text;
 };
 
-/// The alert that reports an outcome: titled "Error" or "Great!", with the one action "Dismiss".
-[[nodiscard]] std::shared_ptr<UIAlertController> messageAlert(MessageKind kind,
-                                                              const QString &text);
+/// Presents, from `screen`, the alert that reports an outcome: titled "Error" or "Great!", with the
+/// one action "Dismiss".
+void presentMessage(UIViewController &screen, MessageKind kind, const QString &text);
+/// The same with the row of `messages` for `code`; nothing for a code that nothing is told about.
+void presentMessage(UIViewController &screen, std::span<const Message> messages, NSUInteger code);
 
-/// The row of `messages` for `code`; null for a code that nothing is told about.
-[[nodiscard]] const Message *messageForCode(std::span<const Message> messages, NSUInteger code);
+/// What every screen can tell its user; `Screen` is the screen's own class.
+template <class Screen>
+class MessageAlerts {
+public:
+    /// An alert titled "Error".
+    void displayErrorMessage(const QString &message)
+    {
+        presentMessage(*static_cast<Screen *>(this), MessageKind::Error, message);
+    }
+    /// An alert titled "Great!".
+    void displaySuccessMessage(const QString &message)
+    {
+        presentMessage(*static_cast<Screen *>(this), MessageKind::Success, message);
+    }
+
+private:
+    friend Screen;
+    MessageAlerts() = default;
+};

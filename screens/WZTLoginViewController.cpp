@@ -9,7 +9,6 @@
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIImpactFeedbackGenerator.h"
 #include "screens/AlertFields.h"
-#include "screens/MessageAlert.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
 
@@ -92,7 +91,7 @@ void WZTLoginViewController::loginEnded(NSUInteger code, const std::optional<WZT
     if (code == loginSucceeded) {
         enter(user);
     } else {
-        displayMessage(messageForCode(loginMessages, code));
+        presentMessage(*this, loginMessages, code);
     }
 }
 
@@ -128,7 +127,7 @@ void WZTLoginViewController::requestReset(const UIAlertController &alert)
 
 void WZTLoginViewController::resetEnded(NSUInteger code)
 {
-    displayMessage(messageForCode(resetMessages, code));
+    presentMessage(*this, resetMessages, code);
 }
 
 void WZTLoginViewController::registerAccount(UIControl *)
@@ -179,7 +178,7 @@ void WZTLoginViewController::registrationEnded(NSUInteger code, const std::optio
     if (code == registrationSucceeded) {
         enter(user);
     } else {
-        displayMessage(messageForCode(registrationMessages, code));
+        presentMessage(*this, registrationMessages, code);
     }
 }
 
@@ -190,20 +189,4 @@ void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
     // Asked of the presenter, so that an alert opened meanwhile goes as well.
     if (UIViewController *presenter = presentingViewController())
         presenter->dismissViewControllerAnimated(true);
-}
-
-void WZTLoginViewController::displayMessage(const Message *message)
-{
-    if (message)
-        presentViewController(messageAlert(message->kind, message->text.toString()), true);
-}
-
-void WZTLoginViewController::displayErrorMessage(const QString &message)
-{
-    presentViewController(messageAlert(MessageKind::Error, message), true);
-}
-
-void WZTLoginViewController::displaySuccessMessage(const QString &message)
-{
-    presentViewController(messageAlert(MessageKind::Success, message), true);
 }

@@ -9,6 +9,7 @@
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITextField.h"
 #include "platform/uikit/UIViewController.h"
+#include "screens/MessageAlert.h"
 
 class WZTUser;
 class UIAlertController;
@@ -16,7 +17,8 @@ class UIAlertController;
 /// The sign-in screen, presented over the tabs while nobody is signed in. The only ways out are a
 /// sign-in and a registration; both hand the user to the session and dismiss the screen. A reset
 /// message and a new account are asked for in alerts.
-class WZTLoginViewController : public UIViewController {
+class WZTLoginViewController : public UIViewController,
+                               public MessageAlerts<WZTLoginViewController> {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -64,11 +66,6 @@ public:
     void resetEnded(NSUInteger code);
     void registrationEnded(NSUInteger code, const std::optional<WZTUser> &user);
 
-    /// An alert titled "Error".
-    void displayErrorMessage(const QString &message);
-    /// An alert titled "Great!".
-    void displaySuccessMessage(const QString &message);
-
 private:
     void buildForm();
     void buildButtons();
@@ -80,7 +77,6 @@ private:
 
     void requestReset(const UIAlertController &alert);
     void requestAccount(const UIAlertController &alert);
-    void displayMessage(const struct Message *message);
     void enter(const std::optional<WZTUser> &user);
 
     UIActivityIndicatorView m_activityIndicator;

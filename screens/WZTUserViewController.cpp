@@ -9,7 +9,6 @@
 #include "platform/uikit/UIImpactFeedbackGenerator.h"
 #include "platform/uikit/UINavigationItem.h"
 #include "screens/AlertFields.h"
-#include "screens/MessageAlert.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
 #include "views/AdaptiveColors.h"
@@ -182,23 +181,11 @@ void WZTUserViewController::updateEnded(NSUInteger code, const std::optional<WZT
                                         const std::optional<QString> &email)
 {
     acceptUser(user, email);
-    const Message *message = messageForCode(updateMessages, code);
-    if (message)
-        presentViewController(messageAlert(message->kind, message->text.toString()), true);
+    presentMessage(*this, updateMessages, code);
 }
 
 void WZTUserViewController::logout(UIControl *)
 {
     tapHaptically();
     WZTSession::shared()->logout();
-}
-
-void WZTUserViewController::displayErrorMessage(const QString &message)
-{
-    presentViewController(messageAlert(MessageKind::Error, message), true);
-}
-
-void WZTUserViewController::displaySuccessMessage(const QString &message)
-{
-    presentViewController(messageAlert(MessageKind::Success, message), true);
 }

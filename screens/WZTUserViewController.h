@@ -5,13 +5,15 @@
 #include "model/WZTUser.h"
 #include "platform/foundation/NSTypes.h"
 #include "platform/uikit/UITableViewController.h"
+#include "screens/MessageAlert.h"
 
 class UIAlertController;
 class UIControl;
 
 /// Account, the second tab: the logo, the signed-in user's card and the way out. It keeps no copy
 /// of the user but asks the shared session each time.
-class WZTUserViewController : public UITableViewController {
+class WZTUserViewController : public UITableViewController,
+                              public MessageAlerts<WZTUserViewController> {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -38,10 +40,6 @@ public:
     /// else or nobody is signed in by now, and tells of it.
     void updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
                      const std::optional<QString> &email);
-
-    // An alert titled "Error" or "Great!".
-    void displayErrorMessage(const QString &message);
-    void displaySuccessMessage(const QString &message);
 
 private:
     void requestUpdate(const UIAlertController &alert, const std::optional<QString> &email);

@@ -23,6 +23,7 @@ Item {
         id: thanks
         objectName: "thanks"
         control: root.control.thanksLabel
+        lines: Traits.textScale > 1 ? 0 : control.numberOfLines
         anchors { top: heart.bottom; topMargin: 4; left: parent.left; leftMargin: 10; right: parent.right; rightMargin: 10 }
     }
 }

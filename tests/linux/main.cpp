@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxHost.h"
+#include "platform/uikit/UIApplication.h"
+#include "screens/WZTRootViewController.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDir>
@@ -25,6 +27,18 @@ int startApplication(QStringList arguments)
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
     return std::puts(host.becomeOnlyInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
+}
+
+// Every link of Home, one after the other.
+int openLinks()
+{
+    LinuxHost host(u"example.wzt.Test"_s);
+    const UIApplication application(host);
+    WZTRootViewController home;
+    home.addPublicRepo();
+    home.addSubscriberRepo();
+    home.joinDiscord();
+    return 0;
 }
 
 // GIO and libdbus look at these once, so they stand before anything else.
@@ -62,6 +76,10 @@ int main(int argc, char **argv)
     if (argc > 2 && qstrcmp(argv[1], "--start") == 0) {
         const QGuiApplication application(argc, argv);
         return startApplication(QCoreApplication::arguments().sliced(2));
+    }
+    if (argc > 1 && qstrcmp(argv[1], "--open-links") == 0) {
+        const QGuiApplication application(argc, argv);
+        return openLinks();
     }
     const QTemporaryDir home;
     const QString runtime = home.filePath(u"runtime"_s);

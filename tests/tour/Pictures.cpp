@@ -42,6 +42,9 @@ const Steps sendAccount = filledAccount + Steps{{Return}};
 const Steps error{{Await, u"Error"_s}};
 const Steps success{{Await, u"Great!"_s}};
 const Steps tabs{{Await, u"Home"_s}};
+const Steps projects{{Tap, u"Bug Reporter"_s}, {Await, u"Projects"_s}};
+const Steps loading{{Await, u"Loading"_s}};
+const Steps loaded{{AwaitEnd, u"Loading"_s}};
 const Steps refreshing{{Refresh}, {Await, u"Loading"_s}};
 const Steps update{{Tap, u"Update"_s}, {Await, u"Update Account"_s}};
 const Steps filledUpdate =
@@ -56,6 +59,7 @@ std::vector<Picture> allPictures()
     const Steps enter = signIn(jo, u"secret"_s);
     const Steps toAccount = tabs + Steps{{Tap, u"Account"_s}, {Await, u"Account Details"_s}};
     const Steps account = enter + toAccount;
+    const Steps list = enter + tabs + projects;
     return {
         {u"login-empty"_s, {{Await, u"Account Login"_s}}},
         {u"login-filled"_s, filled(jo, u"secret"_s)},
@@ -78,6 +82,12 @@ std::vector<Picture> allPictures()
         {u"register-unknown-error"_s, sendAccount + error, "/register.php", Fault::close()},
 
         {u"home"_s, enter + tabs},
+        {u"projects"_s, list},
+        {u"issues-none"_s, list + Steps{{Tap, u"tessaroo"_s}} + loaded},
+        {u"issues-dozen"_s, list + Steps{{Tap, u"Pintle"_s}} + loaded},
+        {u"issues-end"_s, list + Steps{{Tap, u"Pintle"_s}} + loaded + Steps{{End}}},
+        {u"issues-loading"_s, list + Steps{{Tap, u"Pintle"_s}} + loading, "/issues.php",
+         Fault::silence()},
         {u"home-after-registration"_s, sendAccount + tabs},
         {u"account"_s, account},
         {u"account-long"_s, signIn(longEmail.toString(), u"secret"_s) + toAccount},

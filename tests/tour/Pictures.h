@@ -12,7 +12,7 @@
 
 /// One thing that a person does, or waits for.
 struct Step {
-    enum class Kind { Tap, Type, Return, Refresh, Await, Restart };
+    enum class Kind { Tap, Type, Return, Refresh, End, Await, AwaitEnd, Restart };
 
     Kind kind;
     QString what = {};
@@ -27,8 +27,8 @@ struct Picture {
     std::optional<sandbox::Fault> answer = {};
 };
 
-/// Every picture of the tour. The service knows jo@wzt.example and longEmail, and has "secret" for
-/// the password of both.
+/// Every picture of the tour. The service knows jo@wzt.example and longEmail, has "secret" for the
+/// password of both, and issues of every length.
 inline constexpr QStringView longEmail =
     u"maximiliane.featherstonehaugh-cholmondeley@correspondence.wzt.example";
 [[nodiscard]] std::vector<Picture> allPictures();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/tour/Tour.h"
 
+#include "sandbox/DemoIssues.h"
 #include "tests/support/TestWindow.h"
 #include "tests/support/WindowDriver.h"
 #include "views/WZTGlossyButton.h"
@@ -63,6 +64,7 @@ void Tour::picture()
                                  .name = u"Maximiliane Alexandra Featherstonehaugh-Cholmondeley"_s,
                                  .joined = joined},
                                 u"secret"_s);
+    m_app->service().addIssues(sandbox::demoIssues());
     if (picture.answer)
         m_app->service().stage(picture.path, *picture.answer);
     launch();
@@ -117,8 +119,14 @@ void Tour::take(const Step &step)
     case Step::Kind::Refresh:
         m_window->key(Qt::Key_F5);
         break;
+    case Step::Kind::End:
+        m_window->key(Qt::Key_End);
+        break;
     case Step::Kind::Await:
         await(step.what);
+        break;
+    case Step::Kind::AwaitEnd:
+        QTRY_VERIFY(!WindowDriver::accessible(m_window->view(), step.what));
         break;
     case Step::Kind::Restart:
         launch();

@@ -8,15 +8,17 @@ Text {
     id: root
 
     required property UILabel control
+    /// The lines at most; 0 for as many as the text needs.
+    property int lines: control.numberOfLines
 
     height: text ? implicitHeight : 0
     text: control.text
     textFormat: Text.PlainText
     font: control.font.drawn(Traits.textScale)
     color: control.textColor.drawn(Traits.dark)
-    elide: control.numberOfLines > 0 ? Text.ElideRight : Text.ElideNone
-    wrapMode: control.numberOfLines === 1 ? Text.NoWrap : Text.Wrap
-    maximumLineCount: control.numberOfLines > 0 ? control.numberOfLines : 0x7fffffff
+    elide: lines > 0 ? Text.ElideRight : Text.ElideNone
+    wrapMode: lines === 1 ? Text.NoWrap : Text.Wrap
+    maximumLineCount: lines > 0 ? lines : 0x7fffffff
     horizontalAlignment: control.textAlignment === UILabel.Center ? Text.AlignHCenter : Text.AlignLeft
 
     Accessible.role: Accessible.StaticText

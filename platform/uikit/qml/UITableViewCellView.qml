@@ -3,7 +3,8 @@
 import QtQuick
 import UIKit
 
-/// The plain look of a row: an image, when there is one, a text, and a smaller one below.
+/// The plain look of a row: an image, when there is one, a text, and a smaller one below. Enlarged
+/// text takes as many lines as it needs.
 Item {
     id: root
 
@@ -35,6 +36,7 @@ Item {
             objectName: "textLabel"
             width: texts.width
             control: root.control.textLabel
+            lines: Traits.textScale > 1 ? 0 : control.numberOfLines
             Accessible.ignored: true // the row says it
         }
         UILabelView {
@@ -42,6 +44,7 @@ Item {
             objectName: "detailTextLabel"
             width: texts.width
             control: root.control.detailTextLabel
+            lines: Traits.textScale > 1 ? 0 : control.numberOfLines
             Accessible.ignored: true
         }
     }

@@ -42,6 +42,8 @@ Item {
         anchors.fill: parent
         onContainsPressChanged: root.cell.setHighlighted(containsPress)
         onClicked: root.entry.table.chooseEntry(root.entry.index)
+        // Or a tap that soon follows one in the same place, on the screen before, would be lost.
+        onDoubleClicked: root.entry.table.chooseEntry(root.entry.index)
 
         // In here, so that a touch beside a small control is the control's.
         Rectangle {

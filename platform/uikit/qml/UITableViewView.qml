@@ -107,8 +107,10 @@ Rectangle {
             entry = list.topEntry();
             offset = entry < 0 ? 0 : list.contentY - list.itemAtIndex(entry).y;
             hadKeyboard = list.activeFocus;
+            list.isShort = false; // of a long one not every row is to be made
         }
         function onReloaded() {
+            list.isShort = list.count <= 60;
             if (hadKeyboard && (!root.focused || root.focused === list))
                 keyboard.forceActiveFocus();
             if (entry < 0 || list.count === 0)
@@ -141,7 +143,9 @@ Rectangle {
 
         // What is just out of sight is there for Tab and for screen readers; of a short table all
         // is, or the view would throw it back whenever a row leaves while it is pulled down.
-        displayMarginBeginning: count > 0 && count <= 60 ? 10000 : 200
+        property bool isShort: false
+
+        displayMarginBeginning: isShort ? 10000 : 200
         displayMarginEnd: displayMarginBeginning
         objectName: "list"
         anchors.fill: parent
@@ -158,6 +162,7 @@ Rectangle {
             root.revealSoon()
         }
         onHeightChanged: root.revealSoon()
+        Component.onCompleted: isShort = count <= 60
 
         Accessible.role: Accessible.List
         Accessible.ignored: !enabled

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+import Screens
+
+/// A table, and over its middle a spinner.
+UITableViewView {
+    id: root
+
+    required property WZTBusyTableViewController controller
+
+    control: controller.tableView
+
+    UIActivityIndicatorViewView {
+        objectName: "indicator"
+        anchors.centerIn: parent
+        control: root.controller.activityIndicator
+    }
+}

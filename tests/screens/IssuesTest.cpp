@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "app/WZTTabBarController.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UINavigationItem.h"
+#include "screens/WZTPackageIssuesViewController.h"
+#include "screens/WZTRootIssueViewController.h"
+#include "screens/WZTRootViewController.h"
+#include "tests/support/TestApp.h"
+#include "tests/support/TestRunner.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using sandbox::Fault;
+
+constexpr char path[] = "/issues.php";
+
+Fault listOf(const QByteArrayList &titles)
+{
+    QByteArrayList issues;
+    for (const QByteArray &title : titles)
+        issues.append(R"({"title":")" + title + R"("})");
+    return Fault::json('[' + issues.join(',') + ']');
+}
+
+// The projects are listed, and the service answers as staged.
+struct Stage {
+    Stage()
+    {
+        app.keepUser(WZTUser(42, u"jo@wzt.example"_s, u"Jo"_s));
+        app.launch();
+        app.delegate().rootVC()->showIssueProjectList();
+    }
+
+    [[nodiscard]] WZTRootIssueViewController &projects()
+    {
+        const auto *navigation = app.delegate().rootVC()->navigationController();
+        return dynamic_cast<WZTRootIssueViewController &>(*navigation->topViewController());
+    }
+    [[nodiscard]] WZTPackageIssuesViewController &open(int project)
+    {
+        projects().tableView()->chooseRowAtIndexPath({0, project});
+        return dynamic_cast<WZTPackageIssuesViewController &>(
+            *app.top<UINavigationController>()->topViewController());
+    }
+    /// Covers the top screen and uncovers it, so that it appears once more.
+    void coverAndUncover()
+    {
+        app.top()->presentViewController(make<UIViewController>(), false);
+        app.top()->dismissViewControllerAnimated(false);
+    }
+    [[nodiscard]] qsizetype requests() { return app.service().requests().size(); }
+
+    TestApp app;
+};
+
+QStringList titles(const WZTPackageIssuesViewController *screen)
+{
+    QStringList titles;
+    const auto issues = screen ? screen->packageIssues() : std::nullopt;
+    for (const WZTPackageIssue &issue : issues.value_or(QList<WZTPackageIssue>()))
+        titles.append(issue.title.value_or(u"-"_s));
+    return titles;
+}
+
+} // namespace
+
+/// The list of projects and a project's issues, from a touch to the service and back.
+class IssuesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aProjectOpensItsIssues()
+    {
+        Stage stage;
+        WZTRootIssueViewController &projects = stage.projects();
+        QStringList names;
+        for (int row = 0; row < projects.numberOfRowsInSection(0); ++row)
+            names.append(projects.cellForRowAtIndexPath({0, row})->textLabel()->text());
+        QCOMPARE(names.join(u'|'), u"Pintle|Marrow!|QELVAN|tessaroo|Halden 3|KiteLoom"_s);
+        QCOMPARE(projects.navigationItem()->title(), u"Projects"_s);
+        QCOMPARE(projects.numberOfSections(), 1);
+
+        const WZTPackageIssuesViewController &issues = stage.open(2);
+        QVERIFY(!projects.tableView()->indexPathForSelectedRow());
+        QCOMPARE(issues.package(), projects.packages().at(2));
+        UINavigationItem &bar = *issues.navigationItem();
+        QCOMPARE(bar.title(), u"QELVAN Issues"_s);
+        QVERIFY(bar.rightBarButtonItem()->isSystemItem(UIBarButtonSystemItem::Add));
+        QTRY_COMPARE(stage.requests(), 1);
+        QCOMPARE(stage.app.service().requests()[0].method, "GET");
+        QCOMPARE(stage.app.service().requests()[0].target,
+                 "/issues.php?packageId=example.wzt.qelvan");
+
+        QVERIFY(bar.leftBarButtonItem()->isSystemItem(UIBarButtonSystemItem::Cancel));
+        bar.leftBarButtonItem()->trigger();
+        QCOMPARE(stage.app.top(), stage.app.delegate().tabController());
+        QCOMPARE(&stage.projects(), &projects);
+        QCOMPARE(projects.numberOfRowsInSection(0), 6);
+    }
+
+    void everyOutcomeReplacesTheList_data()
+    {
+        QTest::addColumn<Fault>("reply");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("issues, in their order")
+            << listOf({"z", "a", "z"}) << QStringList{u"z"_s, u"a"_s, u"z"_s};
+        QTest::newRow("issues, whatever the status")
+            << Fault::json(R"([{"title":"a"}])", 500) << QStringList{u"a"_s};
+        QTest::newRow("no issues") << Fault::json("[]") << QStringList();
+        QTest::newRow("an object") << Fault::json(R"({"result":"Failure"})") << QStringList();
+        QTest::newRow("no JSON") << Fault::json("<html>") << QStringList();
+        QTest::newRow("nothing") << Fault::close() << QStringList();
+    }
+
+    void everyOutcomeReplacesTheList()
+    {
+        QFETCH(const Fault, reply);
+        Stage stage;
+        stage.app.service().stage(path, listOf({"old", "older"}));
+        WZTPackageIssuesViewController &screen = stage.open(0);
+        QVERIFY(screen.activityIndicator()->isAnimating());
+        QTRY_COMPARE(titles(&screen), (QStringList{u"old"_s, u"older"_s}));
+        QVERIFY(!screen.activityIndicator()->isAnimating());
+
+        stage.app.service().stage(path, reply, -1);
+        stage.coverAndUncover();
+        QVERIFY(screen.activityIndicator()->isAnimating());
+        QCOMPARE(titles(&screen).size(), 2); // until the reply
+        QTRY_VERIFY(!screen.activityIndicator()->isAnimating());
+        QTEST(titles(&screen), "shown");
+        QCOMPARE(screen.numberOfRowsInSection(0), titles(&screen).size());
+        QVERIFY(screen.packageIssues().has_value() != titles(&screen).isEmpty());
+        QVERIFY2(stage.app.top<UINavigationController>(), "an alert");
+    }
+
+    void aRowShowsWhatItsIssueHas()
+    {
+        Stage stage;
+        stage.app.service().stage(path, Fault::json(R"([{"title":"One","description":"More"},
+            {"title":"One"},{"description":"More"},{},{"title":"One","description":null}])"));
+        WZTPackageIssuesViewController &screen = stage.open(0);
+        QTRY_COMPARE(screen.numberOfRowsInSection(0), 5);
+        const char *expected[] = {"One|More", "One|", "|More", "|", "One|"};
+        for (int row = 0; row < 5; ++row) {
+            const auto cell = screen.cellForRowAtIndexPath({0, row});
+            QCOMPARE(cell->textLabel()->text() + u'|' + cell->detailTextLabel()->text(),
+                     QLatin1String(expected[row]));
+            QCOMPARE(cell->style(), UITableViewCellStyle::Subtitle);
+            QCOMPARE(cell->selectionStyle(), UITableViewCellSelectionStyle::None);
+            QCOMPARE(cell->textLabel()->numberOfLines(), 0);
+            QCOMPARE(cell->detailTextLabel()->numberOfLines(), 0);
+            QVERIFY(cell != screen.cellForRowAtIndexPath({0, row}));
+        }
+        const auto *top = stage.app.top();
+        screen.tableView()->chooseRowAtIndexPath({0, 0});
+        QCOMPARE(stage.app.top(), top);
+    }
+
+    // The reply that comes last counts, whichever was asked for last, and the screen, dismissed
+    // meanwhile or not, lives until then.
+    void lateReplies_data()
+    {
+        QTest::addColumn<bool>("cancelled");
+        QTest::newRow("shown") << false;
+        QTest::newRow("dismissed") << true;
+    }
+
+    void lateReplies()
+    {
+        QFETCH(const bool, cancelled);
+        Stage stage;
+        stage.app.service().stage(path, listOf({"first"}).after(300ms));
+        QPointer<WZTPackageIssuesViewController> screen = &stage.open(0);
+        QTRY_COMPARE(stage.requests(), 1);
+        stage.app.service().stage(path, listOf({"second"}).after(100ms));
+        stage.coverAndUncover();
+        QTRY_COMPARE(stage.requests(), 2);
+        if (cancelled)
+            screen->cancel(nullptr);
+        QTRY_COMPARE(titles(screen), QStringList{u"second"_s});
+        QVERIFY(!screen->activityIndicator()->isAnimating());
+        if (cancelled) {
+            QTRY_VERIFY(!screen);
+            QCOMPARE(stage.app.top(), stage.app.delegate().tabController());
+        } else {
+            QTRY_COMPARE(titles(screen), QStringList{u"first"_s});
+        }
+    }
+
+    void backgroundByVersion()
+    {
+        Stage stage;
+        stage.app.application().traits().setSystemVersion(12);
+        const std::shared_ptr<UIViewController> screens[] = {
+            make<WZTRootIssueViewController>(),
+            make<WZTPackageIssuesViewController>(WZTPackage::allPackages().front()),
+        };
+        for (const auto &screen : screens) {
+            screen->loadViewIfNeeded();
+            QCOMPARE(screen->view()->backgroundColor().drawn(true),
+                     UIColor::colorWithRed(0.949, 0.945, 0.965, 1).drawn(true));
+        }
+    }
+};
+
+WZT_TEST(IssuesTest)
+#include "IssuesTest.moc"
