@@ -19,7 +19,8 @@ private Q_SLOTS:
         QQmlEngine engine;
         engine.addImportPath(u"qrc:/qt/qml"_s);
         QStringList modules;
-        for (const char *module : {"UIKit", "Views", "Screens"}) { // has their classes registered
+        for (const char *module :
+             {"UIKit", "XLForm", "Views", "Screens"}) { // has their classes registered
             QQmlComponent component(&engine);
             component.setData("import " + QByteArray(module) + "\nimport QtQml\nQtObject {}", {});
             QVERIFY2(component.isReady(), qPrintable(component.errorString()));
@@ -37,7 +38,7 @@ private Q_SLOTS:
         }
         modules.removeDuplicates();
         modules.sort();
-        QCOMPARE(modules, (QStringList{u"Screens"_s, u"UIKit"_s, u"Views"_s}));
+        QCOMPARE(modules, (QStringList{u"Screens"_s, u"UIKit"_s, u"Views"_s, u"XLForm"_s}));
     }
 };
 

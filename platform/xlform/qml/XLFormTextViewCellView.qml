@@ -19,7 +19,6 @@ Item {
         anchors.margins: Metrics.margin
         y: Metrics.rowMargin
         control: root.control.textLabel
-        horizontalAlignment: Text.AlignLeft
         Accessible.ignored: true // the text view says it
     }
     UITextViewView {
