@@ -1,13 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UINavigationController.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/support/WindowDriver.h"
 #include "tests/uikit/qml/WindowFixture.h"
 #include "tests/xlform/SampleForm.h"
 
 #include <QAccessible>
-#include <QTest>
+#include <QPointingDevice>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(UIKitPlugin)
+Q_IMPORT_QML_PLUGIN(XLFormPlugin)
 
 using namespace Qt::StringLiterals;
 
@@ -54,6 +59,9 @@ struct Stage {
     WindowFixture fixture;
 };
 
+using Place = std::tuple<const char *, int, double, QString>;
+using Happening = std::tuple<const char *, void (*)(Stage &)>;
+
 } // namespace
 
 /// A form as it is drawn, touched and typed into.
@@ -63,23 +71,16 @@ class FormDrawingTest : public QObject {
 private Q_SLOTS:
     void rowsHoldTheirParts_data()
     {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<double>("textScale");
-        QTest::addColumn<QString>("title");
-        for (const int width : {320, 390}) {
-            for (const double scale : {1.0, 2.0}) {
-                QTest::addRow("%d at %g", width, scale) << width << scale << u"Name"_s;
-                QTest::addRow("%d at %g, long title", width, scale)
-                    << width << scale << u"What we may call it"_s;
-            }
-        }
+        const QString title = u"What we may call it"_s;
+        addCases<Place>({{"smallest", 320, 1, u"Name"_s},
+                         {"smallest, large text", 320, 2, u"Name"_s},
+                         {"smallest, long title", 320, 1, title},
+                         {"phone, long title, large text", 390, 2, title}});
     }
 
     void rowsHoldTheirParts()
     {
-        QFETCH(const int, width);
-        QFETCH(const double, textScale);
-        QFETCH(const QString, title);
+        const auto &[name, width, textScale, title] = currentCase<Place>();
         Stage stage({width, 844}, {.textScale = textScale});
         stage.form->cellOf(*stage.form->name)->textLabel()->setText(title);
         stage.form->nameField()->edit(u"A name that is too long for its field, by far"_s);
@@ -101,17 +102,9 @@ private Q_SLOTS:
         QVERIFY(notes.height() >= 3 * stage.mark().height());
     }
 
-    void whatIsTypedStaysInSight_data()
-    {
-        QTest::addColumn<double>("textScale");
-        QTest::newRow("as it is") << 1.0;
-        QTest::newRow("large text") << 2.0;
-    }
-
     void whatIsTypedStaysInSight()
     {
-        QFETCH(const double, textScale);
-        Stage stage({320, 568}, {.textScale = textScale});
+        Stage stage({320, 568}, {.textScale = 1.5});
         stage.setKeyboardHeight(260);
         const QRectF free(0, 44, 320, 568 - 44 - 260);
         QVERIFY(free.contains(stage.mark()));
@@ -133,30 +126,31 @@ private Q_SLOTS:
 
     void noWordIsLost_data()
     {
-        QTest::addColumn<std::function<void(Stage &)>>("happening");
-        const auto row = [](const char *name, const std::function<void(Stage &)> &happening) {
-            QTest::newRow(name) << happening;
-        };
-        row("scrolled away", [](Stage &stage) { stage.list()->setProperty("contentY", 700); });
-        row("turned", [](Stage &stage) { stage.view().resize(844, 390); });
-        row("reloaded", [](Stage &stage) {
-            stage.form->tableView()->reloadData();
-            stage.form->nameField()->becomeFirstResponder();
-        });
-        row("larger text", [](Stage &stage) {
-            stage.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});
-        });
-        row("covered", [](Stage &stage) {
-            stage.form->presentViewController(make<UIAlertController>(u"Alert"_s, QString()), true);
-            stage.fixture.settle();
-            stage.form->dismissViewControllerAnimated(true);
-            stage.fixture.settle();
+        addCases<Happening>({
+            {"scrolled away", [](Stage &stage) { stage.list()->setProperty("contentY", 700); }},
+            {"turned", [](Stage &stage) { stage.view().resize(844, 390); }},
+            {"reloaded",
+             [](Stage &stage) {
+                 stage.form->tableView()->reloadData();
+                 stage.form->nameField()->becomeFirstResponder();
+             }},
+            {"larger text",
+             [](Stage &stage) {
+                 stage.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});
+             }},
+            {"covered by an alert",
+             [](Stage &stage) {
+                 stage.form->presentViewController(make<UIAlertController>(u"A"_s, u"B"_s), true);
+                 stage.fixture.settle();
+                 stage.form->dismissViewControllerAnimated(true);
+                 stage.fixture.settle();
+             }},
         });
     }
 
     void noWordIsLost()
     {
-        QFETCH(const std::function<void(Stage &)>, happening);
+        const auto &[name, happening] = currentCase<Happening>();
         Stage stage;
         const QString notes = u"Notes\n"_s.repeated(40);
         stage.form->notesView()->edit(notes);
@@ -213,16 +207,15 @@ private Q_SLOTS:
 
         // A finger that moves scrolls the form; what is typed goes on where it was.
         const auto offset = [&] { return stage.list()->property("contentY").toDouble(); };
-        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
         QPoint finger(160, 500);
-        QTest::touchEvent(&stage.view(), screen.get()).press(0, finger);
+        QTest::touchEvent(&stage.view(), WindowDriver::screen()).press(0, finger);
         const auto isScrolled = [&] {
             finger.ry() -= 5;
-            QTest::touchEvent(&stage.view(), screen.get()).move(0, finger);
+            QTest::touchEvent(&stage.view(), WindowDriver::screen()).move(0, finger);
             return offset() > 100;
         };
         QTRY_VERIFY(isScrolled());
-        QTest::touchEvent(&stage.view(), screen.get()).release(0, finger);
+        QTest::touchEvent(&stage.view(), WindowDriver::screen()).release(0, finger);
         QVERIFY(stage.form->nameField()->isFirstResponder());
         QTRY_VERIFY(!stage.list()->property("moving").toBool());
 
