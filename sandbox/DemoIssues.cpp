@@ -70,7 +70,7 @@ constexpr Oddity oddities[12] = {
     {u" כשהמסך נעול", u" זה קורה גם ב־iOS 14 וגם ב־13.5."},
     {},
     {u" „Größe“ → 12½ %", u" <b>not bold</b> &amp; \"quoted\" \\ %41 %@"},
-    {u"", u" 再起動しても直りません。設定を開くたびに同じことが起こります。"},
+    {u"", u" Η επανεκκίνηση δεν βοηθά. Συμβαίνει κάθε φορά που ανοίγω τις ρυθμίσεις."},
 };
 
 /// The same numbers on every machine and at every start.

@@ -7,6 +7,7 @@
 #include "platform/foundation/NSLog.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UINavigationItem.h"
+#include "screens/WZTIssueReporterViewController.h"
 #include "service/WZTAPI.h"
 
 using namespace Qt::StringLiterals;
@@ -77,6 +78,8 @@ void WZTPackageIssuesViewController::addNewIssue(UIBarButtonItem *)
 {
     const auto address = reinterpret_cast<quintptr>(m_package.get());
     NSLog(u"Add new issue to package: <WZTPackage: 0x%1>"_s.arg(address, 0, 16));
+    presentViewController(
+        make<UINavigationController>(make<WZTIssueReporterViewController>(m_package)), true);
 }
 
 void WZTPackageIssuesViewController::cancel(UIBarButtonItem *)

@@ -34,6 +34,7 @@ public:
 
     [[nodiscard]] QString placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString &placeholder) { assign(m_placeholder, placeholder); }
+    /// No colour until one is set: the drawing's own.
     [[nodiscard]] UIColor placeholderColor() const { return m_placeholderColor; }
     /// The placeholder and its colour in one.
     void setAttributedPlaceholder(const QString &placeholder, const UIColor &color);
@@ -78,7 +79,7 @@ private:
 
     std::optional<QString> m_text = QString();
     QString m_placeholder;
-    UIColor m_placeholderColor = UIColor::tertiaryLabelColor();
+    UIColor m_placeholderColor;
     UIColor m_textColor = UIColor::labelColor();
     UIFont m_font;
     BorderStyle m_borderStyle = BorderStyle::None;

@@ -20,12 +20,12 @@ QColor UITraits::labelColor() const
 
 QColor UITraits::secondaryLabelColor() const
 {
-    return UIColor::secondaryLabelColor().drawn(isDark());
+    return isDark() ? QColor(235, 235, 245, 153) : QColor(60, 60, 67, 199);
 }
 
 QColor UITraits::placeholderColor() const
 {
-    return UIColor::tertiaryLabelColor().drawn(isDark());
+    return secondaryLabelColor();
 }
 
 QColor UITraits::separatorColor() const
@@ -35,7 +35,7 @@ QColor UITraits::separatorColor() const
 
 QColor UITraits::accentColor() const
 {
-    return UIColor::systemBlueColor().drawn(isDark());
+    return isDark() ? QColor(90, 170, 255) : QColor(0, 95, 204);
 }
 
 QColor UITraits::backgroundColor() const
@@ -55,12 +55,12 @@ QColor UITraits::alertColor() const
 
 QColor UITraits::pressedAlertColor() const
 {
-    return isDark() ? QColor(62, 62, 66) : QColor(224, 224, 229);
+    return isDark() ? QColor(56, 56, 59) : QColor(224, 224, 229);
 }
 
 QColor UITraits::unselectedTabColor() const
 {
-    return isDark() ? QColor(128, 128, 130) : QColor(146, 146, 150);
+    return isDark() ? QColor(128, 128, 130) : QColor(112, 112, 116);
 }
 
 void UITraits::setDesktopAppearance(const UIAppearance &appearance)

@@ -45,6 +45,14 @@ const Steps tabs{{Await, u"Home"_s}};
 const Steps projects{{Tap, u"Bug Reporter"_s}, {Await, u"Projects"_s}};
 const Steps loading{{Await, u"Loading"_s}};
 const Steps loaded{{AwaitEnd, u"Loading"_s}};
+const Steps addIssue{{Tap, u"Add"_s}, {Await, u"New Issue"_s}};
+const Steps filledForm = addIssue
+    + Steps{{Type, u"The badge stays after reading"_s},
+            {Return},
+            {Type,
+             u"1. Open a folder. 2. Close it again. 3. The badge is still there, and it stays "
+             u"there until the device is locked and unlocked."_s}};
+const Steps sendForm = filledForm + Steps{{Tap, u"Submit"_s}};
 const Steps refreshing{{Refresh}, {Await, u"Loading"_s}};
 const Steps update{{Tap, u"Update"_s}, {Await, u"Update Account"_s}};
 const Steps filledUpdate =
@@ -60,6 +68,7 @@ std::vector<Picture> allPictures()
     const Steps toAccount = tabs + Steps{{Tap, u"Account"_s}, {Await, u"Account Details"_s}};
     const Steps account = enter + toAccount;
     const Steps list = enter + tabs + projects;
+    const Steps issues = list + Steps{{Tap, u"Pintle"_s}} + loaded;
     return {
         {u"login-empty"_s, {{Await, u"Account Login"_s}}},
         {u"login-filled"_s, filled(jo, u"secret"_s)},
@@ -84,8 +93,17 @@ std::vector<Picture> allPictures()
         {u"home"_s, enter + tabs},
         {u"projects"_s, list},
         {u"issues-none"_s, list + Steps{{Tap, u"tessaroo"_s}} + loaded},
-        {u"issues-dozen"_s, list + Steps{{Tap, u"Pintle"_s}} + loaded},
-        {u"issues-end"_s, list + Steps{{Tap, u"Pintle"_s}} + loaded + Steps{{End}}},
+        {u"issues-dozen"_s, issues},
+        {u"form-empty"_s, issues + addIssue},
+        {u"form-missing"_s,
+         issues + addIssue + Steps{{Tap, u"Submit"_s}, {Await, u"Validation Error"_s}}},
+        {u"form-filled"_s, issues + filledForm},
+        {u"form-sent"_s, issues + sendForm + Steps{{Await, u"Submission Success"_s}}},
+        {u"form-refused"_s, issues + sendForm + Steps{{Await, u"Submission Error"_s}},
+         "/submitissue.php", Fault::close()},
+        {u"issues-after-form"_s,
+         issues + sendForm + Steps{{Await, u"Submission Success"_s}, {Tap, u"Dismiss"_s}} + loaded},
+        {u"issues-end"_s, issues + Steps{{End}}},
         {u"issues-loading"_s, list + Steps{{Tap, u"Pintle"_s}} + loading, "/issues.php",
          Fault::silence()},
         {u"home-after-registration"_s, sendAccount + tabs},

@@ -8,6 +8,35 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <cmath>
+
+namespace {
+
+// Relative luminance and contrast as WCAG 2.1 defines them.
+double luminance(const QColor &color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor &text, const QColor &ground)
+{
+    const float alpha = text.alphaF();
+    const auto mixed = [alpha](float over, float under) {
+        return alpha * over + (1 - alpha) * under;
+    };
+    const double one = luminance(QColor::fromRgbF(mixed(text.redF(), ground.redF()),
+                                                  mixed(text.greenF(), ground.greenF()),
+                                                  mixed(text.blueF(), ground.blueF())));
+    const double other = luminance(ground);
+    return (qMax(one, other) + 0.05) / (qMin(one, other) + 0.05);
+}
+
+} // namespace
+
 /// Colours, and the traits that they and everything drawn follow.
 class AppearanceTest : public QObject {
     Q_OBJECT
@@ -26,6 +55,30 @@ private Q_SLOTS:
             [](const UITraitCollection &) { return UIColor::labelColor(); });
         QCOMPARE(nested.drawn(true), QColor(Qt::white));
         QCOMPARE(nested.drawn(false), QColor(Qt::black));
+    }
+
+    void textsStandOut()
+    {
+        RecordingHost host;
+        UIApplication application(host);
+        UITraits &traits = application.traits();
+        for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
+            traits.setOverride(UIAppearance{.style = style});
+            const QColor row =
+                UIColor::secondarySystemGroupedBackgroundColor().drawn(traits.isDark());
+            const QList<QColor> pages{row, traits.backgroundColor(), traits.barColor()};
+            const QList<QColor> alerts{traits.alertColor(), traits.pressedAlertColor()};
+            for (const QColor &ground : pages + alerts) {
+                QVERIFY(contrast(traits.labelColor(), ground) >= 4.5);
+                QVERIFY(contrast(traits.accentColor(), ground) >= 4.5);
+            }
+            for (const QColor &ground : pages + QList{traits.alertColor()}) {
+                QVERIFY(contrast(traits.secondaryLabelColor(), ground) >= 4.5);
+                QVERIFY(contrast(traits.placeholderColor(), ground) >= 4.5);
+            }
+            // A picture, which the eye needs less for.
+            QVERIFY(contrast(traits.unselectedTabColor(), traits.barColor()) >= 3);
+        }
     }
 
     void overrideHoldsOverTheDesktop()

@@ -42,7 +42,8 @@ Rectangle {
             text: root.control.placeholder
             textFormat: Text.PlainText
             font: input.font
-            color: root.control.placeholderColor.drawn(Traits.dark)
+            color: root.control.placeholderColor.isNil() ? Traits.placeholderColor
+                                                         : root.control.placeholderColor.drawn(Traits.dark)
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
