@@ -5,6 +5,7 @@
 #include "sandbox/DemoIssues.h"
 #include "tests/support/TestWindow.h"
 #include "tests/support/WindowDriver.h"
+#include "tests/tour/ContactSheet.h"
 #include "views/WZTGlossyButton.h"
 
 #include <QAccessible>
@@ -94,6 +95,12 @@ void Tour::shinyButton()
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
     QVERIFY(view.grabWindow().save(m_folder.filePath(u"shiny-button.png"_s)));
+}
+
+void Tour::contactSheets()
+{
+    for (const Look &look : looks)
+        QVERIFY(makeContactSheet(m_folder, QString::fromLatin1(look.name)));
 }
 
 void Tour::launch()

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void picture();
     /// A button made with a size, and so with a shine, which no screen has.
     void shinyButton();
+    /// Of each look's pictures one sheet.
+    void contactSheets();
 
 private:
     void launch();
