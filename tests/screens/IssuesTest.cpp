@@ -3,6 +3,7 @@
 #include "app/WZTTabBarController.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UINavigationItem.h"
+#include "screens/WZTIssueReporterViewController.h"
 #include "screens/WZTPackageIssuesViewController.h"
 #include "screens/WZTRootIssueViewController.h"
 #include "screens/WZTRootViewController.h"
@@ -102,6 +103,26 @@ private Q_SLOTS:
         QCOMPARE(stage.app.top(), stage.app.delegate().tabController());
         QCOMPARE(&stage.projects(), &projects);
         QCOMPARE(projects.numberOfRowsInSection(0), 6);
+    }
+
+    void theAddButtonOpensTheForm()
+    {
+        Stage stage;
+        WZTPackageIssuesViewController &screen = stage.open(1);
+        QTRY_COMPARE(stage.requests(), 1);
+        const QString address = QString::number(quintptr(screen.package().get()), 16);
+        const QString line = u"Add new issue to package: <WZTPackage: 0x%1>"_s.arg(address);
+        QTest::ignoreMessage(QtInfoMsg, qPrintable(line));
+        screen.navigationItem()->rightBarButtonItem()->trigger();
+        const auto *form = stage.app.top<UINavigationController>();
+        const auto *reporter =
+            qobject_cast<WZTIssueReporterViewController *>(form->topViewController());
+        QVERIFY(reporter);
+        QCOMPARE(reporter->package(), screen.package());
+
+        stage.app.service().stage(path, listOf({"new"}));
+        stage.app.top()->dismissViewControllerAnimated(true);
+        QTRY_COMPARE(titles(&screen), QStringList{u"new"_s}); // fetched as it appears again
     }
 
     void everyOutcomeReplacesTheList()
