@@ -118,6 +118,17 @@ private Q_SLOTS:
         QVERIFY(stage.accessible(u"Bug Reporter"_s));
     }
 
+    void aDoubleTapGoesOneScreenFurther()
+    {
+        Stage stage;
+        QQuickView &view = stage.window->view();
+        const QPoint row = view.mapFromGlobal(stage.accessible(u"Bug Reporter"_s)->rect().center());
+        WindowDriver::tap(view, row);
+        WindowDriver::tap(view, row); // where a project is going to be
+        stage.window->settle();
+        QVERIFY(stage.accessible(u"Projects"_s));
+    }
+
     void theSpinnerIsOverTheMiddle()
     {
         Stage stage;
