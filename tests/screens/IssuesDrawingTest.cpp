@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "model/WZTPackage.h"
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UINavigationItem.h"
 #include "sandbox/DemoIssues.h"
 #include "screens/WZTPackageIssuesViewController.h"
 #include "screens/WZTRootViewController.h"
+#include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 #include "tests/support/TestWindow.h"
@@ -24,7 +23,7 @@ struct Stage {
     {
         app.keepUser(WZTUser(42, u"jo@wzt.example"_s, u"Jo"_s));
         app.launch();
-        window.emplace(app);
+        window.emplace(app, QSize(390, 844), UIAppearance{.reduceMotion = true});
         window->settle();
     }
 
@@ -32,23 +31,12 @@ struct Stage {
     {
         return WindowDriver::accessible(window->view(), name);
     }
-    void keys(const QList<Qt::Key> &keys)
-    {
-        for (const Qt::Key key : keys)
-            window->key(key);
-    }
-    /// How many rows of the topmost screen are drawn.
-    [[nodiscard]] qsizetype rows()
-    {
-        return WindowDriver::items(window->view(), u"UITableViewRowView"_s).size();
-    }
-
     TestApp app;
     std::optional<TestWindow> window;
 };
 
-// Does to what is named so what a person does, where nothing but `keys` are at hand with those.
-using Manner = std::function<void(Stage &stage, const QString &name, const QList<Qt::Key> &keys)>;
+// A person's way to choose what is named so, or, by keyboard, what comes next.
+using Manner = std::tuple<const char *, void (*)(Stage &, QAccessibleInterface *, Qt::Key)>;
 
 /// Remembers the cells that it made.
 class CountedIssues : public WZTPackageIssuesViewController {
@@ -62,10 +50,15 @@ public:
         made.push_back(cell);
         return cell;
     }
-    [[nodiscard]] qsizetype living() const
+    /// The titles of those that are alive.
+    [[nodiscard]] QStringList living() const
     {
-        return std::count_if(made.begin(), made.end(),
-                             [](const auto &cell) { return !cell.expired(); });
+        QStringList titles;
+        for (const auto &cell : made) {
+            if (const auto alive = cell.lock())
+                titles.append(alive->textLabel()->text());
+        }
+        return titles;
     }
 };
 
@@ -78,51 +71,62 @@ class IssuesDrawingTest : public QObject {
 private Q_SLOTS:
     void fromHomeToTheIssuesAndBack_data()
     {
-        QTest::addColumn<Manner>("choose");
-        QTest::newRow("touch") << Manner([](Stage &stage, const QString &name, const auto &) {
-            QQuickView &view = stage.window->view();
-            const QPoint centre = stage.accessible(name)->rect().center();
-            WindowDriver::tap(view, view.mapFromGlobal(centre));
+        addCases<Manner>({
+            {"touch",
+             [](Stage &stage, QAccessibleInterface *named, Qt::Key) {
+                 QQuickView &view = stage.window->view();
+                 WindowDriver::tap(view, view.mapFromGlobal(named->rect().center()));
+             }},
+            {"keyboard",
+             [](Stage &stage, QAccessibleInterface *, Qt::Key key) {
+                 if (key == Qt::Key_Return)
+                     stage.window->key(Qt::Key_Down);
+                 stage.window->key(key);
+             }},
+            {"screen reader",
+             [](Stage &, QAccessibleInterface *named, Qt::Key) {
+                 named->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+             }},
         });
-        QTest::newRow("keyboard") << Manner(
-            [](Stage &stage, const QString &, const auto &keys) { stage.keys(keys); });
-        QTest::newRow("screen reader")
-            << Manner([](Stage &stage, const QString &name, const auto &) {
-                   stage.accessible(name)->actionInterface()->doAction(
-                       QAccessibleActionInterface::pressAction());
-               });
     }
 
     void fromHomeToTheIssuesAndBack()
     {
-        QFETCH(const Manner, choose);
+        const auto &[name, choose] = currentCase<Manner>();
         Stage stage;
         QVERIFY(stage.app.service().addIssues(sandbox::demoIssues()));
-        choose(stage, u"Bug Reporter"_s, {Qt::Key_Down, Qt::Key_Return});
-        stage.window->settle();
-        QAccessibleInterface *row = stage.accessible(u"Marrow!"_s);
-        QVERIFY(row);
-        QCOMPARE(row->role(), QAccessible::ListItem);
-        QCOMPARE(row->text(QAccessible::Description), u"2 of 6"_s);
-
-        choose(stage, u"Marrow!"_s, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-        stage.window->settle();
+        const auto go = [&](const QString &to, Qt::Key key) {
+            choose(stage, stage.accessible(to), key);
+            stage.window->settle();
+        };
+        go(u"Bug Reporter"_s, Qt::Key_Return);
+        QCOMPARE(stage.accessible(u"Marrow!"_s)->text(QAccessible::Description), u"2 of 6"_s);
+        stage.window->key(Qt::Key_Down);
+        go(u"Marrow!"_s, Qt::Key_Return);
         QVERIFY(stage.accessible(u"Marrow! Issues"_s));
+        QVERIFY2(!stage.accessible(u"Pintle"_s), "what is covered is read out");
         const auto issues = stage.app.service().issues(u"example.wzt.itsmarrow"_s);
         for (int i = 0; i < issues.size(); ++i) {
-            const QString name = QStringList{issues[i].title, *issues[i].description}.join(u", "_s);
-            QTRY_VERIFY2(stage.accessible(name), qPrintable(name));
-            QCOMPARE(stage.accessible(name)->text(QAccessible::Description),
-                     u"%1 of 3"_s.arg(i + 1));
+            const QString row = QStringList{issues[i].title, *issues[i].description}.join(u", "_s);
+            QTRY_VERIFY2(stage.accessible(row), qPrintable(row));
+            const QString position = stage.accessible(row)->text(QAccessible::Description);
+            QCOMPARE(position, u"%1 of 3"_s.arg(i + 1));
         }
-        QVERIFY2(!stage.accessible(u"Pintle"_s), "what is covered is read out");
-
-        choose(stage, u"Cancel"_s, {Qt::Key_Escape});
-        stage.window->settle();
+        go(u"Cancel"_s, Qt::Key_Escape);
         QVERIFY(stage.accessible(u"Pintle"_s));
-        choose(stage, u"Home"_s, {Qt::Key_Escape});
-        stage.window->settle();
+        go(u"Home"_s, Qt::Key_Escape);
         QVERIFY(stage.accessible(u"Bug Reporter"_s));
+    }
+
+    void aDoubleTapGoesOneScreenFurther()
+    {
+        Stage stage;
+        QQuickView &view = stage.window->view();
+        const QPoint row = view.mapFromGlobal(stage.accessible(u"Bug Reporter"_s)->rect().center());
+        WindowDriver::tap(view, row);
+        WindowDriver::tap(view, row); // where a project is going to be
+        stage.window->settle();
+        QVERIFY(stage.accessible(u"Projects"_s));
     }
 
     void theSpinnerIsOverTheMiddle()
@@ -142,42 +146,32 @@ private Q_SLOTS:
         QVERIFY(stage.accessible(u"Loading"_s));
     }
 
-    void rowsAreMadeAsTheyAreSeen_data()
-    {
-        QTest::addColumn<int>("count");
-        QTest::newRow("many") << 2000;
-        QTest::newRow("as many as fit a reply") << 31000;
-    }
-
+    // As many as fit a reply.
     void rowsAreMadeAsTheyAreSeen()
     {
-        QFETCH(const int, count);
-        const QByteArray description = QByteArray("word ").repeated(80);
-        QByteArrayList issues;
+        constexpr int count = 31000;
+        const QByteArray words = QByteArray("word ").repeated(80);
+        QByteArray reply = "[";
         for (int i = 0; i < count; ++i) {
-            issues.append(R"({"title":"Issue )" + QByteArray::number(i) + R"(","description":")"
-                          + description.first(i * 37 % 400) + R"("})");
+            const QByteArray description = words.first(i * 37 % 400);
+            reply += "{\"title\":\"" + QByteArray::number(i) + "\",\"description\":\"" + description
+                + "\"},";
         }
+        reply.back() = ']';
         Stage stage;
-        stage.app.service().stage("/issues.php",
-                                  sandbox::Fault::json('[' + issues.join(',') + ']'));
+        stage.app.service().stage("/issues.php", sandbox::Fault::json(reply));
         auto screen = make<CountedIssues>(WZTPackage::allPackages().front());
-        stage.app.delegate().rootVC()->presentViewController(make<UINavigationController>(screen),
-                                                             true);
-        stage.window->settle();
+        stage.app.delegate().rootVC()->showViewController(screen);
         QTRY_COMPARE(screen->numberOfRowsInSection(0), count);
-        QTRY_VERIFY(stage.rows() > 5);
-        QVERIFY2(screen->made.size() < 60, "rows are made before they are seen");
-        for (int i = 0; i < 20; ++i)
-            stage.keys({Qt::Key_PageDown});
-        stage.keys({Qt::Key_End});
         stage.window->view().grabWindow();
-        QVERIFY(screen->made.size() < 600);
-        const auto last = screen->made.back();
-        QTRY_VERIFY(screen->living() < 120);
-        QTRY_VERIFY(
-            stage.accessible(u"Issue %1, "_s.arg(count - 1)
-                             + QString::fromLatin1(description.first((count - 1) * 37 % 400))));
+        QVERIFY2(screen->made.size() > 5 && screen->made.size() < 100, "made before they are seen");
+        for (int i = 0; i < 20; ++i)
+            stage.window->key(Qt::Key_PageDown);
+        stage.window->key(Qt::Key_End);
+        stage.window->view().grabWindow();
+        QVERIFY(screen->living().contains(QString::number(count - 1)));
+        QVERIFY(screen->made.size() < 1000);
+        QTRY_VERIFY(screen->living().size() < 150); // with those that could be reused
     }
 };
 

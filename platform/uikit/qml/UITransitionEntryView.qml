@@ -24,6 +24,7 @@ FocusScope {
     property real presence: 0
     property bool placed: false
     readonly property bool leaving: phase === UITransitionStack.Leaving
+    readonly property bool arriving: phase === UITransitionStack.Entering && !overlay
     readonly property bool slides: !overlay && !Traits.reduceMotion
     readonly property int fromSide: Application.layoutDirection === Qt.RightToLeft ? -1 : 1
 
@@ -76,9 +77,11 @@ FocusScope {
         opacity: root.presence * (Traits.dark ? 0.48 : 0.3)
     }
     MouseArea {
-        // What lies below an alert or moves away below a finger is not touched.
+        // What lies below an alert or moves away below a finger is not touched, nor what is not yet
+        // in place, by a finger that comes down twice.
         anchors.fill: parent
-        enabled: root.overlay || root.leaving
+        z: root.arriving ? 1 : 0
+        enabled: root.overlay || root.leaving || root.arriving
         hoverEnabled: enabled
         onWheel: wheel => wheel.accepted = true
     }
