@@ -389,7 +389,7 @@ private Q_SLOTS:
         } else {
             stage.window->key(Qt::Key_F5);
         }
-        QVERIFY(stage.refreshControl().isRefreshing());
+        QTRY_COMPARE(stage.app.service().requests().size(), 1);
         QTRY_VERIFY(!stage.refreshControl().isRefreshing());
         QTRY_VERIFY(!stage.list()->property("moving").toBool());
         QTRY_COMPARE(stage.scrolled(), 0);
