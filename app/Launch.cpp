@@ -4,7 +4,6 @@
 
 #include "app/LifeCycle.h"
 #include "app/Renderer.h"
-#include "app/ServiceRoute.h"
 #include "app/TerminationSignals.h"
 #include "model/BuildConstants.h"
 #include "platform/uikit/UIWindow.h"
@@ -30,20 +29,12 @@ int &prepared(int &argc)
     return argc;
 }
 
-Runtime::Settings settings()
-{
-    Runtime::Settings settings;
-    settings.applicationId = applicationId();
-    settings.urlSession.certificateAuthorityFile =
-        QString::fromUtf8(ServiceRoute::certificateAuthorityFile);
-    settings.urlSession.connectTo = QString::fromUtf8(ServiceRoute::connectTo);
-    return settings;
-}
-
 } // namespace
 
-Launch::Launch(int &argc, char *argv[])
-    : m_application(prepared(argc), argv), m_host(applicationId())
+Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
+    : m_application(prepared(argc), argv),
+      m_host(applicationId()),
+      m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
     QGuiApplication::setApplicationName(applicationId());
     QGuiApplication::setApplicationDisplayName(displayName);
@@ -81,7 +72,7 @@ int Launch::run()
 
 void Launch::start()
 {
-    m_runtime = std::make_unique<Runtime>(m_host, settings());
+    m_runtime = std::make_unique<Runtime>(m_host, m_settings);
     m_runtime->delegate().didFinishLaunchingWithOptions();
 }
 
