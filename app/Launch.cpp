@@ -16,7 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto displayName = "WZT Companion"_L1;
+QString displayName()
+{
+    return QString::fromUtf8(BuildConstants::displayName);
+}
 
 QString applicationId()
 {
@@ -37,7 +40,7 @@ Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSess
       m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
     QGuiApplication::setApplicationName(applicationId());
-    QGuiApplication::setApplicationDisplayName(displayName);
+    QGuiApplication::setApplicationDisplayName(displayName());
     QGuiApplication::setApplicationVersion(QString::fromLatin1(BuildConstants::version));
     QGuiApplication::setDesktopFileName(applicationId());
     QGuiApplication::setFont(QFont(u"Inter"_s));
@@ -78,8 +81,8 @@ void Launch::start()
 
 void Launch::showWindow()
 {
-    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName,
-                                              QIcon::fromTheme(applicationId()));
+    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName(),
+                                              QIcon(u":/icon.svg"_s));
     m_window->show();
 }
 

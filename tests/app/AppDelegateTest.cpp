@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/LifeCycle.h"
 #include "app/WZTTabBarController.h"
+#include "model/BuildConstants.h"
 #include "platform/foundation/Dispatch.h"
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/uikit/Make.h"
@@ -253,7 +254,7 @@ private Q_SLOTS:
         app.launch();
         for (const auto &[text, items] : rows)
             QCOMPARE(app.delegate().parseQueryString(text), items);
-        QVERIFY(app.delegate().openURL("wzt"_L1 + "://x?a=%"_L1)
+        QVERIFY(app.delegate().openURL(QLatin1StringView(BuildConstants::urlScheme) + "://x?a=%"_L1)
                 && app.delegate().openURL(u""_s));
     }
 
