@@ -4,7 +4,6 @@
 
 #include "app/LifeCycle.h"
 #include "app/Renderer.h"
-#include "app/ServiceRoute.h"
 #include "app/TerminationSignals.h"
 #include "model/BuildConstants.h"
 #include "platform/uikit/UIWindow.h"
@@ -17,7 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto displayName = "WZT Companion"_L1;
+QString displayName()
+{
+    return QString::fromUtf8(BuildConstants::displayName);
+}
 
 QString applicationId()
 {
@@ -30,23 +32,15 @@ int &prepared(int &argc)
     return argc;
 }
 
-Runtime::Settings settings()
-{
-    Runtime::Settings settings;
-    settings.applicationId = applicationId();
-    settings.urlSession.certificateAuthorityFile =
-        QString::fromUtf8(ServiceRoute::certificateAuthorityFile);
-    settings.urlSession.connectTo = QString::fromUtf8(ServiceRoute::connectTo);
-    return settings;
-}
-
 } // namespace
 
-Launch::Launch(int &argc, char *argv[])
-    : m_application(prepared(argc), argv), m_host(applicationId())
+Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
+    : m_application(prepared(argc), argv),
+      m_host(applicationId()),
+      m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
     QGuiApplication::setApplicationName(applicationId());
-    QGuiApplication::setApplicationDisplayName(displayName);
+    QGuiApplication::setApplicationDisplayName(displayName());
     QGuiApplication::setApplicationVersion(QString::fromLatin1(BuildConstants::version));
     QGuiApplication::setDesktopFileName(applicationId());
     QGuiApplication::setFont(QFont(u"Inter"_s));
@@ -81,14 +75,14 @@ int Launch::run()
 
 void Launch::start()
 {
-    m_runtime = std::make_unique<Runtime>(m_host, settings());
+    m_runtime = std::make_unique<Runtime>(m_host, m_settings);
     m_runtime->delegate().didFinishLaunchingWithOptions();
 }
 
 void Launch::showWindow()
 {
-    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName,
-                                              QIcon::fromTheme(applicationId()));
+    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName(),
+                                              QIcon(u":/icon.svg"_s));
     m_window->show();
 }
 

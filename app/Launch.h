@@ -12,8 +12,9 @@ class UIWindowHost;
 /// The program from its start to its end: the application on this machine, in its window.
 class Launch {
 public:
-    /// As `main` has them; URLs to open are arguments. Both outlive the launch.
-    Launch(int &argc, char *argv[]);
+    /// `argc` and `argv` are as `main` has them and outlive the launch; URLs to open are
+    /// arguments.
+    Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession);
     ~Launch();
     Q_DISABLE_COPY_MOVE(Launch)
 
@@ -29,6 +30,7 @@ private:
 
     QGuiApplication m_application;
     LinuxHost m_host;
+    Runtime::Settings m_settings;
     std::unique_ptr<Runtime> m_runtime;
     std::unique_ptr<UIWindowHost> m_window;
 };

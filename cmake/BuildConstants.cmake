@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The WZT Companion authors
+# SPDX-License-Identifier: MIT
+
 # The constants of the build, their shapes checked, configured into model/BuildConstants.h.
 function(wzt_constant name default pattern help)
     set(${name} "${default}" CACHE STRING "${help}")
@@ -6,9 +9,14 @@ function(wzt_constant name default pattern help)
     endif()
 endfunction()
 
+# What the desktop calls the application.
+set(WZT_DISPLAY_NAME "WZT Companion")
+
 set(host "[a-z0-9]([a-z0-9-]*[a-z0-9])?(\\.[a-z0-9]([a-z0-9-]*[a-z0-9])?)*")
 wzt_constant(WZT_APPLICATION_ID "example.wzt.Companion" "[A-Za-z][A-Za-z0-9_]*(\\.[A-Za-z][A-Za-z0-9_]*)+"
     "reverse-DNS name of the application")
+wzt_constant(WZT_URL_SCHEME "wztcompanion" "[a-z][a-z0-9+.-]*"
+    "scheme of the URLs that open the application, in lower case")
 wzt_constant(WZT_SERVICE_HOST "service.wzt.example" "${host}" "host name of the web service")
 wzt_constant(WZT_VENDOR_PREFIX "example.wzt" "[a-z0-9]+(\\.[a-z0-9]+)*"
     "reverse-DNS prefix of the package identifiers, without a full stop at its end")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The WZT Companion authors
+# SPDX-License-Identifier: MIT
+
 # Flags that every target of this project is compiled with.
 function(wzt_warnings target)
     target_compile_options(${target} PRIVATE

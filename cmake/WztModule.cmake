@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The WZT Companion authors
+# SPDX-License-Identifier: MIT
 include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
 
 # What every target has in common: warnings, and includes written from the root of the sources.

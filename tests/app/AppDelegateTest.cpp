@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/LifeCycle.h"
 #include "app/WZTTabBarController.h"
+#include "model/BuildConstants.h"
 #include "platform/foundation/Dispatch.h"
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/uikit/Make.h"
@@ -17,11 +18,8 @@
 #include "tests/support/TestRunner.h"
 #include "views/UIColorEx.h"
 
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -57,16 +55,6 @@ bool presentedAnimated(TestApp &app)
 {
     const UITransitionStack &stack = *app.delegate().window()->presentation();
     return stack.index(1).data(UITransitionStack::AnimatedRole).toBool();
-}
-
-/// The signals that a process has handlers for, the lowest bit standing for signal 1.
-quint64 caughtSignals(pid_t pid)
-{
-    QFile status(u"/proc/%1/status"_s.arg(pid));
-    if (!status.open(QFile::ReadOnly))
-        return 0;
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("SigCgt:") + 8, 16).toULongLong(nullptr, 16);
 }
 
 using Data = std::tuple<const char *, QByteArray>;
@@ -266,7 +254,8 @@ private Q_SLOTS:
         app.launch();
         for (const auto &[text, items] : rows)
             QCOMPARE(app.delegate().parseQueryString(text), items);
-        QVERIFY(app.delegate().openURL(u"wzt://x?a=%"_s) && app.delegate().openURL(u""_s));
+        QVERIFY(app.delegate().openURL(QLatin1StringView(BuildConstants::urlScheme) + "://x?a=%"_L1)
+                && app.delegate().openURL(u""_s));
     }
 
     void theEndCancelsPendingRequests()
@@ -320,24 +309,6 @@ private Q_SLOTS:
         for (const auto &[state, told] : steps) {
             lifeCycle.enter(state);
             QCOMPARE(std::exchange(recorder.told, {}), told);
-        }
-    }
-
-    void theProgramEndsCleanlyWhenTold()
-    {
-        for (const int signalNumber : {SIGTERM, SIGINT}) {
-            QProcess program;
-            program.setProcessChannelMode(QProcess::MergedChannels);
-            program.start(QStringLiteral(WZT_PROGRAM));
-            QVERIFY(program.waitForStarted());
-            const auto pid = static_cast<pid_t>(program.processId());
-            // Ready once it has a handler of its own for the signal.
-            QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (signalNumber - 1) & 1, 20000);
-            kill(pid, signalNumber);
-            QVERIFY(program.waitForFinished());
-            QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-            QCOMPARE(program.readAll(), QByteArray());
-            QCOMPARE(program.exitCode(), 0);
         }
     }
 };

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "model/BuildConstants.h"
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
 #include "tests/linux/HomeFile.h"
@@ -15,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString applicationId = u"example.wzt-test.Companion"_s;
+const QString scheme = QString::fromLatin1(BuildConstants::urlScheme);
 
 // Another start of the application; it tells whether it is the only one.
 QByteArray start(const QStringList &urls, const QProcessEnvironment &environment)
@@ -42,7 +44,7 @@ private Q_SLOTS:
     {
         addCases<Start>({
             {"activation", {}, {}, true},
-            {"URLs and token", {u"wzt://a?b=%41"_s, u"WZT://é b"_s}, "token-1", true},
+            {"URLs and token", {scheme + "://a?b=%41"_L1, u"WZT://é b"_s}, "token-1", true},
             {"bus in the runtime folder", {}, "t2", false},
         });
     }

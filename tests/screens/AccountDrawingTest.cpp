@@ -264,6 +264,17 @@ private Q_SLOTS:
         QCOMPARE(button.height(), stage.rect(stage.cell<WZTButtonTableViewCell>(7)).height());
         // 14 below the header's section, and the platform's space above the next.
         QVERIFY(std::abs(stage.rect(stage.card()).top() - row.bottom() - 14 - 18) < 0.01);
+
+        stage.app.delegate().tabController()->setSelectedIndex(0);
+        stage.window->settle();
+        QQuickItem *heartItem = WindowDriver::named(stage.window->view(), u"heart"_s);
+        const QRectF heart = WindowDriver::rect(heartItem);
+        const QRectF thanks =
+            WindowDriver::rect(WindowDriver::named(stage.window->view(), u"thanks"_s));
+        const QRectF card = WindowDriver::rect(heartItem->parentItem());
+        QCOMPARE(heart, QRectF(145, card.top(), 30, 30));
+        QCOMPARE(thanks.topLeft(), QPointF(10, heart.bottom() + 4));
+        QCOMPARE(thanks.bottomRight(), QPointF(310, card.bottom() - 4));
     }
 
     void theCardCutsTheFirstDivider()
