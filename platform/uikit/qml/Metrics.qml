@@ -20,6 +20,8 @@ QtObject {
     readonly property real barGlyph: 22
     /// The part of a bar that a button beside the title has at most.
     readonly property real barButtonShare: 0.28
+    /// How near the edge a finger begins that moves a page away.
+    readonly property real swipeEdge: 20
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 
