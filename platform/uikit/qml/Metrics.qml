@@ -9,6 +9,9 @@ QtObject {
     /// One device pixel.
     readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio // qmllint disable
 
+    /// Where lines are read to: 1 for the right, -1 for the left.
+    readonly property int direction: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1 // qmllint disable
+
     readonly property real margin: 16
     readonly property real row: 44
     /// Above and below what a row holds.

@@ -13,7 +13,6 @@ Item {
 
     readonly property bool possible: enabled && pages.still && controller.canGoBack
         && !controller.topViewController.navigationItem.leftBarButtonItem
-    readonly property int direction: Application.layoutDirection === Qt.RightToLeft ? -1 : 1
     /// Points a second towards the way back, when it was seen last.
     property real speed: 0
 
@@ -60,9 +59,9 @@ Item {
         onTranslationChanged: {
             if (!active)
                 return
-            root.speed = root.direction * centroid.velocity.x
+            root.speed = Metrics.direction * centroid.velocity.x
             rest.restart()
-            page?.swipe(presence - root.direction * translation.x / root.pages.width)
+            page?.swipe(presence - Metrics.direction * translation.x / root.pages.width)
         }
     }
 }

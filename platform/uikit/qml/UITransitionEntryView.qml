@@ -30,7 +30,6 @@ FocusScope {
     readonly property bool leaving: phase === UITransitionStack.Leaving
     readonly property bool arriving: phase === UITransitionStack.Entering && !overlay
     readonly property bool slides: !overlay && (swiped || !Traits.reduceMotion)
-    readonly property int fromSide: Application.layoutDirection === Qt.RightToLeft ? -1 : 1
 
     // An item that is only made to have the focus loses it to the one that has it already.
     function takeFocus() {
@@ -69,7 +68,7 @@ FocusScope {
         return Traits.reduceMotion ? 1 : Math.max(120, 350 * part)
     }
 
-    x: page && slides ? fromSide * width * (1 - presence - 0.3 * covered) : 0
+    x: page && slides ? Metrics.direction * width * (1 - presence - 0.3 * covered) : 0
     y: !page && slides ? height * (1 - presence) : 0
     visible: !concealed || uncovered
     onBlockedChanged: takeFocus()
