@@ -72,7 +72,7 @@ UIViewView {
                 objectName: "forgot"
                 control: root.controller.forgotPasswordButton
                 anchors { top: loginButton.top; bottom: loginButton.bottom; left: parent.left; leftMargin: 20 }
-                width: Math.min(implicitWidth, card.width - 20 - 10, loginButton.x - x - 10)
+                width: Math.min(implicitWidth, card.width - 20 - 10, card.width - 20 - 20 - loginButton.width - 10)
             }
         }
 

@@ -129,6 +129,25 @@ private Q_SLOTS:
         QVERIFY(stage.accessible(u"Projects"_s));
     }
 
+    void aSwipeBackChoosesAndScrollsNothing()
+    {
+        Stage stage;
+        stage.keys({Qt::Key_Down, Qt::Key_Return});
+        stage.window->settle();
+        const QPoint centre = stage.accessible(u"Marrow!"_s)->rect().center();
+        const QPoint row(10, stage.window->view().mapFromGlobal(centre).y());
+        WindowDriver::Finger finger(stage.window->view(), row);
+        finger.move(row + QPoint(300, 60));
+        QCOMPARE(WindowDriver::items(stage.window->view(), u"QQuickListView"_s)
+                     .last()
+                     ->property("contentY"),
+                 0.0);
+        finger.lift();
+        stage.window->settle();
+        QVERIFY(stage.accessible(u"Bug Reporter"_s));
+        QVERIFY(!stage.accessible(u"Marrow! Issues"_s));
+    }
+
     void theSpinnerIsOverTheMiddle()
     {
         Stage stage;

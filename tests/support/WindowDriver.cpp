@@ -145,3 +145,25 @@ void WindowDriver::type(QQuickWindow &window, const QString &text)
     for (const QChar character : text)
         QTest::keyClick(&window, character.toLatin1());
 }
+
+WindowDriver::Finger::Finger(QQuickWindow &window, const QPoint &at) : m_window(window), m_at(at)
+{
+    QTest::touchEvent(&window, screen()).press(0, at, &window);
+}
+
+void WindowDriver::Finger::move(const QPoint &to)
+{
+    const QPoint from = m_at;
+    const int steps = qMax(1, (to - from).manhattanLength() / 12);
+    for (int step = 1; step <= steps; ++step) {
+        m_at = from + (to - from) * step / steps;
+        QTest::qWait(5);
+        QTest::touchEvent(&m_window, screen()).move(0, m_at, &m_window);
+        m_window.grabWindow(); // moves are delivered with a frame
+    }
+}
+
+void WindowDriver::Finger::lift()
+{
+    QTest::touchEvent(&m_window, screen()).release(0, m_at, &m_window);
+}

@@ -40,4 +40,17 @@ void settle(const QQuickWindow &window);
 void tap(QQuickWindow &window, const QPoint &point);
 void type(QQuickWindow &window, const QString &text);
 
+/// A finger on a window from when it is made to when it is lifted.
+class Finger {
+public:
+    Finger(QQuickWindow &window, const QPoint &at);
+    /// Moves there in small steps, each seen in a frame of its own.
+    void move(const QPoint &to);
+    void lift();
+
+private:
+    QQuickWindow &m_window;
+    QPoint m_at;
+};
+
 } // namespace WindowDriver

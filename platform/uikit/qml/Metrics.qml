@@ -9,6 +9,9 @@ QtObject {
     /// One device pixel.
     readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio // qmllint disable
 
+    /// Where lines are read to: 1 for the right, -1 for the left.
+    readonly property int direction: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1 // qmllint disable
+
     readonly property real margin: 16
     readonly property real row: 44
     /// Above and below what a row holds.
@@ -20,6 +23,8 @@ QtObject {
     readonly property real barGlyph: 22
     /// The part of a bar that a button beside the title has at most.
     readonly property real barButtonShare: 0.28
+    /// How near the edge a finger begins that moves a page away.
+    readonly property real swipeEdge: 20
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 

@@ -9,9 +9,10 @@ UIPressArea {
     id: root
 
     required property UIAlertAction action
+    // Left is where lines begin.
     required property bool roundsLeft
     required property bool roundsRight
-    /// Whether another button stands to the left.
+    /// Whether another button stands before it.
     required property bool beside
 
     readonly property bool isCancel: action.style === UIAlertAction.Cancel

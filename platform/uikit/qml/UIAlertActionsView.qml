@@ -42,7 +42,7 @@ Item {
             readonly property bool last: place === actions.count - 1
 
             action: modelData
-            x: root.sideBySide ? place * width : 0
+            x: root.sideBySide && last === (Metrics.direction > 0) ? width : 0
             y: root.sideBySide ? 0 : place * height
             width: root.sideBySide ? root.width / 2 : root.width
             height: root.actionHeight

@@ -30,13 +30,14 @@ UIPressArea {
         Rectangle {
             required property int modelData
 
-            x: 8
+            anchors.left: root.left
+            anchors.leftMargin: 8
             y: root.height / 2 - height / 2 + (modelData > 0 ? 3.9 : -3.9)
             width: 13
             height: 2.5
             radius: height / 2
             antialiasing: true
-            rotation: modelData
+            rotation: Metrics.direction * modelData
             color: Traits.accentColor
         }
     }

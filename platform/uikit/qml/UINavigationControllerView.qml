@@ -24,11 +24,19 @@ FocusScope {
         controller: root.controller
     }
     UITransitionStackView {
+        id: pageStack
         anchors.top: bar.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         focus: true
         stack: root.controller.pages
         pages: true
+    }
+    UIBackSwipe {
+        anchors.top: pageStack.top
+        anchors.bottom: pageStack.bottom
+        anchors.left: parent.left
+        controller: root.controller
+        pages: pageStack
     }
 }

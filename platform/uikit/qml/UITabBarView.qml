@@ -42,8 +42,8 @@ FocusScope {
                 width: Math.min(Metrics.widestTab, root.width / items.count)
                 height: tabs.height
                 onTriggered: root.control.choose(index)
-                Keys.onLeftPressed: items.itemAt(index - 1)?.forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: items.itemAt(index + 1)?.forceActiveFocus(Qt.TabFocusReason)
+                Keys.onLeftPressed: items.itemAt(index - Metrics.direction)?.forceActiveFocus(Qt.BacktabFocusReason)
+                Keys.onRightPressed: items.itemAt(index + Metrics.direction)?.forceActiveFocus(Qt.TabFocusReason)
             }
         }
     }

@@ -45,6 +45,8 @@ Rectangle {
             color: root.control.placeholderColor.isNil() ? Traits.placeholderColor
                                                          : root.control.placeholderColor.drawn(Traits.dark)
             elide: Text.ElideRight
+            horizontalAlignment: input.effectiveHorizontalAlignment
+            LayoutMirroring.enabled: false // mirrored it is already
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }

@@ -12,6 +12,8 @@ FocusScope {
     required property bool page
     /// How far what is above has come, from 0 to 1.
     required property real covered
+    /// Whether a finger moves what is above away.
+    required property bool uncovered
 
     required property int index
     required property UIViewController controller
@@ -23,10 +25,11 @@ FocusScope {
     /// How far the controller has come: from 0, away, to 1, in place.
     property real presence: 0
     property bool placed: false
+    /// Whether a finger moves the page away, or has and it is on its way since.
+    property bool swiped: false
     readonly property bool leaving: phase === UITransitionStack.Leaving
     readonly property bool arriving: phase === UITransitionStack.Entering && !overlay
-    readonly property bool slides: !overlay && !Traits.reduceMotion
-    readonly property int fromSide: Application.layoutDirection === Qt.RightToLeft ? -1 : 1
+    readonly property bool slides: !overlay && (swiped || !Traits.reduceMotion)
 
     // An item that is only made to have the focus loses it to the one that has it already.
     function takeFocus() {
@@ -42,14 +45,32 @@ FocusScope {
         const drawn = visible && content.status === Loader.Ready
         if (settled || !drawn)
             presence = transition.to
-        transition.duration = !drawn ? 1 : overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
+        const whole = overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
+        transition.duration = !drawn ? 1 : swiped ? rest(presence) : whole
         if (!settled)
             transition.start()
     }
+    /// A finger has the page this far in place; until it is put back or leaves.
+    function swipe(to: real) {
+        transition.stop()
+        swiped = true
+        presence = Math.max(0, Math.min(to, 1))
+    }
+    function putBack() {
+        if (!swiped || leaving)
+            return
+        transition.to = 1
+        transition.duration = rest(1 - presence)
+        transition.start()
+    }
+    // What a finger has begun goes on at the pace of a whole transition.
+    function rest(part: real): int {
+        return Traits.reduceMotion ? 1 : Math.max(120, 350 * part)
+    }
 
-    x: page && slides ? fromSide * width * (1 - presence - 0.3 * covered) : 0
+    x: page && slides ? Metrics.direction * width * (1 - presence - 0.3 * covered) : 0
     y: !page && slides ? height * (1 - presence) : 0
-    visible: !concealed
+    visible: !concealed || uncovered
     onBlockedChanged: takeFocus()
     onLeavingChanged: takeFocus()
     onPhaseChanged: {
@@ -67,7 +88,10 @@ FocusScope {
         target: root
         property: "presence"
         easing.type: Easing.OutCubic
-        onFinished: root.stack.transitionEnded(root.controller)
+        onFinished: {
+            root.swiped = false
+            root.stack.transitionEnded(root.controller)
+        }
     }
     Rectangle {
         id: dimming
@@ -89,7 +113,7 @@ FocusScope {
         id: content
         anchors.fill: parent
         controller: root.controller
-        wanted: !root.concealed
+        wanted: !root.concealed || root.uncovered
         enabled: !root.blocked && !root.leaving
         opacity: root.slides ? 1 : root.presence
         scale: root.overlay && !root.leaving && !Traits.reduceMotion ? 1.1 - 0.1 * root.presence : 1

@@ -12,6 +12,13 @@ FocusScope {
 
     required property UITransitionStack stack
     property bool pages: false
+    /// Whether no controller is in a transition.
+    readonly property bool still: entries.count > 0 && topEntry()?.phase === UITransitionStack.Settled
+
+    /// What draws the topmost controller.
+    function topEntry(): UITransitionEntryView {
+        return entries.itemAt(entries.count - 1) as UITransitionEntryView
+    }
 
     Repeater {
         id: entries
@@ -24,6 +31,7 @@ FocusScope {
             stack: root.stack
             page: root.pages
             covered: above ? above.presence : 0
+            uncovered: above ? above.swiped : false
             width: root.width
             height: root.height
         }

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UINavigationItem.h"
 #include "platform/uikit/UITabBarController.h"
 #include "platform/uikit/UITabBarItem.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/qml/WindowFixture.h"
+
+#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,17 @@ std::shared_ptr<UITabBarController> tabsOf(const std::shared_ptr<UIViewControlle
     tabs->setViewControllers({first, second});
     return tabs;
 }
+
+struct Swipe {
+    const char *name;
+    int from; // points from the edge
+    int to;
+    bool rests; // before it is lifted
+    bool leaves;
+    bool moves = true;
+    bool mirrored = false;
+    bool reduceMotion = false;
+};
 
 using Transition = std::tuple<const char *, bool, bool, bool, bool>;
 } // namespace
@@ -93,6 +107,92 @@ private Q_SLOTS:
         QCOMPARE(entries[0]->x(), 0);
         QVERIFY(entries[0]->isVisible());
         QCOMPARE(root->appeared, 2);
+    }
+
+    void pagesAreSwipedAway_data()
+    {
+        addCases<Swipe>({
+            {"past the middle", 10, 250, true, true},
+            {"not far enough", 10, 150, true, false},
+            {"a fling", 10, 130, false, true},
+            {"not from the edge", 30, 250, true, false, false},
+            {"mirrored", 10, 250, true, true, true, true},
+            {"mirrored, not far enough", 10, 150, true, false, true, true},
+            {"reduced motion", 10, 250, true, true, true, false, true},
+            {"reduced motion, not far enough", 10, 150, true, false, true, false, true},
+        });
+    }
+
+    void pagesAreSwipedAway()
+    {
+        const Swipe &swipe = currentCase<Swipe>();
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        if (swipe.mirrored)
+            QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        const int direction = swipe.mirrored ? -1 : 1;
+        const auto at = [&](int x) { return QPoint(swipe.mirrored ? 389 - x : x, 400); };
+        WindowFixture fixture({.reduceMotion = swipe.reduceMotion});
+        const auto root = make<TestPage>(u"Root"_s);
+        const auto page = make<TestPage>(u"Page"_s);
+        const auto navigation = make<UINavigationController>(root);
+        fixture.show(navigation);
+        navigation->pushViewController(page, false);
+        const QList<QQuickItem *> entries = fixture.items(u"UITransitionEntryView"_s).mid(1);
+
+        WindowDriver::Finger finger(fixture.host->view(), at(swipe.from));
+        finger.move(at(swipe.to));
+        QCOMPARE(entries[1]->x() * direction > 100, swipe.moves);
+        QCOMPARE(entries[0]->isVisible(), swipe.moves);
+        QVERIFY(!swipe.moves || (entries[0]->x() * direction < 0) != swipe.reduceMotion);
+        QCOMPARE(root->appearanceState(), UIAppearanceState::Disappeared);
+        QTest::qWait(swipe.rests ? 150 : 0);
+        finger.lift();
+        QCOMPARE(navigation->topViewController() == root.get(), swipe.leaves);
+        QTRY_COMPARE(entries[0]->isVisible(), swipe.leaves);
+        fixture.settle();
+        QCOMPARE(root->appeared, swipe.leaves ? 2 : 1);
+        QCOMPARE(page->appeared, 1);
+        QCOMPARE(entries[swipe.leaves ? 0 : 1]->x(), 0);
+        QCOMPARE(fixture.focused(), swipe.leaves ? u"Root"_s : u"Page"_s);
+    }
+
+    // The root stays; so does a page with a button in the place of the way back, and whatever an
+    // alert comes over.
+    void someSwipesMoveNothing()
+    {
+        WindowFixture fixture;
+        const auto root = make<TestPage>(u"Root"_s);
+        const auto page = make<TestPage>(u"Page"_s);
+        const auto navigation = make<UINavigationController>(root);
+        const auto swipe = [&] {
+            WindowDriver::Finger finger(fixture.host->view(), {10, 400});
+            finger.move({250, 400});
+            finger.lift();
+            return navigation->topViewController()->navigationItem()->title();
+        };
+        fixture.show(navigation);
+        QCOMPARE(swipe(), u"Root"_s);
+        navigation->pushViewController(page, true);
+        QCOMPARE(swipe(), u"Page"_s); // while it comes
+        fixture.settle();
+        page->navigationItem()->setLeftBarButtonItem(make<UIBarButtonItem>(
+            u"Other"_s, UIBarButtonItemStyle::Plain, page.get(), &TestPage::loadViewIfNeeded));
+        QCOMPARE(swipe(), u"Page"_s);
+        page->navigationItem()->setLeftBarButtonItem({});
+
+        WindowDriver::Finger finger(fixture.host->view(), {10, 400});
+        finger.move({250, 400});
+        const auto alert = make<UIAlertController>(u"Alert"_s, QString());
+        page->presentViewController(alert, true);
+        finger.lift();
+        fixture.settle();
+        QCOMPARE(swipe(), u"Page"_s);
+        QTRY_COMPARE(WindowFixture::rect(fixture.named(u"Page"_s)), QRectF(0, 44, 390, 800));
+        QCOMPARE(root->appeared, 1);
+        alert->dismissViewControllerAnimated(true);
+        fixture.settle();
+        QCOMPARE(swipe(), u"Root"_s);
     }
 
     void interruptedTransitionsEnd()
