@@ -92,7 +92,7 @@ private Q_SLOTS:
 
     void fromHomeToTheIssuesAndBack()
     {
-        const auto &[name, choose] = currentCase<Manner>();
+        const auto choose = std::get<1>(currentCase<Manner>());
         Stage stage;
         QVERIFY(stage.app.service().addIssues(sandbox::demoIssues()));
         const auto go = [&](const QString &to, Qt::Key key) {

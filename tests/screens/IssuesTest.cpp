@@ -188,10 +188,11 @@ private Q_SLOTS:
                 screen->cancel(nullptr);
             QTRY_COMPARE(titles(screen), QStringList{u"second"_s});
             QVERIFY(!screen->activityIndicator()->isAnimating());
-            if (cancelled)
+            if (cancelled) {
                 QTRY_VERIFY(!screen);
-            else
+            } else {
                 QTRY_COMPARE(titles(screen), QStringList{u"first"_s});
+            }
         }
     }
 
