@@ -35,7 +35,7 @@ namespace {
 constexpr auto handshakeTime = 10s;
 constexpr auto idleTime = 60s;
 constexpr auto farewellTime = 1s;
-constexpr std::uint32_t headerLimit = 16'384;
+constexpr std::uint32_t headerLimit = 98'304;
 constexpr std::uint64_t bodyLimit = 65'536;
 
 int problemOf(const error_code &error)

@@ -13,8 +13,8 @@ namespace sandbox {
 
 namespace {
 
-constexpr qsizetype longestTarget = 8'192;
-constexpr qsizetype longestParameter = 2'048;
+constexpr qsizetype longestTarget = 65'536; // percent-encoded, a letter may be twelve bytes
+constexpr qsizetype longestParameter = 5'000;
 
 bool isReadable(const Request &request)
 {

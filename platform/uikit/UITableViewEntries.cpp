@@ -106,7 +106,8 @@ void UITableViewEntries::hide(const UITableViewCell *cell)
 
 int UITableViewEntries::rowBeside(int entry, int step) const
 {
-    for (int next = entry + step; sectionOf(next); next += step) {
+    // After a reload the table may end before what was the current row.
+    for (int next = std::clamp(entry, -1, rowCount()) + step; sectionOf(next); next += step) {
         if (indexPathOf(next))
             return next;
     }

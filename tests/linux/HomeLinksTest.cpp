@@ -70,7 +70,7 @@ private:
                                   + folder + "/handler " + name + " %u\n"));
         }
         QVERIFY(writeHomeFile(home.filePath(u"handler"_s),
-                              "printf '%s %s\\n' \"$1\" \"$2\" >> " + folder + "/seen\n"));
+                              "printf '%s\\n' \"$*\" >> " + folder + "/seen\n"));
         QVERIFY(writeHomeFile(home.filePath(u".config/mimeapps.list"_s), defaults));
     }
 };

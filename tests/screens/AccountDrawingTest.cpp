@@ -267,7 +267,9 @@ private Q_SLOTS:
 
         stage.app.delegate().tabController()->setSelectedIndex(0);
         stage.window->settle();
-        QQuickItem *heartItem = WindowDriver::named(stage.window->view(), u"heart"_s);
+        const auto find = [&] { return WindowDriver::named(stage.window->view(), u"heart"_s); };
+        QTRY_VERIFY(find());
+        const QQuickItem *heartItem = find();
         const QRectF heart = WindowDriver::rect(heartItem);
         const QRectF thanks =
             WindowDriver::rect(WindowDriver::named(stage.window->view(), u"thanks"_s));

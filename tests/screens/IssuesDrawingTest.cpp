@@ -132,7 +132,7 @@ private Q_SLOTS:
     void aSwipeBackChoosesAndScrollsNothing()
     {
         Stage stage;
-        stage.keys({Qt::Key_Down, Qt::Key_Return});
+        stage.app.delegate().rootVC()->showIssueProjectList();
         stage.window->settle();
         const QPoint centre = stage.accessible(u"Marrow!"_s)->rect().center();
         const QPoint row(10, stage.window->view().mapFromGlobal(centre).y());

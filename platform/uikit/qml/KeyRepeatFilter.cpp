@@ -30,15 +30,17 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto *press = static_cast<QKeyEvent *>(event);
-    if (!press->isAutoRepeat())
+    if (!press->isAutoRepeat()) {
+        m_beganInLines = takesLines(QGuiApplication::focusObject());
         return false;
+    }
     switch (press->key()) {
     case Qt::Key_Escape:
     case Qt::Key_Back:
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return !takesLines(QGuiApplication::focusObject());
+        return !m_beganInLines || !takesLines(QGuiApplication::focusObject());
     default:
         return false;
     }

@@ -16,4 +16,7 @@ public:
     explicit KeyRepeatFilter(QWindow &window);
 
     bool eventFilter(QObject *window, QEvent *event) override;
+
+private:
+    bool m_beganInLines = false; // the key held was pressed in text of several lines
 };

@@ -22,7 +22,7 @@ UIPressArea {
     Accessible.focusable: true
     Accessible.pressed: highlighted
     Accessible.ignored: !enabled
-    Accessible.onPressAction: triggered()
+    Accessible.onPressAction: activate()
 
     Rectangle {
         anchors.fill: parent

@@ -22,7 +22,7 @@ UIPressArea {
     Accessible.name: title ? qsTr("Back to %1").arg(title) : qsTr("Back")
     Accessible.focusable: true
     Accessible.ignored: !visible || !enabled
-    Accessible.onPressAction: triggered()
+    Accessible.onPressAction: activate()
 
     Repeater {
         model: [45, -45]

@@ -23,7 +23,7 @@ UIPressArea {
     Accessible.name: item?.title ?? ""
     Accessible.focusable: true
     Accessible.ignored: !visible || !enabled
-    Accessible.onPressAction: triggered()
+    Accessible.onPressAction: activate()
 
     TextMetrics {
         id: natural

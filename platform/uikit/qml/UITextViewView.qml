@@ -35,6 +35,7 @@ Item {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: root.control.accessibilityLabel
+        Accessible.description: text ? "" : root.control.placeholder
         Accessible.editable: true
         Accessible.multiLine: true
         Accessible.focusable: true
