@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QQuickView;
+
+/// What drawing costs at the least: a window as large as the application's, in which one rectangle
+/// of its size moves.
+void fillBareWindow(QQuickView &view);

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Each prints one table: what the application takes, beside what its floor takes.
+
+/// From exec to the first frame, and the memory that it took.
+void measureStarts();
+/// The work for one frame in what moves.
+void measureFrames();
+/// As many issues as fit a reply.
+void measureDecoding();
+/// A request over a connection that is there.
+void measureRequests();

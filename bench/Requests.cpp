@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "bench/Figures.h"
+#include "bench/KeptConnection.h"
+#include "bench/Measurements.h"
+#include "service/WZTAPI.h"
+#include "tests/support/TestApp.h"
+
+#include <semaphore>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 300;
+const auto package = u"example.wzt.tessaroo"_s;
+
+/// From the call to its completion, which decodes the reply.
+void listIssues()
+{
+    std::binary_semaphore completed(0);
+    WZTAPI::issuesForPackageIdentifier(package, [&](NSUInteger code, const auto &) {
+        if (code != 0)
+            qFatal("the issues cannot be listed");
+        completed.release();
+    });
+    completed.acquire();
+}
+
+} // namespace
+
+void measureRequests()
+{
+    TestApp app;
+    app.launch();
+    KeptConnection connection(app.service().port(), app.service().caFile());
+    const QByteArray request = "GET /issues.php?packageId=" + package.toUtf8()
+        + " HTTP/1.1\r\nHost: localhost\r\nAccept: */*\r\n\r\n";
+    QList<double> figures;
+    QList<double> floor;
+    for (int round = 0; round < rounds; ++round) {
+        figures.append(timed(listIssues));
+        floor.append(timed([&] { connection.exchange(request, "[]"); }));
+    }
+    const Table table(
+        u"A request over a connection that is there, beside the same bytes over bare TLS"_s,
+        {u"figure"_s, u"floor"_s, u"times"_s});
+    table.comparison(u"an empty list of issues, ms"_s, median(figures), median(floor));
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+
+// Prints what the application takes (to start, to draw, to decode, to ask its service), each figure
+// beside its floor. It judges nothing: a machine that is busy or slow makes no test fail.
+
+#include "bench/Measurements.h"
+
+#include <QFont>
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::pair<const char *, void (*)()> measurements[] = {
+    {"starts", measureStarts},
+    {"frames", measureFrames},
+    {"decoding", measureDecoding},
+    {"requests", measureRequests},
+};
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setFont(QFont(u"Inter"_s));
+    const QString wanted = QGuiApplication::arguments().value(1);
+    bool isKnown = false;
+    for (const auto &[name, measure] : measurements) {
+        if (!wanted.isEmpty() && wanted != QLatin1StringView(name))
+            continue;
+        isKnown = true;
+        measure();
+    }
+    if (!isKnown)
+        std::fputs("usage: wzt-bench [starts|frames|decoding|requests]\n", stderr);
+    return isKnown ? 0 : 2;
+}
