@@ -103,7 +103,7 @@ std::optional<QString> description(Dice &dice)
     quint32 next = dice.below(std::size(sentences));
     QString text = sentences[next].toString();
     for (quint32 left = dice.below(longest[kind]); left > 0; --left) {
-        next = (next + 5) % std::size(sentences);
+        next = static_cast<quint32>((next + 5) % std::size(sentences));
         text += (dice.below(4) == 0 ? u"\n\n"_s : u" "_s) + sentences[next];
     }
     return text;

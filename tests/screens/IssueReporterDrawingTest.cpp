@@ -112,20 +112,17 @@ private Q_SLOTS:
         std::vector<QPointer<QObject>> closed;
         qsizetype items = 0;
         for (int i = 0; i < 500; ++i) {
-            QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^Add new issue to package: "_s));
-            stage.screen->addNewIssue(nullptr);
-            auto *navigation = stage.app.top<UINavigationController>();
-            auto *form =
-                static_cast<WZTIssueReporterViewController *>(navigation->topViewController());
-            closed.insert(closed.end(), {navigation, form});
-            stage.window->settle();
+            const auto form = make<WZTIssueReporterViewController>(stage.package);
+            const auto navigation = make<UINavigationController>(form);
+            closed.insert(closed.end(), {navigation.get(), form.get()});
+            stage.screen->presentViewController(navigation, false);
             stage.window->type(u"x"_s);
             if (i % 100 == 0) { // the reply finds the form gone
                 QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^Query Items: "_s));
                 form->submitPressed(nullptr);
             }
-            form->cancel(nullptr);
-            stage.window->settle();
+            form->dismissViewControllerAnimated(false);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             if (i == 10)
                 items = root->findChildren<QObject *>().size();
         }
