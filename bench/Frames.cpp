@@ -71,9 +71,8 @@ QStringList cells(const QList<double> &frames, const QList<double> &floor)
 void measureFrames()
 {
     const Table table(
-        u"Work for one frame at 390x844, in ms, the first time included; beside it that of an "
-        u"empty window "
-        "in which a rectangle of its size moves for as long"_s,
+        u"Work for one frame at 390x844, in ms, the first time included, beside that of an empty "
+        "window in which a rectangle of its size moves for as long"_s,
         {u""_s, u""_s, u"figure"_s, u""_s, u""_s, u"floor"_s, u""_s, u""_s, u"times"_s});
     table.row({},
               {u"frames"_s, u"p50"_s, u"p95"_s, u"max"_s, u"p50"_s, u"p95"_s, u"max"_s, u"p50"_s,
