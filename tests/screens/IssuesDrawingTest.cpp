@@ -132,7 +132,8 @@ private Q_SLOTS:
     void aSwipeBackChoosesAndScrollsNothing()
     {
         Stage stage;
-        stage.keys({Qt::Key_Down, Qt::Key_Return});
+        stage.window->key(Qt::Key_Down);
+        stage.window->key(Qt::Key_Return);
         stage.window->settle();
         const QPoint centre = stage.accessible(u"Marrow!"_s)->rect().center();
         const QPoint row(10, stage.window->view().mapFromGlobal(centre).y());
