@@ -39,7 +39,7 @@ Item {
                 height: 6
                 radius: 1.25
                 antialiasing: true
-                visible: 7 - index < root.spokes
+                visible: 7 - spoke.index < root.spokes
                 color: Traits.secondaryLabelColor
                 opacity: 1 - 0.1 * spoke.index
                 transform: Rotation {

@@ -34,6 +34,7 @@ UIControlArea::UIControlArea(QQuickItem *parent) : QQuickItem(parent)
     setActiveFocusOnTab(true);
     m_press.setSingleShot(true);
     m_press.callOnTimeout(this, &UIControlArea::press);
+    connect(&m_keyFocus, &KeyFocus::changed, this, &UIControlArea::focusVisibleChanged);
 }
 
 UIControlArea::~UIControlArea()
@@ -69,7 +70,6 @@ bool UIControlArea::contains(const QPointF &point) const
 
 void UIControlArea::begin(const QPointF &point)
 {
-    setFocusByKey(false);
     m_at = point;
     if (scrolls(*this))
         m_press.start(pressDelay);
@@ -179,22 +179,11 @@ void UIControlArea::keyPressEvent(QKeyEvent *event)
 void UIControlArea::focusInEvent(QFocusEvent *event)
 {
     QQuickItem::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    // For other reasons, such as an alert's end, it stays as it was.
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
-        || reason == Qt::ShortcutFocusReason)
-        m_focusByKey = true;
-    Q_EMIT focusVisibleChanged();
+    m_keyFocus.follow(event->reason());
 }
 
 void UIControlArea::focusOutEvent(QFocusEvent *event)
 {
     QQuickItem::focusOutEvent(event);
-    Q_EMIT focusVisibleChanged();
-}
-
-void UIControlArea::setFocusByKey(bool byKey)
-{
-    m_focusByKey = byKey;
-    Q_EMIT focusVisibleChanged();
+    m_keyFocus.follow(Qt::OtherFocusReason);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/uikit/UIControl.h"
+#include "platform/uikit/qml/KeyFocus.h"
 
 #include <QPointer>
 #include <QQuickItem>
@@ -15,7 +16,7 @@ class UIControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged)
-    /// Whether to show that the control has the keyboard: only after it came by key.
+    /// Whether to show that the control has the keyboard.
     Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
 
 public:
@@ -24,7 +25,7 @@ public:
 
     [[nodiscard]] UIControl *receiver() const { return m_receiver; }
     void setReceiver(UIControl *receiver);
-    [[nodiscard]] bool isFocusVisible() const { return m_focusByKey && hasActiveFocus(); }
+    [[nodiscard]] bool isFocusVisible() const { return m_keyFocus.isVisible(); }
 
     /// Whether a press at `point` is the control's.
     [[nodiscard]] bool contains(const QPointF &point) const override;
@@ -52,11 +53,10 @@ private:
     void move(const QPointF &point);
     void end(const QPointF &point);
     void cancel();
-    void setFocusByKey(bool byKey);
 
     QPointer<UIControl> m_receiver;
     QTimer m_press;
     QPointF m_at; // where the touch was seen last
     int m_touch = -1;
-    bool m_focusByKey = false;
+    KeyFocus m_keyFocus{*this};
 };

@@ -2,31 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/qml/UIFocusItem.h"
 
-void UIFocusItem::setByKey(bool byKey)
+UIFocusItem::UIFocusItem(QQuickItem *parent) : QQuickItem(parent)
 {
-    m_byKey = byKey;
-    Q_EMIT focusVisibleChanged();
+    connect(&m_keyFocus, &KeyFocus::changed, this, &UIFocusItem::focusVisibleChanged);
 }
 
 bool UIFocusItem::event(QEvent *event)
 {
     const bool isKey = event->type() == QEvent::KeyPress; // the key may change what is current
     const bool isHandled = QQuickItem::event(event);
-    if (isKey && !m_byKey)
-        setByKey(true);
+    if (isKey)
+        m_keyFocus.begin();
     return isHandled;
 }
 
 void UIFocusItem::focusInEvent(QFocusEvent *event)
 {
     QQuickItem::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-        m_byKey = true;
-    Q_EMIT focusVisibleChanged();
+    m_keyFocus.follow(event->reason());
 }
 
 void UIFocusItem::focusOutEvent(QFocusEvent *event)
 {
     QQuickItem::focusOutEvent(event);
-    Q_EMIT focusVisibleChanged();
+    m_keyFocus.follow(Qt::OtherFocusReason);
 }

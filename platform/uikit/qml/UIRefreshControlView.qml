@@ -67,7 +67,7 @@ Item {
         }
     }
     Shortcut {
-        sequences: [StandardKey.Refresh]
+        sequence: "F5"
         autoRepeat: false
         enabled: root.enabled && root.visible
         onActivated: root.control.pull()

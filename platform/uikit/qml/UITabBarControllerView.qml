@@ -11,12 +11,16 @@ FocusScope {
 
     required property UITabBarController controller
 
+    property UIControllerLoader shown: null
+
     focus: true
 
     Repeater {
         model: root.controller.viewControllers
 
         UIControllerLoader {
+            id: tab
+
             required property UIViewController modelData
             required property int index
 
@@ -24,6 +28,8 @@ FocusScope {
 
             // Who chooses tabs by keyboard stays in the bar.
             function takeFocus() {
+                if (selected)
+                    root.shown = tab
                 if (!bar.activeFocus)
                     focus = selected
             }
@@ -46,5 +52,8 @@ FocusScope {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         control: root.controller.tabBar
+
+        // The keys for the way back are for the tab that is shown.
+        Keys.forwardTo: root.shown?.item ?? []
     }
 }

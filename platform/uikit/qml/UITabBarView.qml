@@ -11,6 +11,13 @@ FocusScope {
 
     required property UITabBar control
 
+    /// An arrow moves the keyboard to the tab at `index`; with Alt it is a way back.
+    function move(event: KeyEvent, index: int) {
+        event.accepted = !(event.modifiers & Qt.AltModifier)
+        if (event.accepted)
+            items.itemAt(index)?.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     implicitHeight: Metrics.tabBar
 
     Accessible.role: Accessible.PageTabList
@@ -42,8 +49,8 @@ FocusScope {
                 width: Math.min(Metrics.widestTab, root.width / items.count)
                 height: tabs.height
                 onTriggered: root.control.choose(index)
-                Keys.onLeftPressed: items.itemAt(index - Metrics.direction)?.forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: items.itemAt(index + Metrics.direction)?.forceActiveFocus(Qt.TabFocusReason)
+                Keys.onLeftPressed: event => root.move(event, index - Metrics.direction)
+                Keys.onRightPressed: event => root.move(event, index + Metrics.direction)
             }
         }
     }

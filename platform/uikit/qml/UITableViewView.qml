@@ -174,7 +174,4 @@ Rectangle {
         z: 1
         shown: keyboard.focusVisible
     }
-    PointHandler {
-        onActiveChanged: keyboard.byKey = false
-    }
 }

@@ -9,6 +9,7 @@
 #include "tests/uikit/qml/WindowFixture.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
@@ -171,6 +172,24 @@ private Q_SLOTS:
         fixture.key(Qt::Key_Return);
         QCOMPARE(shell.tabs->selectedIndex(), 0);
         QCOMPARE(chosen.size(), 5);
+    }
+
+    void arrowsGoWhereTheyPoint()
+    {
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QGuiApplication::setLayoutDirection(direction);
+            WindowFixture fixture;
+            const Shell shell;
+            fixture.show(shell.tabs);
+            fixture.key(Qt::Key_Tab);
+            const bool mirrored = direction == Qt::RightToLeft;
+            fixture.key(mirrored ? Qt::Key_Right : Qt::Key_Left); // there is none
+            QCOMPARE(fixture.focused(), u"Start"_s);
+            fixture.key(mirrored ? Qt::Key_Left : Qt::Key_Right);
+            QCOMPARE(fixture.focused(), u"Account"_s);
+        }
     }
 };
 
