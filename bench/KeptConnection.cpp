@@ -13,8 +13,8 @@ KeptConnection::KeptConnection(quint16 port, const QString &caFile)
     BIO_get_ssl(m_stream.get(), &ssl);
     SSL_set_verify(ssl, SSL_VERIFY_PEER, nullptr);
     SSL_set1_host(ssl, "localhost");
-    BIO_set_conn_hostname(m_stream.get(), "127.0.0.1");
-    BIO_set_conn_port(m_stream.get(), QByteArray::number(port).constData());
+    QByteArray address = "127.0.0.1:" + QByteArray::number(port);
+    BIO_set_conn_hostname(m_stream.get(), address.data());
     if (SSL_CTX_load_verify_file(m_context.get(), qPrintable(caFile)) != 1
         || BIO_do_handshake(m_stream.get()) != 1)
         qFatal("no connection to the service");
