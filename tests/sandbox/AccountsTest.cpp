@@ -74,7 +74,7 @@ private Q_SLOTS:
             {"login", "{e}&{p}={right}", 400, "User Does Not Exist"},
             {"login", "", 400, "User Does Not Exist"},
             {"login", "{e}=%FF&{p}={right}", 400, "Improper request"},
-            {"login", "{e}=" + QByteArray(3000, 'x'), 400, "Improper request"},
+            {"login", "{e}=" + QByteArray(6000, 'x'), 400, "Improper request"},
             {"register", "{e}=new@wzt.example&{p}={right}&userName=New+One", 200, ""},
             {"register", "{e}=JO.smith@WZT.example&{p}={right}&userName=X", 200, "User Exists"},
             {"register", "{e}=&{p}={empty}&userName=", 400, "Improper request"},

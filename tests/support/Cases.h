@@ -27,10 +27,11 @@ void addCases(std::vector<Case> cases)
 {
     QTest::addColumn<std::size_t>("index");
     for (std::size_t index = 0; index < cases.size(); ++index) {
-        if constexpr (requires { cases[index].name; })
+        if constexpr (requires { cases[index].name; }) {
             QTest::newRow(cases[index].name) << index;
-        else
+        } else {
             QTest::newRow(std::get<0>(cases[index])) << index;
+        }
     }
     casesOf<Case>() = std::move(cases);
 }
