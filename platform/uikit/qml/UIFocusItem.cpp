@@ -2,9 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/qml/UIFocusItem.h"
 
+#include <QAccessible>
+
 UIFocusItem::UIFocusItem(QQuickItem *parent) : QQuickItem(parent)
 {
     connect(&m_keyFocus, &KeyFocus::changed, this, &UIFocusItem::focusVisibleChanged);
+}
+
+void UIFocusItem::setCurrent(QQuickItem *current)
+{
+    if (current == m_current)
+        return;
+    m_current = current;
+    Q_EMIT currentChanged();
+    tellCurrent();
+}
+
+void UIFocusItem::tellCurrent()
+{
+    if (!m_current || !hasActiveFocus())
+        return;
+    QAccessibleEvent focus(m_current, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
 }
 
 bool UIFocusItem::event(QEvent *event)
@@ -20,6 +39,7 @@ void UIFocusItem::focusInEvent(QFocusEvent *event)
 {
     QQuickItem::focusInEvent(event);
     m_keyFocus.follow(event->reason());
+    tellCurrent();
 }
 
 void UIFocusItem::focusOutEvent(QFocusEvent *event)

@@ -4,21 +4,27 @@
 
 #include "platform/uikit/qml/KeyFocus.h"
 
+#include <QPointer>
 #include <QQuickItem>
 
-/// Has the keyboard for what draws several things of which one is current, and knows whether to
-/// show that.
+/// Has the keyboard for what draws several things of which one is current, tells screen readers
+/// which, and knows whether to show that.
 class UIFocusItem : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
+    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged)
     Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
 
 public:
     explicit UIFocusItem(QQuickItem *parent = nullptr);
 
+    /// What screen readers are told to have the keyboard; null for nothing.
+    [[nodiscard]] QQuickItem *current() const { return m_current; }
+    void setCurrent(QQuickItem *current);
     [[nodiscard]] bool isFocusVisible() const { return m_keyFocus.isVisible(); }
 
 Q_SIGNALS:
+    void currentChanged();
     void focusVisibleChanged();
 
 protected:
@@ -27,5 +33,8 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void tellCurrent();
+
+    QPointer<QQuickItem> m_current;
     KeyFocus m_keyFocus{*this};
 };

@@ -19,7 +19,7 @@ Item {
     Accessible.selectable: true
     Accessible.selected: cell.selected
     Accessible.focusable: true
-    Accessible.focused: entry.ListView.isCurrentItem
+    Accessible.focused: entry.spoken
     Accessible.ignored: !cell.accessibilityLabel || !enabled
     Accessible.onPressAction: entry.table.chooseEntry(entry.index)
 

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import UIKit
 
@@ -34,6 +36,8 @@ Rectangle {
         const place = focused.mapToItem(list.contentItem, mark);
         const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
         list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
+        if (focused === (row as UITableViewEntryView).item)
+            keyboard.forceActiveFocus(); // by screen reader; keys are heard here
     }
 
     function goTo(entry: int) {
@@ -75,6 +79,7 @@ Rectangle {
         id: keyboard
         focus: true
         activeFocusOnTab: root.rowsHaveKeyboard
+        current: list.spoken
         onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
             root.goTo(list.beside(list.topEntry() - 1, 1))
 
@@ -145,6 +150,12 @@ Rectangle {
         // is, or the view would throw it back whenever a row leaves while it is pulled down.
         property bool isShort: false
 
+        // What screen readers say when the rows have the keyboard.
+        readonly property Item spoken: {
+            const entry = currentItem as UITableViewEntryView;
+            return entry?.cell?.accessibilityLabel ? entry.item as Item : list;
+        }
+
         displayMarginBeginning: isShort ? 10000 : 200
         displayMarginEnd: displayMarginBeginning
         objectName: "list"
@@ -155,7 +166,9 @@ Rectangle {
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         model: root.control.entries
-        delegate: UITableViewEntryView { }
+        delegate: UITableViewEntryView {
+            spoken: keyboard.activeFocus && list.spoken === item
+        }
         bottomMargin: root.keyboardHeight
         onBottomMarginChanged: {
             returnToBounds()
@@ -165,6 +178,7 @@ Rectangle {
         Component.onCompleted: isShort = count <= 60
 
         Accessible.role: Accessible.List
+        Accessible.focused: keyboard.activeFocus && spoken === list
         Accessible.ignored: !enabled
     }
     FocusRing {
