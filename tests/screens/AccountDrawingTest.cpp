@@ -66,7 +66,8 @@ struct Stage {
     }
     [[nodiscard]] double scrolled()
     {
-        return list()->property("contentY").toDouble() - list()->property("originY").toDouble();
+        const auto value = [&](const char *name) { return list()->property(name).toDouble(); };
+        return value("contentY") - value("originY") + value("verticalOvershoot");
     }
     [[nodiscard]] QAccessibleInterface *accessible(const QString &name)
     {

@@ -11,13 +11,12 @@ Item {
     required property UIRefreshControl control
     required property ListView list
 
-    readonly property real pulled: Math.max(0, list.originY - list.contentY)
+    readonly property real pulled: Math.max(0, list.originY - list.contentY - list.verticalOvershoot)
     readonly property real margin: control.refreshing ? height : 0
     /// Whether the drag under way began while nothing was refreshed.
     property bool armed: false
 
-    /// Puts the table where it belongs, below the spinner or not. A margin that changes would throw
-    /// it there, so it is moved first.
+    /// Puts the table where it belongs, below the spinner or not.
     function settle() {
         if (list.dragging)
             return
@@ -25,7 +24,9 @@ Item {
             list.topMargin = margin // seen from further down, or the way back ends there by itself
         } else {
             list.cancelFlick()
+            moving.from = list.originY - pulled
             moving.to = list.originY - margin
+            list.topMargin = margin // thrown there at once, it is drawn again only when it moves
             moving.restart()
         }
     }
@@ -51,7 +52,6 @@ Item {
         property: "contentY"
         duration: Traits.reduceMotion ? 0 : 250
         easing.type: Easing.OutQuad
-        onFinished: root.list.topMargin = root.margin
     }
     Connections {
         target: root.list

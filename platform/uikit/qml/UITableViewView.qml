@@ -146,8 +146,7 @@ Rectangle {
             return indexAt(0, Math.max(originY, contentY));
         }
 
-        // What is just out of sight is there for Tab and for screen readers; of a short table all
-        // is, or the view would throw it back whenever a row leaves while it is pulled down.
+        // What is just out of sight is there for Tab and for screen readers; of a short table all is.
         property bool isShort: false
 
         // What screen readers say when the rows have the keyboard.
@@ -169,6 +168,10 @@ Rectangle {
         delegate: UITableViewEntryView {
             spoken: keyboard.activeFocus && list.spoken === item
         }
+        // What is drawn goes beyond its bounds, but the view does not: it would be thrown back
+        // whenever a row leaves there and the heights of those not yet seen are estimated anew.
+        boundsMovement: Flickable.StopAtBounds
+        contentItem.transform: Translate { y: -list.verticalOvershoot }
         bottomMargin: root.keyboardHeight
         onBottomMarginChanged: {
             returnToBounds()

@@ -35,6 +35,16 @@ public:
     }
 };
 
+/// Rows of very different heights, the low ones at both ends.
+class UnevenTable : public SampleTable {
+public:
+    explicit UnevenTable(int count) : SampleTable({count}) { }
+    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
+    {
+        return at.row < 12 || at.row > rows[0] - 12 ? 44 : 44 + at.row * 37 % 200;
+    }
+};
+
 struct Subtitle {
     const char *name;
     QString title;
@@ -202,6 +212,30 @@ private Q_SLOTS:
         keys({Qt::Key_PageUp, Qt::Key_Return});
         QVERIFY(m_table->chosen.at(0).row > 99950 && m_table->chosen.at(0).row < 99990);
         QTRY_VERIFY(SampleCell::living < 80);
+    }
+
+    // Whatever comes into sight or leaves it meanwhile.
+    void aPulledTableFollowsTheFinger()
+    {
+        for (const bool atEnd : {false, true}) {
+            show(make<UnevenTable>(2000));
+            if (atEnd)
+                keys({Qt::Key_End});
+            m_fixture->grab();
+            QQuickItem *row = item(atEnd ? 1999 : 1);
+            const double rest = WindowDriver::rect(row).y();
+            const int way = atEnd ? -1 : 1;
+            WindowDriver::Finger finger(*window(), {200, atEnd ? 700 : 150});
+            double before = 0;
+            for (int step = 1; step < 12; ++step) {
+                finger.move({200, (atEnd ? 700 : 150) + way * 50 * step});
+                const double pulled = way * (WindowDriver::rect(row).y() - rest);
+                QVERIFY(step == 1 || qAbs(pulled - before - 25) < 10); // half as far
+                before = pulled;
+            }
+            finger.lift();
+            QTRY_COMPARE(WindowDriver::rect(row).y(), rest);
+        }
     }
 
     void aReloadKeepsThePlace()
