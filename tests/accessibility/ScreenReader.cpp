@@ -40,7 +40,6 @@ constexpr Manners allManners[] = {
     {2, "alert"_L1, true, 0, {}},
     {16, "dialog"_L1, true, 0, {}},
     {23, "window"_L1, true, 0, {}},
-    {27, "picture"_L1, true, 0, {}},
     {29, "label"_L1, true, 0, {}},
     {31, "list"_L1, false, 0, {}},
     {32, "row"_L1, true, focusable | selectable, "Press"_L1},
@@ -104,8 +103,8 @@ void ScreenReader::collect(const Accessible &object, QList<Node> &found) const
 QList<ScreenReader::Node> ScreenReader::nodes() const
 {
     QList<Node> found;
-    for (const Accessible &application : m_bus.children(AccessibilityBus::desktop()))
-        collect(application, found);
+    for (const Accessible &object : m_bus.children(AccessibilityBus::desktop()))
+        collect(object, found);
     return found;
 }
 

@@ -9,13 +9,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What starts the bus says nothing when it is there; it asks for its name then.
+// Nothing is said when the bus is there, so it is asked for until it answers.
 QString busAddress()
 {
     const auto request = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
                                                         u"org.a11y.Bus"_s, u"GetAddress"_s);
     QDBusReply<QString> address;
-    [&] { QTRY_VERIFY((address = QDBusConnection::sessionBus().call(request)).isValid()); }();
+    [&] {
+        QTRY_VERIFY_WITH_TIMEOUT((address = QDBusConnection::sessionBus().call(request)).isValid(),
+                                 20000);
+    }();
     return address;
 }
 
