@@ -190,12 +190,13 @@ std::optional<UIColor::HSB> UIColor::getHue() const
     if (range <= 0)
         return HSB{0, 0, most, rgb->alpha};
     double sixth = 0;
-    if (most == rgb->red)
+    if (most == rgb->red) {
         sixth = (rgb->green - rgb->blue) / range;
-    else if (most == rgb->green)
+    } else if (most == rgb->green) {
         sixth = 2 + (rgb->blue - rgb->red) / range;
-    else
+    } else {
         sixth = 4 + (rgb->red - rgb->green) / range;
+    }
     return HSB{(sixth < 0 ? sixth + 6 : sixth) / 6, most > 0 ? range / most : 0, most, rgb->alpha};
 }
 

@@ -27,7 +27,7 @@ Item {
         height: 20
 
         Repeater {
-            model: 8
+            model: root.spokes
 
             Rectangle {
                 id: spoke
@@ -39,7 +39,6 @@ Item {
                 height: 6
                 radius: 1.25
                 antialiasing: true
-                visible: 7 - spoke.index < root.spokes
                 color: Traits.secondaryLabelColor
                 opacity: 1 - 0.1 * spoke.index
                 transform: Rotation {

@@ -71,10 +71,11 @@ bool UIControlArea::contains(const QPointF &point) const
 void UIControlArea::begin(const QPointF &point)
 {
     m_at = point;
-    if (scrolls(*this))
+    if (scrolls(*this)) {
         m_press.start(pressDelay);
-    else
+    } else {
         press();
+    }
 }
 
 void UIControlArea::press()
