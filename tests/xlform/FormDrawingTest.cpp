@@ -229,6 +229,23 @@ private Q_SLOTS:
         QCOMPARE(offset(), before);
     }
 
+    void aLongPressSelectsAWordAndOpensItsMenu()
+    {
+        Stage stage;
+        stage.form->notesView()->edit(u"wwwwwwww and more"_s);
+        const QRectF notes = stage.rect(stage.form->notesView());
+        WindowDriver::Finger finger(stage.view(), (notes.topLeft() + QPointF(30, 10)).toPoint());
+        const auto menu = [&] { return stage.fixture.accessible().filter(u"MenuItem"_s); };
+        QTRY_VERIFY(menu().contains(u"MenuItem Cut"_s));
+        finger.lift();
+        stage.fixture.key(Qt::Key_Down);
+        stage.fixture.key(Qt::Key_Return);
+        QVERIFY(menu().isEmpty());
+        QCOMPARE(stage.form->notes->value(), u" and more"_s);
+        stage.fixture.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(stage.form->notes->value(), u"wwwwwwww and more"_s);
+    }
+
     void screenReadersFindTheEditorsOnce()
     {
         Stage stage;

@@ -34,6 +34,7 @@ QtObject {
 
     readonly property real alertWidth: 270
     readonly property real alertRadius: 14
+    readonly property real menuWidth: 160
     readonly property real fieldRadius: 5
     readonly property real fieldInset: 7
 

@@ -16,7 +16,7 @@ TextInput {
     color: control.textColor.drawn(Traits.dark)
     selectionColor: Qt.alpha(Traits.accentColor, 0.3)
     selectedTextColor: color
-    selectByMouse: true
+    selectByMouse: !menu.touched
     activeFocusOnTab: true
     echoMode: control.secureTextEntry ? TextInput.Password : TextInput.Normal
     passwordCharacter: "\u2022"
@@ -41,4 +41,8 @@ TextInput {
     Accessible.ignored: !enabled
 
     TextInputFocus { responder: root.control }
+    EditMenuTrigger {
+        id: menu
+        secret: root.control.secureTextEntry
+    }
 }

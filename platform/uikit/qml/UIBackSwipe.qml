@@ -17,6 +17,7 @@ Item {
     property real speed: 0
 
     width: Metrics.swipeEdge
+    visible: controller.canGoBack
 
     onPossibleChanged: if (!possible)
         drag.end(false)

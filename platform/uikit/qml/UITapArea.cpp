@@ -8,6 +8,18 @@
 #include <QQuickWindow>
 #include <QStyleHints>
 
+namespace {
+
+// Whether `item` edits text, or lies in what does.
+bool edits(const QQuickItem *item)
+{
+    while (item && !item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod))
+        item = item->parentItem();
+    return item;
+}
+
+} // namespace
+
 void UITapArea::setReceiver(UIView *receiver)
 {
     if (m_receiver == receiver)
@@ -69,5 +81,5 @@ bool UITapArea::takes(const QPointF &scene) const
         return false;
     const QQuickItem *hit = HitTest::itemAt(m_window->contentItem(), scene);
     const bool own = !hit || hit->isAncestorOf(this) || parentItem()->isAncestorOf(hit);
-    return own && !(hit && hit->flags().testFlag(ItemAcceptsInputMethod));
+    return own && !edits(hit);
 }

@@ -46,6 +46,7 @@ Item {
             id: mouse
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         }
+        EditMenuTrigger { }
         TapHandler { onTapped: input.forceActiveFocus() }
     }
     Text {

@@ -63,6 +63,14 @@ private Q_SLOTS:
         page.key(Qt::Key_X, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"the"_s);
         QCOMPARE(page.name.text(), std::optional(u"set by  scree"_s));
+        page.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(page.name.text(), std::optional(u"set by the scree"_s));
+        page.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(page.name.text(), std::optional(u"set by  scree"_s));
+        QTest::mouseDClick(&page.fixture.window, Qt::LeftButton, {}, word);
+        QTest::mouseClick(&page.fixture.window, Qt::LeftButton, {}, word); // a third time
+        page.key(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"set by  scree"_s);
         QGuiApplication::clipboard()->setText(u"a\nb"_s);
         page.key(Qt::Key_A, Qt::ControlModifier);
         page.key(Qt::Key_V, Qt::ControlModifier);

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import UIKit
+
+/// A menu over the whole window, of what can be done with a text. A press outside closes it, and
+/// so does any key that does not move through it.
+KeyTaker {
+    id: root
+
+    required property list<string> titles
+    /// What the menu stands above, or below where there is no room; in the window.
+    required property rect place
+
+    readonly property real room: height - (InputMethod.visible ? InputMethod.keyboardRectangle.height : 0)
+    property int current: -1
+
+    signal chosen(title: string)
+    signal closed()
+
+    function move(step: int) {
+        current = (Math.max(current, step < 0 ? 0 : -1) + step + titles.length) % titles.length
+    }
+
+    anchors.fill: parent
+    LayoutMirroring.enabled: Metrics.direction < 0
+    LayoutMirroring.childrenInherit: true
+
+    Keys.onDownPressed: move(1)
+    Keys.onTabPressed: move(1)
+    Keys.onUpPressed: move(-1)
+    Keys.onBacktabPressed: move(-1)
+    Keys.onPressed: event => {
+        const chooses = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key)
+        if (chooses && current >= 0)
+            root.chosen(titles[current])
+        else if (event.key !== Qt.Key_Shift)
+            root.closed()
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onPressed: root.closed()
+        onWheel: root.closed()
+    }
+    Rectangle {
+        id: card
+
+        readonly property real above: root.place.y - height - Metrics.margin / 2
+
+        x: Math.max(Metrics.margin / 2, Math.min(root.place.x + (root.place.width - width) / 2, root.width - width - Metrics.margin / 2))
+        y: above >= Metrics.margin / 2 ? above : Math.max(0, Math.min(root.place.bottom + Metrics.margin / 2, root.room - height))
+        width: Math.min(Math.max(Metrics.menuWidth, rows.implicitWidth), root.width - Metrics.margin)
+        height: rows.height
+        radius: Metrics.alertRadius
+        color: Traits.alertColor
+        border.width: Metrics.hairline
+        border.color: Traits.separatorColor
+
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: qsTr("Edit")
+
+        Column {
+            id: rows
+            width: parent.width
+
+            Repeater {
+                model: root.titles
+
+                EditMenuItem {
+                    required property string modelData
+                    required property int index
+
+                    width: rows.width
+                    title: modelData
+                    first: index === 0
+                    current: index === root.current
+                    onTriggered: root.chosen(modelData)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// Put into a TextInput or TextEdit: a long press, the right mouse button and the menu key open
+/// its menu. A finger selects by a long press or a double tap, never by moving.
+Item {
+    id: root
+
+    property alias secret: actions.secret
+    readonly property bool touched: finger.active
+
+    readonly property TextInput line: parent as TextInput
+    readonly property TextEdit lines: parent as TextEdit
+    readonly property rect mark: line?.cursorRectangle ?? lines?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
+
+    function point(at: point, selects: bool) {
+        actions.point(line?.positionAt(at.x, at.y) ?? lines?.positionAt(at.x, at.y) ?? 0, selects)
+    }
+    function open(place: rect) {
+        const titles = actions.offered()
+        if (titles.length > 0)
+            menu.setSource("EditMenu.qml", {
+                "parent": Window.contentItem,
+                "titles": titles,
+                "place": mapToItem(null, place)
+            })
+    }
+
+    anchors.fill: parent
+    onEnabledChanged: menu.source = ""
+
+    EditActions {
+        id: actions
+        editor: root.parent
+    }
+    Loader { id: menu }
+    Connections {
+        target: menu.item as EditMenu
+        function onClosed() {
+            menu.source = ""
+        }
+        function onChosen(title: string) {
+            menu.source = ""
+            actions.perform(title)
+        }
+    }
+    PointHandler {
+        id: finger
+        acceptedDevices: PointerDevice.TouchScreen
+    }
+    TapHandler {
+        acceptedDevices: PointerDevice.TouchScreen
+        onDoubleTapped: eventPoint => root.point(eventPoint.position, true)
+        onLongPressed: {
+            root.point(point.position, true)
+            root.open(root.mark)
+        }
+    }
+    TapHandler {
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => {
+            root.point(eventPoint.position, false)
+            root.open(Qt.rect(eventPoint.position.x, eventPoint.position.y, 0, 0))
+        }
+    }
+    Shortcut {
+        sequences: ["Menu", "Shift+F10"]
+        enabled: root.enabled && root.parent.activeFocus
+        onActivated: root.open(root.mark)
+    }
+}

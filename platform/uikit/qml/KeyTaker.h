@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+/// Has every key of its window while it is there. What has the keyboard keeps it, and with it the
+/// on-screen keyboard, but hears nothing of the keys.
+class KeyTaker : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+
+private:
+    QPointer<QQuickWindow> m_window;
+};
