@@ -110,7 +110,8 @@ QList<ScreenReader::Node> ScreenReader::nodes() const
 
 bool ScreenReader::isFocused(const Node &node) const
 {
-    return (node.facts.states & hasFocus) && node.object.path == m_focused;
+    // What has the keyboard from the start may have said so before anybody listened.
+    return (node.facts.states & hasFocus) && (m_focused.isEmpty() || node.object.path == m_focused);
 }
 
 QString ScreenReader::describe(const Node &node) const
