@@ -1,121 +1,42 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/DemoIssues.h"
+#include "tests/screens/ScreenStage.h"
 #include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
-#include "tests/support/TestWindow.h"
 #include "tests/support/WindowDriver.h"
 
-#include <QAccessible>
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Screen {
-    const char *name;
-    bool signedIn;
-    QStringList path; // what is pressed on the way
-    QString walk; // where Tab comes to, from the first on
-    QString escaped; // what is there after Escape
-    QString back; // what is there after Alt+Left
-};
+/// What has the keyboard.
+QString focused(QQuickView &view)
+{
+    QQuickItem *item = view.activeFocusItem();
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
+    const QString type = QString::fromLatin1(item->metaObject()->className());
+    return interface                        ? interface->text(QAccessible::Name)
+        : type.startsWith(u"UIFocusItem"_s) ? u"rows"_s
+                                            : type;
+}
 
-const std::vector<Screen> screens{
-    {"Login",
-     false,
-     {},
-     u"Email, Password, Login, Forgot Password?, Need an Account?"_s,
-     u"Login"_s,
-     u"Login"_s},
-    {"Home", true, {}, u"rows, Home, Account"_s, u"Bug Reporter"_s, u"Bug Reporter"_s},
-    {"projects",
-     true,
-     {u"Bug Reporter"_s},
-     u"rows, Home, Account, Back to Home"_s,
-     u"Bug Reporter"_s,
-     u"Bug Reporter"_s},
-    {"issues",
-     true,
-     {u"Bug Reporter"_s, u"Marrow!"_s},
-     u"rows, Cancel, Add"_s,
-     u"Pintle"_s,
-     u"Marrow! Issues"_s},
-    {"new issue",
-     true,
-     {u"Bug Reporter"_s, u"Marrow!"_s, u"Add"_s},
-     u"Title, Notes, Cancel, Submit"_s,
-     u"Marrow! Issues"_s,
-     u"New Issue"_s},
-    {"Account",
-     true,
-     {u"Account"_s},
-     u"rows, Update, Logout, Home, Account"_s,
-     u"Logout"_s,
-     u"Logout"_s},
-    {"alert",
-     true,
-     {u"Account"_s, u"Update"_s},
-     u"Jo, New Password, Current Password, Dismiss, Update"_s,
-     u"Logout"_s,
-     u"Update Account"_s},
-};
+qsizetype rings(QQuickView &view)
+{
+    const QList<QQuickItem *> all = WindowDriver::items(view, u"FocusRing"_s);
+    return std::ranges::count_if(all, &QQuickItem::isVisible);
+}
 
-/// The application at one of its screens, in the smallest window.
-struct Stage {
-    explicit Stage(const Screen &screen, double textScale = 1)
-    {
-        if (screen.signedIn)
-            app.keepUser(WZTUser(42, u"jo@wzt.example"_s, u"Jo"_s));
-        if (!app.service().addIssues(sandbox::demoIssues()))
-            qFatal("no issues");
-        app.launch();
-        window.emplace(app, QSize(320, 568),
-                       UIAppearance{.textScale = textScale, .reduceMotion = true});
-        for (const QString &name : screen.path) {
-            window->settle();
-            accessible(name)->actionInterface()->doAction(
-                QAccessibleActionInterface::pressAction());
-        }
-        window->settle();
-        if (accessible(u"Loading"_s)) // or rows would come while they are looked at
-            QTRY_VERIFY(!accessible(u"Loading"_s));
+QStringList walk(QQuickView &view, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QStringList names;
+    for (QString now = focused(view); !names.contains(now); now = focused(view)) {
+        names.append(now);
+        QTest::keyClick(&view, key, modifiers);
     }
-
-    [[nodiscard]] QAccessibleInterface *accessible(const QString &name)
-    {
-        return WindowDriver::accessible(window->view(), name);
-    }
-    /// What has the keyboard.
-    [[nodiscard]] QString focused()
-    {
-        QQuickItem *item = window->view().activeFocusItem();
-        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
-        const QString type = QString::fromLatin1(item->metaObject()->className());
-        return interface                        ? interface->text(QAccessible::Name)
-            : type.startsWith(u"UIFocusItem"_s) ? u"rows"_s
-                                                : type;
-    }
-    [[nodiscard]] qsizetype rings()
-    {
-        const QList<QQuickItem *> all = WindowDriver::items(window->view(), u"FocusRing"_s);
-        return std::ranges::count_if(all, &QQuickItem::isVisible);
-    }
-    QStringList walk(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
-    {
-        QStringList names;
-        for (QString now = focused(); !names.contains(now); now = focused()) {
-            names.append(now);
-            QTest::keyClick(&window->view(), key, modifiers);
-        }
-        return names;
-    }
-
-    TestApp app;
-    std::optional<TestWindow> window;
-};
+    return names;
+}
 
 struct Seen {
     QString name;
@@ -161,39 +82,40 @@ class ScreensDrawingTest : public QObject {
 private Q_SLOTS:
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 
-    void theKeyboardComesToEverything_data() { addCases(screens); }
+    void theKeyboardComesToEverything_data() { addCases(allScreens()); }
 
     void theKeyboardComesToEverything()
     {
         const Screen &screen = currentCase<Screen>();
-        Stage stage(screen);
-        QCOMPARE(stage.rings(), 0);
-        const QStringList walk = stage.walk(Qt::Key_Tab);
-        QCOMPARE(walk.join(u", "_s), screen.walk);
-        QStringList back = stage.walk(Qt::Key_Backtab, Qt::ShiftModifier);
+        ScreenStage stage(screen);
+        QQuickView &view = stage.window->view();
+        QCOMPARE(rings(view), 0);
+        const QStringList forth = walk(view, Qt::Key_Tab);
+        QCOMPARE(forth.join(u", "_s), screen.walk);
+        QStringList back = walk(view, Qt::Key_Backtab, Qt::ShiftModifier);
         back.append(back.takeFirst());
         std::ranges::reverse(back);
-        QCOMPARE(back, walk);
-        for (int i = 0; i < walk.size(); ++i) {
-            const bool edits = stage.window->view().activeFocusItem()->flags().testFlag(
-                QQuickItem::ItemAcceptsInputMethod);
-            QCOMPARE(stage.rings(), edits ? 0 : 1);
+        QCOMPARE(back, forth);
+        for (int i = 0; i < forth.size(); ++i) {
+            const bool edits =
+                view.activeFocusItem()->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+            QCOMPARE(rings(view), edits ? 0 : 1);
             stage.window->key(Qt::Key_Tab);
         }
         // Wherever the keyboard is, a finger anywhere hides that.
         stage.window->key(Qt::Key_Backtab);
-        QVERIFY(stage.rings() == 1);
-        WindowDriver::tap(stage.window->view(), {160, 5});
-        QCOMPARE(stage.rings(), 0);
+        QCOMPARE(rings(view), 1);
+        WindowDriver::tap(view, {160, 5});
+        QCOMPARE(rings(view), 0);
     }
 
-    void keysLeaveTheScreen_data() { addCases(screens); }
+    void keysLeaveTheScreen_data() { addCases(allScreens()); }
 
     void keysLeaveTheScreen()
     {
         const Screen &screen = currentCase<Screen>();
         for (const int tabs : {0, 2}) {
-            Stage stage(screen);
+            ScreenStage stage(screen);
             for (int i = 0; i < tabs; ++i)
                 stage.window->key(Qt::Key_Tab);
             QTest::keyClick(&stage.window->view(), Qt::Key_Left, Qt::AltModifier);
@@ -219,7 +141,7 @@ private Q_SLOTS:
     void theWheelScrollsWhateverIsBelow()
     {
         const auto &[name, screen, over] = currentCase<Wheel>();
-        Stage stage(screens.at(screen), 2);
+        ScreenStage stage(allScreens().at(screen), {.textScale = 2});
         if (screen == 4) {
             stage.window->key(Qt::Key_Tab);
             stage.window->type(u"\r"_s.repeated(20));
@@ -240,7 +162,7 @@ private Q_SLOTS:
         }
     }
 
-    void everythingIsMirrored_data() { addCases(screens); }
+    void everythingIsMirrored_data() { addCases(allScreens()); }
 
     void everythingIsMirrored()
     {
@@ -248,7 +170,7 @@ private Q_SLOTS:
         QList<Seen> seen[2];
         for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             QGuiApplication::setLayoutDirection(direction);
-            Stage stage(screen);
+            ScreenStage stage(screen);
             QTRY_VERIFY(!stage.accessible(u"Loading"_s));
             stage.window->view().grabWindow();
             collect(stage.window->view().contentItem(), seen[direction]);

@@ -16,9 +16,9 @@ constexpr int caption = 20;
 
 } // namespace
 
-bool makeContactSheet(const QDir &folder, const QString &look)
+bool makeContactSheet(const QDir &folder)
 {
-    const QStringList names = folder.entryList({u"*-%1.png"_s.arg(look)}, QDir::Files, QDir::Name);
+    const QStringList names = folder.entryList({u"*.png"_s}, QDir::Files, QDir::Name);
     const int rows = (static_cast<int>(names.size()) + columns - 1) / columns;
     QImage sheet(columns * (small.width() + gap) + gap,
                  rows * (small.height() + caption + gap) + gap, QImage::Format_RGB32);
@@ -35,10 +35,10 @@ bool makeContactSheet(const QDir &folder, const QString &look)
                         gap + i / columns * (small.height() + caption + gap));
         const QImage picture(folder.filePath(names[i]));
         painter.drawText(QRect(at, QSize(small.width(), caption)), Qt::AlignVCenter,
-                         names[i].chopped(look.size() + 5));
+                         names[i].chopped(4));
         painter.drawImage(at + QPoint(0, caption),
                           picture.scaled(small, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     }
     painter.end();
-    return sheet.save(folder.filePath(look + u".png"_s));
+    return sheet.save(folder.absolutePath() + u".png"_s);
 }

@@ -4,6 +4,6 @@
 
 #include <QDir>
 
-/// Puts every picture of `folder` whose name ends in "-<look>.png", small and named, on one sheet,
-/// "<look>.png" in the same folder. False if the sheet cannot be written.
-[[nodiscard]] bool makeContactSheet(const QDir &folder, const QString &look);
+/// Puts every picture of `folder`, small and named, on one sheet beside the folder, "<folder>.png".
+/// False if the sheet cannot be written.
+[[nodiscard]] bool makeContactSheet(const QDir &folder);

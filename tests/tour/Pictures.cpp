@@ -103,6 +103,7 @@ std::vector<Picture> allPictures()
          "/submitissue.php", Fault::close()},
         {u"issues-after-form"_s,
          issues + sendForm + Steps{{Await, u"Submission Success"_s}, {Tap, u"Dismiss"_s}} + loaded},
+        {u"issues-many"_s, list + Steps{{Tap, u"QELVAN"_s}} + loaded},
         {u"issues-end"_s, issues + Steps{{End}}},
         {u"issues-loading"_s, list + Steps{{Tap, u"Pintle"_s}} + loading, "/issues.php",
          Fault::silence()},

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 
-// Drives the application through every screen, in light and dark, and leaves a picture of each.
+// Drives the application through every screen in every look, and leaves a picture of each.
 
 #include "tests/tour/Tour.h"
 
@@ -13,13 +13,15 @@
 
 int main(int argc, char *argv[])
 {
+    if (argc < 3 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))
+        || QByteArray(argv[2]).toDouble() <= 0) {
+        std::fputs("usage: wzt-tour DIR PIXELS_A_POINT [picture:LOOK/NAME...]\n", stderr);
+        return 2;
+    }
+    qputenv("QT_SCALE_FACTOR", argv[2]);
     const QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() < 2 || !QDir().mkpath(arguments[1])) {
-        std::fputs("usage: wzt-tour DIR [picture:NAME-LOOK...]\n", stderr);
-        return 2;
-    }
     Tour tour((QDir(arguments[1])));
-    return QTest::qExec(&tour, QStringList{arguments[0]} + arguments.sliced(2));
+    return QTest::qExec(&tour, QStringList{arguments[0]} + arguments.sliced(3));
 }

@@ -8,11 +8,12 @@ TextInput {
     id: root
 
     required property UITextField control
+    property real textScale: Traits.textScale
 
     verticalAlignment: TextInput.AlignVCenter
     clip: true
     text: control.text
-    font: control.font.drawn(Traits.textScale)
+    font: control.font.drawn(textScale)
     color: control.textColor.drawn(Traits.dark)
     selectionColor: Qt.alpha(Traits.accentColor, 0.3)
     selectedTextColor: color

@@ -13,12 +13,16 @@ Rectangle {
     readonly property real inset: rounded ? Metrics.fieldInset : control.leftViewWidth
 
     implicitWidth: input.implicitWidth + 2 * inset
-    implicitHeight: input.implicitHeight + 12
+    implicitHeight: Math.ceil(line.height) + 12
     color: control.fillColor.drawn(Traits.dark)
     radius: rounded ? Metrics.fieldRadius : control.layer.cornerRadius
     border.width: rounded ? Metrics.hairline : control.layer.borderWidth
     border.color: rounded ? Traits.separatorColor : control.layer.borderColor.drawn(Traits.dark)
 
+    FontMetrics {
+        id: line
+        font: root.control.font.drawn(Traits.textScale)
+    }
     TextFieldInput {
         id: input
         // What screen readers find here, who would find the secret itself otherwise.
@@ -29,6 +33,8 @@ Rectangle {
         anchors.rightMargin: root.inset
         containmentMask: reach
         control: root.control
+        // In a field that does not grow with its text no letter is cut.
+        textScale: Traits.textScale * Math.min(1, (root.height - 4) / line.height)
 
         Item {
             id: reach

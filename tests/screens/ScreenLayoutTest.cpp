@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/screens/ScreenStage.h"
+#include "tests/support/Cases.h"
+#include "tests/support/TestRunner.h"
+#include "tests/support/WindowDriver.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize sizes[] = {{320, 568}, {390, 844}, {768, 1024}, {1280, 800}, {568, 320}};
+constexpr double textScales[] = {1, 1.5, 2};
+/// What keeps any text from an edge of the window, in points.
+constexpr double margin = 8;
+
+/// A text as it is drawn.
+struct Drawn {
+    QString text;
+    QRectF whole; // in the window
+    QRectF seen; // of that, what no item around it cuts off
+    QQuickItem *item;
+};
+
+QRectF painted(QQuickItem *item)
+{
+    const double width = qMin(item->property("contentWidth").toDouble(), item->width());
+    const double height = item->property("contentHeight").toDouble();
+    const int alignment = item->property("effectiveHorizontalAlignment").toInt();
+    const int vertical = item->property("verticalAlignment").toInt();
+    const double x = item->width() - width;
+    const double y = item->height() - height;
+    return item->mapRectToScene({alignment == Qt::AlignLeft        ? 0
+                                     : alignment == Qt::AlignRight ? x
+                                                                   : x / 2,
+                                 vertical == Qt::AlignTop          ? 0
+                                     : vertical == Qt::AlignBottom ? y
+                                                                   : y / 2,
+                                 width, height});
+}
+
+void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
+{
+    if (!item->isVisible() || item->opacity() == 0)
+        return;
+    const QRectF clipped = item->clip() ? seen & WindowDriver::rect(item) : seen;
+    const QString text = item->property("text").toString();
+    if (item->inherits("QQuickText") && !text.isEmpty())
+        texts.append({text, painted(item), painted(item) & clipped, item});
+    else if (item->inherits("QQuickTextInput") && !text.isEmpty())
+        texts.append({text, WindowDriver::rect(item), WindowDriver::rect(item) & clipped, item});
+    for (QQuickItem *child : item->childItems())
+        collect(child, clipped, texts);
+}
+
+/// The texts of what lies on top.
+QList<Drawn> textsOf(QQuickView &view)
+{
+    QList<QQuickItem *> entries = WindowDriver::items(view, u"UITransitionEntryView"_s);
+    entries.removeIf([](QQuickItem *entry) { return entry->property("page").toBool(); });
+    QList<Drawn> texts;
+    collect(entries.last(), QRectF(QPointF(), view.size()), texts);
+    return texts;
+}
+
+/// Whether a screen reader says all of `text` of the item or of one that it is part of.
+bool isSpoken(const QString &text, QQuickItem *item)
+{
+    for (; item; item = item->parentItem()) {
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
+        if (interface && interface->text(QAccessible::Name).contains(text))
+            return true;
+    }
+    return false;
+}
+
+/// Whether the item is on something that a finger moves.
+bool scrolls(const QQuickItem *item)
+{
+    while (item && !item->inherits("QQuickFlickable"))
+        item = item->parentItem();
+    return item;
+}
+
+QStringList complaints(const QList<Drawn> &texts, const QSize &window)
+{
+    QStringList found;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const auto &[text, whole, seen, item] = texts[i];
+        const bool cut = item->property("truncated").toBool();
+        if (whole.left() < margin || whole.right() > window.width() - margin)
+            found += u"at the edge: "_s + text;
+        if (!scrolls(item) && (whole.top() < 0 || whole.bottom() > window.height()))
+            found += u"out of the window: "_s + text;
+        if (item->property("contentHeight").toDouble() > item->height() + 1)
+            found += u"higher than its place: "_s + text;
+        if (item->property("contentWidth").toDouble() > item->width() + 1 && !item->clip())
+            found += u"wider than its place: "_s + text;
+        if (cut && !isSpoken(text, item))
+            found += u"nowhere whole: "_s + text;
+        for (qsizetype j = 0; j < i; ++j) {
+            const QRectF both = seen & texts[j].seen;
+            if (both.width() > 1 && both.height() > 1)
+                found += texts[j].text + u" overlaps "_s + text;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+/// What holds for every screen, in every size and with every size of text.
+class ScreenLayoutTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTextHasItsPlace_data()
+    {
+        std::vector<Screen> screens = allScreens();
+        screens.push_back({"message", false, {u"Login"_s}, {}, {}, {}});
+        addCases(screens);
+    }
+
+    void everyTextHasItsPlace()
+    {
+        const Screen &screen = currentCase<Screen>();
+        WZTUser user(42, u"maximiliane.featherstonehaugh-cholmondeley@correspondence.wzt.example"_s,
+                     u"Maximiliane Alexandra Featherstonehaugh-Cholmondeley"_s);
+        user.joinDate = NSDate{0};
+        ScreenStage stage(screen, {.user = user});
+        QQuickView &view = stage.window->view();
+        for (const QSize &size : sizes) {
+            for (const double textScale : textScales) {
+                // All at once, as a desktop changes under an application that runs.
+                stage.app.application().traits().setOverride(
+                    UIAppearance{.textScale = textScale, .reduceMotion = true});
+                view.resize(size);
+                QTRY_COMPARE(view.contentItem()->size().toSize(), size);
+                view.grabWindow();
+                const QList<Drawn> texts = textsOf(view);
+                QVERIFY(!texts.isEmpty());
+                const QStringList found = complaints(texts, size);
+                QVERIFY2(found.isEmpty(),
+                         qPrintable(u"%1x%2 at %3: %4"_s.arg(size.width())
+                                        .arg(size.height())
+                                        .arg(textScale)
+                                        .arg(found.join(u"; "_s))));
+            }
+        }
+    }
+};
+
+WZT_TEST(ScreenLayoutTest)
+#include "ScreenLayoutTest.moc"
