@@ -15,18 +15,6 @@ bool KeyTaker::eventFilter(QObject *watched, QEvent *event)
         QCoreApplication::sendEvent(this, event);
         return true;
     default:
-        return QQuickItem::eventFilter(watched, event);
+        return WindowWatcher::eventFilter(watched, event);
     }
-}
-
-void KeyTaker::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    if (change == ItemSceneChange) {
-        if (m_window)
-            m_window->removeEventFilter(this);
-        m_window = data.window;
-        if (m_window)
-            m_window->installEventFilter(this);
-    }
-    QQuickItem::itemChange(change, data);
 }

@@ -2,22 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPointer>
-#include <QQuickItem>
-#include <QQuickWindow>
+#include "platform/uikit/qml/WindowWatcher.h"
 
 /// Has every key of its window while it is there. What has the keyboard keeps it, and with it the
 /// on-screen keyboard, but hears nothing of the keys.
-class KeyTaker : public QQuickItem {
+class KeyTaker : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
 
 public:
     bool eventFilter(QObject *watched, QEvent *event) override;
-
-protected:
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-
-private:
-    QPointer<QQuickWindow> m_window;
 };

@@ -28,18 +28,6 @@ void UITapArea::setReceiver(UIView *receiver)
     Q_EMIT receiverChanged();
 }
 
-void UITapArea::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    if (change == ItemSceneChange) {
-        if (m_window)
-            m_window->removeEventFilter(this);
-        m_window = data.window;
-        if (m_window)
-            m_window->installEventFilter(this);
-    }
-    QQuickItem::itemChange(change, data);
-}
-
 bool UITapArea::eventFilter(QObject *watched, QEvent *event)
 {
     const bool touch = event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchUpdate
@@ -53,7 +41,7 @@ bool UITapArea::eventFilter(QObject *watched, QEvent *event)
         m_press.reset();
     if ((touch || mouse) && !made)
         watch(*static_cast<QPointerEvent *>(event));
-    return QQuickItem::eventFilter(watched, event);
+    return WindowWatcher::eventFilter(watched, event);
 }
 
 void UITapArea::watch(const QPointerEvent &event)
@@ -79,7 +67,7 @@ bool UITapArea::takes(const QPointF &scene) const
     if (!m_receiver || !m_receiver->recognizesTaps() || !isVisible() || !isEnabled()
         || !parentItem()->contains(parentItem()->mapFromScene(scene)))
         return false;
-    const QQuickItem *hit = HitTest::itemAt(m_window->contentItem(), scene);
+    const QQuickItem *hit = HitTest::itemAt(window()->contentItem(), scene);
     const bool own = !hit || hit->isAncestorOf(this) || parentItem()->isAncestorOf(hit);
     return own && !edits(hit);
 }

@@ -3,16 +3,14 @@
 #pragma once
 
 #include "platform/uikit/UIView.h"
-
-#include <QPointer>
-#include <QQuickItem>
+#include "platform/uikit/qml/WindowWatcher.h"
 
 #include <optional>
 
 /// Tells a view of the taps on it: put into the item that draws the view, it sees the taps on all
 /// of that item, without taking them from the controls there. A tap on a text field is left to the
 /// field, which would lose the keyboard again at once.
-class UITapArea : public QQuickItem {
+class UITapArea : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(UIView *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged REQUIRED)
@@ -27,14 +25,10 @@ public:
 Q_SIGNALS:
     void receiverChanged();
 
-protected:
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-
 private:
     void watch(const QPointerEvent &event);
     [[nodiscard]] bool takes(const QPointF &scene) const;
 
     QPointer<UIView> m_receiver;
-    QPointer<QQuickWindow> m_window;
     std::optional<QPointF> m_press;
 };
