@@ -3,6 +3,7 @@
 #include "tests/support/TestApp.h"
 
 #include "platform/foundation/NSKeyedArchiver.h"
+#include "platform/uikit/UIAlertController.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,9 +35,31 @@ void TestApp::launch()
     m_runtime->delegate().didFinishLaunchingWithOptions();
 }
 
+void TestApp::launchSignedIn(const QString &name, const QString &email)
+{
+    const auto account = m_service->addAccount({.email = email, .name = name}, u"secret"_s);
+    keepUser(WZTUser(static_cast<int>(account->number), email, name));
+    launch();
+}
+
 void TestApp::quit()
 {
     m_runtime.reset();
+}
+
+QString TestApp::alert()
+{
+    const auto *alert = top<UIAlertController>();
+    if (!alert)
+        return {};
+    QStringList shown{alert->title(), alert->message()};
+    for (const auto &field : alert->textFields())
+        shown.append(field->placeholder());
+    for (const auto &action : alert->actions()) {
+        const bool cancels = action->style() == UIAlertAction::Style::Cancel;
+        shown.append(cancels ? u'(' + action->title() + u')' : action->title());
+    }
+    return shown.join(u'|');
 }
 
 NSUserDefaults TestApp::defaults() const

@@ -33,6 +33,9 @@ public:
     /// Starts the application; ends the run before it, if there is one, as its end of the process
     /// would.
     void launch();
+    /// The same for somebody who has an account, its password "secret", and is signed in.
+    void launchSignedIn(const QString &name = QStringLiteral("Jo"),
+                        const QString &email = QStringLiteral("jo@wzt.example"));
     /// Ends the run; nothing below `delegate()` may be used until the next launch.
     void quit();
 
@@ -57,6 +60,9 @@ public:
     {
         return qobject_cast<Controller *>(delegate().window()->presentation()->top());
     }
+    /// What the topmost alert shows: "title|message|field|...|action|...", brackets around the
+    /// action of the cancel style. Empty when the topmost is no alert.
+    [[nodiscard]] QString alert();
 
 private:
     [[nodiscard]] NSUserDefaults defaults() const;
