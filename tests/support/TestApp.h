@@ -20,12 +20,7 @@
 ///     auto *login = app.top<WZTLoginViewController>();
 class TestApp {
 public:
-    struct Options {
-        std::chrono::milliseconds timeoutIntervalForRequest = std::chrono::seconds(10);
-    };
-
-    TestApp() : TestApp(Options()) { }
-    explicit TestApp(const Options &options);
+    TestApp();
     /// Ends the run as the application ends.
     ~TestApp();
     Q_DISABLE_COPY_MOVE(TestApp)
@@ -46,9 +41,7 @@ public:
     [[nodiscard]] std::optional<QByteArray> keptData() const;
     [[nodiscard]] static QByteArray archived(const WZTUser &user);
 
-    [[nodiscard]] sandbox::Sandbox &service() { return *m_service; }
-    /// Nothing listens at the service's address any more.
-    void stopService() { m_service.reset(); }
+    [[nodiscard]] sandbox::Sandbox &service() { return m_service; }
     [[nodiscard]] RecordingHost &host() { return m_host; }
     [[nodiscard]] QString folder() const { return m_folder.path(); }
 
@@ -69,7 +62,7 @@ private:
 
     QTemporaryDir m_folder;
     RecordingHost m_host;
-    std::unique_ptr<sandbox::Sandbox> m_service;
+    sandbox::Sandbox m_service{{.hashMemory = 8192, .hashPasses = 1}};
     Runtime::Settings m_settings;
     std::unique_ptr<Runtime> m_runtime;
 };
