@@ -130,20 +130,20 @@ private Q_SLOTS:
         QCOMPARE(list->item(u"$archiver"_s).string(), u"NSKeyedArchiver"_s);
         const QList<PropertyListNode> objects = list->item(u"$objects"_s).elements();
         QCOMPARE(objects.at(0).string(), u"$null"_s);
-        const auto object = [&](const PropertyListNode &node) {
-            return objects.value(qsizetype(node.uid().value_or(99)));
+        const auto object = [&](const PropertyListNode &node, const QString &key) {
+            return objects.value(qsizetype(node.item(key).uid().value_or(99)));
         };
-        const PropertyListNode root = object(list->item(u"$top"_s).item(u"root"_s));
-        const PropertyListNode date = object(root.item(u"date"_s));
+        const PropertyListNode root = object(list->item(u"$top"_s), u"root"_s);
+        const PropertyListNode date = object(root, u"date"_s);
         QCOMPARE(root.item(u"flag"_s).boolean(), true);
-        QCOMPARE(object(root.item(u"number"_s)).integer(), 7);
-        QCOMPARE(object(root.item(u"name"_s)).string(), u"same"_s);
+        QCOMPARE(object(root, u"number"_s).integer(), 7);
+        QCOMPARE(object(root, u"name"_s).string(), u"same"_s);
         QCOMPARE(root.item(u"alias"_s).uid(), root.item(u"name"_s).uid());
         QCOMPARE(date.item(u"NS.time"_s).real(), 0.5);
         for (const auto &[node, name] : {std::pair(root, recordClass), {date, u"NSDate"_s}}) {
-            const PropertyListNode description = object(node.item(u"$class"_s));
-            QCOMPARE(description.item(u"$classname"_s).string(), name);
+            const PropertyListNode description = object(node, u"$class"_s);
             const QList<PropertyListNode> names = description.item(u"$classes"_s).elements();
+            QCOMPARE(description.item(u"$classname"_s).string(), name);
             QCOMPARE(names.at(0).string(), name);
             QCOMPARE(names.at(1).string(), u"NSObject"_s);
         }
