@@ -62,6 +62,16 @@ private Q_SLOTS:
         }
     }
 
+    void stagedForEverUntilCleared()
+    {
+        for (const QString &line : {u"* status 500"_s, u"* status 501 -1"_s})
+            QCOMPARE(m_service.stageLine(line), QString());
+        for (const long status : {500, 501, 501})
+            QCOMPARE(answer().status, status);
+        QCOMPARE(m_service.stageLine(u"clear"_s), QString());
+        QCOMPARE(answer().status, 200);
+    }
+
     void stagedBytes()
     {
         m_service.stageLine(u"/user.php json 418 '{\"a\": \"b  c\"}'"_s);
