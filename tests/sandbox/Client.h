@@ -3,21 +3,15 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonObject>
-#include <QList>
-#include <QString>
 
 #include <memory>
 
-/// What a client wants to send.
+/// What a client wants to send; the target byte for byte.
 struct Call {
     QByteArray method = "GET";
-    /// Sent byte for byte.
     QByteArray target = {};
-    QByteArray host = "localhost";
-    QList<QByteArray> headers = {};
-    QByteArray body = {};
-    bool followsRedirects = false;
     long timeout = 20'000;
 };
 
@@ -29,10 +23,11 @@ struct Answer {
     QByteArray head = {};
     /// The first mebibyte of it; what is more ends the transfer with an error.
     QByteArray body = {};
-    qint64 milliseconds = 0;
 
     [[nodiscard]] QJsonObject json() const;
+    [[nodiscard]] QJsonArray list() const;
     [[nodiscard]] QString result() const;
+    [[nodiscard]] bool isUser() const;
 };
 
 /// An HTTPS client that trusts one authority, and keeps its connection from call to call.
