@@ -4,7 +4,7 @@
 
 #include "platform/uikit/UITableViewController.h"
 
-/// A cell that counts its uses.
+/// A cell that is counted, and counts its uses.
 class SampleCell : public UITableViewCell {
     Q_OBJECT
 
@@ -33,7 +33,12 @@ class SampleTable : public UITableViewController {
 public:
     std::vector<int> rows;
     std::vector<NSIndexPath> chosen;
-    std::function<void()> whenChosen;
+    std::function<void()> whenChosen = [] {};
+    std::function<double(const NSIndexPath &)> height = [](const NSIndexPath &at) {
+        return at == NSIndexPath{0, 2} ? 70 : UITableViewAutomaticDimension;
+    };
+    /// Makes every row anew, if there is one.
+    std::function<std::shared_ptr<UITableViewCell>()> makeRow;
 
     explicit SampleTable(std::vector<int> counts)
         : UITableViewController(UITableViewStyle::Grouped), rows(std::move(counts))
@@ -47,6 +52,8 @@ public:
     }
     std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &at) override
     {
+        if (makeRow)
+            return makeRow();
         auto cell = tableView()->dequeueReusableCellWithIdentifier(QStringLiteral("sample"));
         cell->textLabel()->setText(QStringLiteral("Row %1.%2").arg(at.section).arg(at.row));
         if (at == NSIndexPath{0, 1})
@@ -55,7 +62,7 @@ public:
     }
     [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
     {
-        return at == NSIndexPath{0, 2} ? 70 : UITableViewAutomaticDimension;
+        return height(at);
     }
     [[nodiscard]] double heightForFooterInSection(int section) const override
     {
@@ -72,7 +79,6 @@ public:
     void didSelectRowAtIndexPath(const NSIndexPath &at) override
     {
         chosen.push_back(at);
-        if (whenChosen)
-            whenChosen();
+        whenChosen();
     }
 };

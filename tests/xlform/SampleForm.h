@@ -7,16 +7,24 @@
 #include "platform/xlform/XLFormTextViewCell.h"
 #include "platform/xlform/XLFormViewController.h"
 
-/// A form of three sections: a required line with a text below, nothing, and notes; a Cancel button
-/// and "Done" above it.
+/// A form of three sections: a line with a text below, nothing, and notes; a Cancel button and
+/// "Done" above it.
 class SampleForm : public XLFormViewController {
-    Q_OBJECT
-
 public:
-    SampleForm() : SampleForm(row("name", "Name"), row("notes", "Notes")) { }
+    using Row = std::shared_ptr<XLFormRowDescriptor>;
 
-    const std::shared_ptr<XLFormRowDescriptor> name;
-    const std::shared_ptr<XLFormRowDescriptor> notes;
+    explicit SampleForm(const Row &first = row(XLFormRowDescriptorType::Text, "Name"),
+                        const Row &last = row(XLFormRowDescriptorType::TextView, "Notes"))
+        : XLFormViewController(describe({first, {}, last})), name(first), notes(last)
+    {
+        navigationItem()->setLeftBarButtonItem(
+            make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &SampleForm::cancel));
+        navigationItem()->setRightBarButtonItem(make<UIBarButtonItem>(
+            QStringLiteral("Done"), UIBarButtonItemStyle::Plain, this, &SampleForm::cancel));
+    }
+
+    const Row name;
+    const Row notes;
     int cancelled = 0;
 
     UITextField *nameField()
@@ -29,38 +37,22 @@ public:
     }
 
 private:
-    using Row = std::shared_ptr<XLFormRowDescriptor>;
-
-    SampleForm(const Row &first, const Row &last)
-        : XLFormViewController(describe(first, last)), name(first), notes(last)
+    static Row row(XLFormRowDescriptorType type, const char *title)
     {
-        navigationItem()->setLeftBarButtonItem(
-            make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &SampleForm::cancel));
-        navigationItem()->setRightBarButtonItem(make<UIBarButtonItem>(
-            QStringLiteral("Done"), UIBarButtonItemStyle::Plain, this, &SampleForm::done));
+        const QString text = QString::fromLatin1(title);
+        return XLFormRowDescriptor::formRowDescriptorWithTag(text, type, text);
     }
-
-    static Row row(const char *tag, const char *title)
-    {
-        using enum XLFormRowDescriptorType;
-        return XLFormRowDescriptor::formRowDescriptorWithTag(
-            QString::fromLatin1(tag), tag[1] == 'a' ? Text : TextView, QString::fromLatin1(title));
-    }
-    static std::shared_ptr<XLFormDescriptor> describe(const Row &first, const Row &last)
+    static std::shared_ptr<XLFormDescriptor> describe(std::initializer_list<Row> rows)
     {
         auto form = XLFormDescriptor::formDescriptorWithTitle(QStringLiteral("Form"));
         form->setAssignFirstResponderOnShow(true);
-        for (const Row &row : {first, Row(), last}) {
+        for (const Row &row : rows) {
             form->addFormSection(XLFormSectionDescriptor::formSection());
             if (row)
                 form->formSections().back()->addFormRow(row);
         }
         form->formSections().front()->setFooterTitle(QStringLiteral("Below the name"));
-        first->setRequired(true);
-        last->cellConfigAtConfigure()[QStringLiteral("textView.placeholder")] =
-            QStringLiteral("More about it?");
         return form;
     }
     void cancel() { ++cancelled; }
-    void done() { tableView()->endEditing(true); }
 };

@@ -3,31 +3,32 @@
 #pragma once
 
 #include "platform/uikit/UIActivityIndicatorView.h"
+#include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UIImageView.h"
-#include "platform/uikit/UILabel.h"
-#include "platform/uikit/UITapGestureRecognizer.h"
 #include "platform/uikit/UITextField.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/support/WindowDriver.h"
 #include "tests/uikit/EventLog.h"
-#include "tests/uikit/qml/QmlFixture.h"
 
-/// A page with one control of each kind, drawn in a window; "link" lies 2 points below "button".
-class ControlsPage : public QObject {
+#include <QQuickView>
+
+/// A page with one control of each kind, in a window of 390x844; "link" lies 2 points below
+/// "button". Anything that QML complains about fails the test.
+class ControlsPage {
 public:
     ControlsPage();
 
+    RecordingHost host;
+    UIApplication application{host};
     UIView view;
-    UILabel label;
     UITextField name;
     UITextField secret;
     UIButton button;
     UIButton link;
     UIImageView picture;
     UIActivityIndicatorView spinner;
-    /// How often the page was tapped.
-    int taps = 0;
-    /// Goes before what it draws.
-    QmlFixture fixture;
+    QQuickView window;
 
     /// The item of that objectName: those of the controls above, or "page", the root.
     [[nodiscard]] QQuickItem *item(const char *objectName) const;
@@ -35,7 +36,5 @@ public:
     [[nodiscard]] QPoint at(const char *objectName) const;
     void key(int key, Qt::KeyboardModifiers modifiers = {});
     void type(const char *text);
-
-private:
-    void tapped() { ++taps; }
+    void tap(const QPoint &point) { WindowDriver::tap(window, point); }
 };

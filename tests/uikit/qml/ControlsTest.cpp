@@ -4,7 +4,6 @@
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/qml/ControlsPage.h"
 
-#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -25,7 +24,6 @@ private Q_SLOTS:
     void touches_data()
     {
         addCases<Touch>({
-            {"tap", {{0, 0}}, u"down* up"_s, {}},
             {"slide inside", {{0, 0}, {20, 5}}, u"down* inside* up"_s, {}},
             {"slide off", {{0, 0}, {150, 0}}, u"down* exit outside off"_s, {}},
             {"and back in",
@@ -46,27 +44,25 @@ private Q_SLOTS:
             ControlsPage page;
             EventLog log(page.button);
             EventLog link(page.link);
-            QQuickView *window = &page.fixture.window;
             QTest::QTouchEventSequence finger =
-                QTest::touchEvent(window, WindowDriver::screen(), false);
-            const QPoint middle = page.at("button");
+                QTest::touchEvent(&page.window, WindowDriver::screen(), false);
             for (const QPoint &step : path) {
                 const bool first = &step == &path.first();
-                const QPoint at = middle + step;
+                const QPoint at = page.at("button") + step;
                 if (mouse)
-                    first ? QTest::mousePress(window, Qt::LeftButton, {}, at)
-                          : QTest::mouseMove(window, at);
+                    first ? QTest::mousePress(&page.window, Qt::LeftButton, {}, at)
+                          : QTest::mouseMove(&page.window, at);
                 else
-                    (first ? finger.press(0, at, window) : finger.move(0, at, window)).commit();
-                QSignalSpy frame(window,
-                                 &QQuickWindow::frameSwapped); // which moves are delivered with
-                window->update();
-                QVERIFY(frame.wait());
+                    (first ? finger.press(0, at) : finger.move(0, at)).commit();
+                QSignalSpy frame(&page.window, &QQuickWindow::frameSwapped);
+                page.window.update();
+                QVERIFY(frame.wait()); // which moves are delivered with
             }
+            const QPoint end = page.at("button") + path.last();
             if (mouse)
-                QTest::mouseRelease(window, Qt::LeftButton, {}, middle + path.last());
+                QTest::mouseRelease(&page.window, Qt::LeftButton, {}, end);
             else
-                finger.release(0, middle + path.last(), window).commit();
+                finger.release(0, end).commit();
             QCOMPARE(log.take(), events);
             QCOMPARE(link.take(), neighbour);
         }
@@ -79,150 +75,64 @@ private Q_SLOTS:
             [](ControlsPage &page) { page.item("page")->setVisible(false); },
             [](ControlsPage &page) {
                 QTouchEvent cancel(QEvent::TouchCancel, WindowDriver::screen());
-                QCoreApplication::sendEvent(&page.fixture.window, &cancel);
+                QCoreApplication::sendEvent(&page.window, &cancel);
             },
         };
         for (const auto take : takings) {
             ControlsPage page;
             EventLog log(page.button);
-            QQuickView *window = &page.fixture.window;
-            QTest::touchEvent(window, WindowDriver::screen()).press(0, page.at("button"), window);
+            WindowDriver::Finger finger(page.window, page.at("button"));
             take(page);
-            QTest::touchEvent(window, WindowDriver::screen()).release(0, page.at("button"), window);
+            finger.lift();
             QCOMPARE(log.take(), u"down* cancel"_s);
-            QCOMPARE(page.taps, 0);
         }
-    }
-
-    void keysPressButtons()
-    {
-        ControlsPage page;
-        EventLog log(page.button);
-        QQuickItem *button = page.item("button");
-        const auto ring = [button] { return button->property("focusVisible").toBool(); };
-        for (int tab = 0; tab < 3; ++tab)
-            page.key(Qt::Key_Tab);
-        QVERIFY(button->hasActiveFocus() && ring());
-        page.key(Qt::Key_Space);
-        page.key(Qt::Key_Return);
-        page.key(Qt::Key_A);
-        QCOMPARE(log.take(), u"down* up down* up"_s);
-        page.item("page")->setEnabled(false); // an alert comes and goes
-        QVERIFY(!ring());
-        page.item("page")->setEnabled(true);
-        QVERIFY(ring());
-        page.fixture.tap(page.at("button"));
-        QVERIFY(!ring());
-        page.key(Qt::Key_Tab);
-        QVERIFY(page.item("link")->hasActiveFocus());
-        page.key(Qt::Key_Backtab, Qt::ShiftModifier);
-        QVERIFY(button->hasActiveFocus() && ring());
-    }
-
-    void tapsReachThePage()
-    {
-        const std::tuple<QPoint, int, QString> rows[] = {
-            {{300, 500}, 1, {}}, // the background
-            {{60, 30}, 1, {}}, // the label
-            {{70, 187}, 1, u"down* up"_s}, // the button
-            {{120, 78}, 0, {}}, // the field
-            {{24, 78}, 0, {}}, // the blank before its text
-        };
-        for (const auto &[at, taps, events] : rows) {
-            ControlsPage page;
-            EventLog log(page.button);
-            page.fixture.tap(at);
-            QCOMPARE(page.taps, taps);
-            QCOMPARE(log.take(), events);
-            QCOMPARE(page.name.isFirstResponder(), taps == 0);
-            QTest::mouseClick(&page.fixture.window, Qt::LeftButton, {}, at);
-            QCOMPARE(page.taps, 2 * taps);
-        }
-    }
-
-    void screenReadersFindEverything()
-    {
-        ControlsPage page;
-        page.link.setAccessibilityLabel(u"Need help?"_s);
-        page.secret.setText(u"hunter2"_s);
-        page.spinner.startAnimating();
-        const auto found = [&] { return WindowDriver::accessible(page.fixture.window); };
-        QCOMPARE(
-            found().join(u", "_s),
-            u"StaticText Account Login, EditableText Name, EditableText Password, Button Login, "
-            "Button Need help?, ProgressBar Loading"_s);
-        EventLog log(page.button);
-        QAccessibleInterface *button = QAccessible::queryAccessibleInterface(page.item("button"));
-        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(log.take(), u"down* up"_s);
-
-        page.label.setText({});
-        page.spinner.stopAnimating();
-        QCOMPARE(found().size(), 4);
-        page.item("page")->setEnabled(false); // covered by an alert
-        QCOMPARE(found(), QStringList());
     }
 
     void coloursFollowTheStyle()
     {
         ControlsPage page;
-        const auto pixel = [&page](QPoint at) {
-            return page.fixture.grab()
-                .pixelColor(at * page.fixture.window.devicePixelRatio())
-                .name();
+        const auto pixels = [&page]() -> QString { // of the background, and of a field
+            const QImage image = page.window.grabWindow();
+            const auto at = [&](QPoint point) {
+                return image.pixelColor(point * page.window.devicePixelRatio()).name();
+            };
+            return at({300, 500}) + at({200, 134});
         };
-        const QPoint field(200, 134);
-        QCOMPARE(pixel({300, 500}), u"#f2f2f7"_s);
-        QCOMPARE(pixel(field), u"#ffffff"_s);
-        page.fixture.application.traits().setOverride(UIAppearance{UIUserInterfaceStyle::Dark});
-        QCOMPARE(pixel({300, 500}), u"#000000"_s);
-        QCOMPARE(pixel(field), u"#1c1c1e"_s);
-        page.view.setBackgroundColor(UIColor());
-        page.name.setLayer({.borderWidth = 4, .borderColor = UIColor::colorWithRed(1, 0, 0, 1)});
-        QCOMPARE(pixel({120, 62}), u"#ff0000"_s);
+        QCOMPARE(pixels(), u"#f2f2f7#ffffff"_s);
+        page.application.traits().setOverride(UIAppearance{UIUserInterfaceStyle::Dark});
+        QCOMPARE(pixels(), u"#000000#1c1c1e"_s);
     }
 
     void picturesAreCrispAndTinted()
     {
         QVERIFY(UIImage::imageNamed(u"nothing of that name"_s).name().isEmpty());
         ControlsPage page;
-        // The left half of the picture is red; its edge is sharp in device pixels.
-        const QImage image = page.fixture.grab();
-        const double ratio = page.fixture.window.devicePixelRatio();
-        const int edge = int(60 * ratio);
-        const int y = int(270 * ratio);
-        QCOMPARE(image.pixelColor(edge - 1, y).name(), u"#ff0000"_s);
-        QCOMPARE(image.pixelColor(edge, y).name(), u"#f2f2f7"_s);
-
-        page.fixture.showSource(
-            "import UIKit; UIImagePicture { name: 'testMark'; tint: '#8000ff00' }", {});
-        const QImage tinted = page.fixture.grab(); // fitted into the window, and half as strong
-        QCOMPARE(tinted.pixelColor(int(10 * ratio), tinted.height() / 2).name(), u"#7fff7f"_s);
-        QCOMPARE(tinted.pixelColor(int(10 * ratio), int(10 * ratio)).name(), u"#ffffff"_s);
+        const QImage image = page.window.grabWindow();
+        const double ratio = page.window.devicePixelRatio();
+        // The left half of the picture is filled; its edge is sharp in device pixels.
+        const auto pixels = [&](int x) -> QString {
+            const int edge = int(x * ratio);
+            const int y = int(270 * ratio);
+            return image.pixelColor(edge - 1, y).name() + image.pixelColor(edge, y).name();
+        };
+        QCOMPARE(pixels(60), u"#ff0000#f2f2f7"_s);
+        QCOMPARE(pixels(160), u"#79f97b#f2f2f7"_s); // half as strong
     }
 
-    void labelsAndSpinnersTakeNothingWhenIdle()
+    void nothingTurnsThatIsNotSeen()
     {
         ControlsPage page;
-        const double height = page.item("label")->height();
-        page.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});
-        QVERIFY(page.item("label")->height() > 1.9 * height);
-        page.label.setText({});
-        QCOMPARE(page.item("label")->height(), 0.0);
-
-        QQuickItem *spinner = page.item("spinner");
-        const auto running = [spinner] {
-            for (QObject *child : spinner->children()) {
-                if (child->property("running").toBool())
-                    return true;
-            }
-            return false;
+        const QQuickItem *spinner = page.item("spinner");
+        const auto turns = [spinner] {
+            return std::ranges::any_of(spinner->children(), [](const QObject *child) {
+                return child->property("running").toBool();
+            });
         };
-        QVERIFY(!spinner->isVisible() && !running());
+        QVERIFY(!spinner->isVisible() && !turns());
         page.spinner.startAnimating();
-        QVERIFY(spinner->isVisible() && running());
+        QVERIFY(spinner->isVisible() && turns());
         page.item("page")->setVisible(false);
-        QVERIFY(!running());
+        QVERIFY(!turns());
     }
 };
 

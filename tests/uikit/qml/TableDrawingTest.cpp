@@ -3,7 +3,7 @@
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"
-#include "tests/uikit/qml/QmlFixture.h"
+#include "tests/uikit/qml/WindowFixture.h"
 
 #include <QAccessible>
 #include <QTest>
@@ -11,39 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Rows with a subtitle, one like the other.
-class SubtitleTable : public SampleTable {
-public:
-    QString title;
-    QString detail;
-    int lines = 0;
-
-    explicit SubtitleTable(int count) : SampleTable({count}) { }
-    std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &) override
-    {
-        auto cell = make<SampleCell>(UITableViewCellStyle::Subtitle, u"sample"_s);
-        cell->textLabel()->setText(title);
-        cell->textLabel()->setNumberOfLines(lines);
-        cell->detailTextLabel()->setText(detail);
-        cell->detailTextLabel()->setNumberOfLines(lines);
-        return cell;
-    }
-    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &) const override
-    {
-        return UITableViewAutomaticDimension;
-    }
-};
-
-/// Rows of very different heights, the low ones at both ends.
-class UnevenTable : public SampleTable {
-public:
-    explicit UnevenTable(int count) : SampleTable({count}) { }
-    [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override
-    {
-        return at.row < 12 || at.row > rows[0] - 12 ? 44 : 44 + at.row * 37 % 200;
-    }
-};
 
 struct Subtitle {
     const char *name;
@@ -59,8 +26,6 @@ struct Subtitle {
 /// Tables in a real window.
 class TableDrawingTest : public QObject {
     Q_OBJECT
-
-    const QString press = QAccessibleActionInterface::pressAction();
 
 private Q_SLOTS:
     void cleanup()
@@ -90,9 +55,8 @@ private Q_SLOTS:
             {14, rows + 132 + footer + 18 + 132, 18},
         };
         for (const auto &[entry, y, height] : expected) {
-            QCOMPARE(item(entry)->y(), y);
-            QCOMPARE(item(entry)->height(), height);
-            QCOMPARE(item(entry)->width(), 390);
+            const QRectF place(item(entry)->position(), item(entry)->size());
+            QCOMPARE(place, QRectF(0, y, 390, height));
         }
         QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->mapToItem(item(1), {}).x(), 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
@@ -114,118 +78,125 @@ private Q_SLOTS:
             {"both", u"One"_s, u"<b>more</b>"_s, 0, 1, 1},
             {"as many lines as needed", words, words, 0, 3, 2},
             {"two at most", words, words, 2, 2, 2},
-            {"one", words, words, 1, 1, 1},
             {"a word without end", QString(90, u'm'), u"a\nb"_s, 0, 4, 2},
         });
     }
 
     void rowsFitTheirTexts()
     {
-        const auto &[name, title, detail, lines, titleLines, detailLines] = currentCase<Subtitle>();
-        auto table = make<SubtitleTable>(31000);
-        table->title = title;
-        table->detail = detail;
-        table->lines = lines;
+        const Subtitle &row = currentCase<Subtitle>();
+        auto table = make<SampleTable>(std::vector{50});
+        table->makeRow = [&row] {
+            auto cell = make<SampleCell>(UITableViewCellStyle::Subtitle, u"sample"_s);
+            cell->textLabel()->setText(row.title);
+            cell->textLabel()->setNumberOfLines(row.lines);
+            cell->detailTextLabel()->setText(row.detail);
+            cell->detailTextLabel()->setNumberOfLines(row.lines);
+            return cell;
+        };
+        table->height = [](const auto &) { return UITableViewAutomaticDimension; };
         show(table);
-        QVERIFY2(SampleCell::living < 80, "rows are made before they are seen");
         const QQuickItem *upper = WindowDriver::named(item(1), u"textLabel"_s);
         const QQuickItem *lower = WindowDriver::named(item(1), u"detailTextLabel"_s);
-        QCOMPARE(upper->property("lineCount").toInt(), titleLines);
-        QCOMPARE(lower->height() > 0 ? lower->property("lineCount").toInt() : 0, detailLines);
-        const double texts = upper->height() + (detail.isEmpty() ? 0 : 3) + lower->height();
+        QCOMPARE(upper->property("lineCount").toInt(), row.titleLines);
+        QCOMPARE(lower->height() > 0 ? lower->property("lineCount").toInt() : 0, row.detailLines);
+        const double texts = upper->height() + (row.detail.isEmpty() ? 0 : 3) + lower->height();
         QCOMPARE(item(1)->height(), qMax(44.0, texts + 2 * 11));
-        const QPointF place = upper->mapToItem(item(1), {});
-        QCOMPARE(place, QPointF(16, std::floor((item(1)->height() - texts) / 2)));
+        QCOMPARE(upper->mapToItem(item(1), {}),
+                 QPointF(16, std::floor((item(1)->height() - texts) / 2)));
         for (const QQuickItem *label : {upper, lower}) {
             QCOMPARE(label->width(), 390 - 2 * 16);
             QVERIFY(label->property("contentWidth").toDouble() <= label->width());
         }
-        const QString said = accessible(1)->text(QAccessible::Name);
-        QCOMPARE(said, detail.isEmpty() ? title : title + u", "_s + detail);
         m_fixture->application.traits().setOverride(UIAppearance{.textScale = 1.5});
         for (const QQuickItem *label : {upper, lower})
             QVERIFY2(!label->property("truncated").toBool(), "enlarged text is cut");
     }
 
-    void aTapChoosesOnce()
+    void aRowIsChosenOnce()
     {
         const std::function<void()> ways[] = {
-            [this] { m_fixture->tap(second()); },
-            [this] {
-                m_fixture->tap(second());
-                m_table->chosen.clear();
-                m_fixture->tap(second()); // so soon that it makes a double tap
-            },
-            [this] { QTest::mouseClick(window(), Qt::LeftButton, {}, second()); },
+            [this] { QTest::mouseClick(&window(), Qt::LeftButton, {}, second()); },
             [this] {
                 keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
             },
             [this] {
-                keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Space});
+                keys({Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space});
             },
-            [this] { accessible(2)->actionInterface()->doAction(press); },
+            [this] { accessible(2)->doAction(QAccessibleActionInterface::pressAction()); },
         };
         for (const auto &choose : ways) {
-            show({2, 2});
+            show({2, 0, 2});
             // From its own action.
-            m_table->whenChosen = [&] { m_table->tableView()->reloadData(); };
+            m_table->whenChosen = [this] { m_table->tableView()->reloadData(); };
             choose();
             QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}}));
         }
     }
 
-    void aPressedRowIsHighlightedUntilTheFingerLeaves()
+    void aPressedRowAndTheChosenOneAreMarked()
     {
-        show({3});
-        QQuickItem *selection = WindowDriver::named(item(2), u"selection"_s);
-        QTest::mousePress(window(), Qt::LeftButton, {}, second());
-        QCOMPARE(selection->opacity(), 1);
-        QTest::mouseMove(window(), second() + QPoint(0, 100));
-        QTest::mouseRelease(window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
-        QTRY_COMPARE(selection->opacity(), 0);
+        show({100});
+        const auto marked = [this] {
+            QList<int> entries;
+            for (const int entry : {1, 2, 3}) {
+                if (WindowDriver::named(item(entry), u"selection"_s)->opacity() > 0)
+                    entries.append(entry);
+            }
+            return entries;
+        };
+        QTest::mousePress(&window(), Qt::LeftButton, {}, second());
+        QCOMPARE(marked(), QList{2});
+        QTest::mouseMove(&window(), second() + QPoint(0, 100));
+        QTest::mouseRelease(&window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
+        QTRY_VERIFY(marked().isEmpty());
         QVERIFY(m_table->chosen.empty());
-    }
-
-    void rowsSayNameAndPosition()
-    {
-        show({2, 2});
-        QAccessibleInterface *row = accessible(5);
-        QCOMPARE(row->role(), QAccessible::ListItem);
-        QCOMPARE(row->text(QAccessible::Name), u"Row 1.0"_s);
-        QCOMPARE(row->text(QAccessible::Description), u"1 of 2"_s);
-        QCOMPARE(row->parent()->role(), QAccessible::List);
-        QCOMPARE(row->childCount(), 0); // its label is not said twice
-        QCOMPARE(row->parent()->childCount(), 4 + 2); // and the two texts
-    }
-
-    void scrollingReusesCells()
-    {
-        show({100000});
-        QVERIFY(SampleCell::living < 40);
-        for (int i = 0; i < 50; ++i) {
-            list()->setProperty("contentY", 300.0 * i);
-            m_fixture->grab();
+        for (const int entry : {1, 2})
+            m_table->tableView()->chooseEntry(entry);
+        m_table->tableView()->deselectRowAtIndexPath({0, 0}, true); // which is not any more
+        for (const double offset : {3000, 0}) { // out of sight and back
+            list()->setProperty("contentY", offset);
+            window().grabWindow();
         }
-        QVERIFY(SampleCell::living < 80);
+        QCOMPARE(marked(), QList{2});
+        m_table->tableView()->deselectRowAtIndexPath({0, 1}, true);
+        QTRY_VERIFY(marked().isEmpty());
+    }
+
+    void cellsDoNotPileUp()
+    {
+        for (const bool anew : {true, false}) {
+            const auto table = make<SampleTable>(std::vector{100000});
+            if (anew) // which nobody asks for again
+                table->makeRow = [] { return make<SampleCell>(UITableViewCellStyle{}, u"anew"_s); };
+            show(table);
+            QVERIFY2(SampleCell::living < 40, "rows are made before they are seen");
+            for (int page = 0; page < 20; ++page)
+                keys({Qt::Key_PageDown});
+            QTRY_VERIFY(SampleCell::living < (anew ? 120 : 80));
+        }
         keys({Qt::Key_End});
         QCOMPARE(cell(100000)->textLabel()->text(), u"Row 0.99999"_s);
         keys({Qt::Key_PageUp, Qt::Key_Return});
         QVERIFY(m_table->chosen.at(0).row > 99950 && m_table->chosen.at(0).row < 99990);
-        QTRY_VERIFY(SampleCell::living < 80);
     }
 
     // Whatever comes into sight or leaves it meanwhile.
     void aPulledTableFollowsTheFinger()
     {
         for (const bool atEnd : {false, true}) {
-            show(make<UnevenTable>(2000));
+            auto table = make<SampleTable>(std::vector{2000});
+            table->height = [](const NSIndexPath &at) { // low at both ends
+                return at.row < 12 || at.row > 1988 ? 44 : 44 + at.row * 37 % 200;
+            };
+            show(table);
             if (atEnd)
                 keys({Qt::Key_End});
-            m_fixture->grab();
-            QQuickItem *row = item(atEnd ? 1999 : 1);
+            window().grabWindow();
+            const QQuickItem *row = item(atEnd ? 1999 : 1);
             const double rest = WindowDriver::rect(row).y();
             const int way = atEnd ? -1 : 1;
-            WindowDriver::Finger finger(*window(), {200, atEnd ? 700 : 150});
+            WindowDriver::Finger finger(window(), {200, atEnd ? 700 : 150});
             double before = 0;
             for (int step = 1; step < 12; ++step) {
                 finger.move({200, (atEnd ? 700 : 150) + way * 50 * step});
@@ -242,26 +213,17 @@ private Q_SLOTS:
     {
         for (const int rows : {100, 200, 3, 0}) {
             show({100});
+            const auto offset = [this] { return list()->property("contentY").toDouble(); };
             list()->setProperty("contentY", 1000);
             const double place = item(25)->y() - offset();
             m_table->rows = {rows};
             m_table->tableView()->reloadData();
-            m_fixture->grab();
-            const double expected = rows < 100 ? item(0)->y() : item(25)->y() - place;
-            QTRY_COMPARE(offset(), expected);
+            window().grabWindow();
+            QTRY_COMPARE(offset(), rows < 100 ? item(0)->y() : item(25)->y() - place);
             for (int i = 1; i <= rows && item(i); ++i)
                 QVERIFY(cell(i)->preparations > 0);
             QVERIFY(SampleCell::living < 80);
         }
-    }
-
-    // In the order in which a stack lets go of a controller.
-    void aTableGoesTogetherWithItsController()
-    {
-        show({50, 50});
-        m_fixture->window.rootObject()->deleteLater();
-        m_table.reset();
-        QTRY_COMPARE(SampleCell::living, 0);
     }
 
 private:
@@ -270,20 +232,14 @@ private:
     void show(const std::shared_ptr<SampleTable> &table)
     {
         cleanup();
-        m_fixture = std::make_unique<QmlFixture>();
+        m_fixture = std::make_unique<WindowFixture>();
         m_table = table;
-        const auto controller = QVariant::fromValue(m_table.get());
-        QVERIFY(
-            m_fixture->show(u"UITableViewControllerView.qml"_s, {{u"controller"_s, controller}}));
-        m_fixture->grab();
+        m_fixture->show(table);
+        window().grabWindow();
     }
 
-    [[nodiscard]] QQuickWindow *window() const { return &m_fixture->window; }
-    [[nodiscard]] QQuickItem *list() const
-    {
-        return WindowDriver::named(m_fixture->window.rootObject(), u"list"_s);
-    }
-    [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
+    [[nodiscard]] QQuickView &window() const { return m_fixture->host->view(); }
+    [[nodiscard]] QQuickItem *list() const { return m_fixture->named(u"list"_s); }
     [[nodiscard]] QQuickItem *item(int entry) const
     {
         QQuickItem *found = nullptr;
@@ -300,17 +256,18 @@ private:
         return WindowDriver::named(item(entry), u"separator"_s);
     }
     [[nodiscard]] QPoint second() const { return WindowDriver::centre(item(2)); }
-    [[nodiscard]] QAccessibleInterface *accessible(int entry) const
+    [[nodiscard]] QAccessibleActionInterface *accessible(int entry) const
     {
-        return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst());
+        return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst())
+            ->actionInterface();
     }
     void keys(const QList<Qt::Key> &keys) const
     {
         for (const Qt::Key key : keys)
-            QTest::keyClick(window(), key);
+            m_fixture->key(key);
     }
 
-    std::unique_ptr<QmlFixture> m_fixture;
+    std::unique_ptr<WindowFixture> m_fixture;
     std::shared_ptr<SampleTable> m_table;
 };
 
