@@ -52,10 +52,7 @@ struct Stage {
         const QQuickItem *editor = view().activeFocusItem();
         return editor->mapRectToScene(editor->property("cursorRectangle").toRectF());
     }
-    void setKeyboardHeight(double height)
-    {
-        WindowDriver::showKeyboard(view(), height);
-    }
+    void setKeyboardHeight(double height) { WindowDriver::showKeyboard(view(), height); }
 
     std::shared_ptr<SampleForm> form = make<SampleForm>();
     UITextField *name = form->nameField();
