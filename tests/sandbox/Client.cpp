@@ -42,11 +42,11 @@ Client::Client(quint16 port, const QString &caFile)
 {
 }
 
-Answer Client::send(const Call &call)
+Answer Client::send(const QByteArray &method, const QByteArray &target, long timeout)
 {
     CURL *handle = m_handle.get();
     Answer answer;
-    const QByteArray url = "https://localhost:" + QByteArray::number(m_port) + call.target;
+    const QByteArray url = "https://localhost:" + QByteArray::number(m_port) + target;
     curl_easy_reset(handle);
     curl_easy_setopt(handle, CURLOPT_URL, url.constData());
     curl_easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
@@ -54,8 +54,8 @@ Answer Client::send(const Call &call)
     curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
     curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, call.timeout);
-    if (call.method == "POST") {
+    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, timeout);
+    if (method == "POST") {
         curl_easy_setopt(handle, CURLOPT_POST, 1L);
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, "");
     }

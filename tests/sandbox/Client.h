@@ -8,14 +8,7 @@
 
 #include <memory>
 
-/// What a client wants to send; the target byte for byte.
-struct Call {
-    QByteArray method = "GET";
-    QByteArray target = {};
-    long timeout = 20'000;
-};
-
-/// What came of it.
+/// What came of a request.
 struct Answer {
     /// libcurl's code, 0 when a whole answer came.
     int error = -1;
@@ -35,9 +28,10 @@ class Client {
 public:
     Client(quint16 port, const QString &caFile);
 
-    Answer send(const Call &call);
-    Answer get(const QByteArray &target) { return send({.target = target}); }
-    Answer post(const QByteArray &target) { return send({.method = "POST", .target = target}); }
+    /// The target is sent byte for byte.
+    Answer send(const QByteArray &method, const QByteArray &target, long timeout = 20'000);
+    Answer get(const QByteArray &target) { return send("GET", target); }
+    Answer post(const QByteArray &target) { return send("POST", target); }
 
 private:
     quint16 m_port;

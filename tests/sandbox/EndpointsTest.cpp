@@ -102,7 +102,7 @@ private Q_SLOTS:
         for (const auto &[outcome, requests] : rows) {
             for (const QByteArray &request : requests) {
                 const QByteArrayList words = filled(request).split(' ');
-                const Answer answer = m_client.send({.method = words[0], .target = words[1]});
+                const Answer answer = m_client.send(words[0], words[1]);
                 const QString seen = QString::number(answer.status) + u' ' + answer.result();
                 QVERIFY2(seen == QLatin1StringView(outcome), request.left(80).constData());
                 QCOMPARE(answer.head.contains("Allow: "), answer.status == 405);

@@ -20,7 +20,7 @@ class FaultTest : public QObject {
     [[nodiscard]] Answer answer(long timeout = 20'000) const
     {
         return Client(m_service.port(), m_service.caFile())
-            .send({.target = "/user.php?userEmail=jo%40wzt.example", .timeout = timeout});
+            .send("GET", "/user.php?userEmail=jo%40wzt.example", timeout);
     }
 
 private Q_SLOTS:
