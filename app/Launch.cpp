@@ -83,6 +83,11 @@ void Launch::showWindow()
 {
     m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName(),
                                               QIcon(u":/icon.svg"_s));
+    QObject::connect(&m_window->view(), &QQuickWindow::sceneGraphError,
+                     [](QQuickWindow::SceneGraphError, const QString &message) {
+                         Renderer::fallBack();
+                         qFatal("%s", qUtf8Printable(message));
+                     });
     m_window->show();
 }
 

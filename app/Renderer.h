@@ -9,4 +9,8 @@ namespace Renderer {
 /// To be called before the application object is made.
 void choose();
 
+/// Starts the program anew, as it was started, with the software renderer: for when the hardware
+/// is there but cannot be used. Returns only if that fails.
+void fallBack();
+
 } // namespace Renderer

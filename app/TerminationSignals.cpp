@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int signalNumbers[] = {SIGTERM, SIGINT};
+constexpr int signalNumbers[] = {SIGTERM, SIGINT, SIGHUP};
 
 // A signal handler reaches nothing but what is global: the pipe that it wakes the main thread by.
 constinit std::array<std::atomic<int>, 2> pipeEnds{-1, -1};

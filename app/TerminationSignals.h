@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-/// Turns SIGTERM and SIGINT into a call on the main thread; a second signal of the same kind ends
-/// the process at once. One object at a time, within an application object.
+/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread; a second signal of the same
+/// kind ends the process at once. One object at a time, within an application object.
 class TerminationSignals {
 public:
     explicit TerminationSignals(const std::function<void()> &terminate);

@@ -30,7 +30,7 @@ class ProgramTest : public QObject {
 private Q_SLOTS:
     void endsCleanlyWhenTold()
     {
-        for (const int signalNumber : {SIGTERM, SIGINT}) {
+        for (const int signalNumber : {SIGTERM, SIGINT, SIGHUP}) {
             QProcess program;
             program.setProcessChannelMode(QProcess::MergedChannels);
             program.start(QStringLiteral(WZT_PROGRAM));
