@@ -16,7 +16,7 @@ UIViewView {
         id: page
 
         anchors.fill: parent
-        anchors.bottomMargin: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
+        anchors.bottomMargin: Metrics.covered(root.height)
         contentHeight: indicator.y + indicator.implicitHeight + Metrics.margin
 
         UIImageViewView {

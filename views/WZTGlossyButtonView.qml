@@ -23,7 +23,7 @@ UIControlArea {
     Accessible.pressed: control.highlighted
     Accessible.focusable: true
     Accessible.ignored: !enabled
-    Accessible.onPressAction: control.activate()
+    Accessible.onPressAction: activate()
 
     Rectangle {
         anchors.fill: parent

@@ -46,11 +46,6 @@ void NSCoder::encodeValue(const Value &value, const QString &key)
     m_values.insert(key, value);
 }
 
-bool NSCoder::containsValueForKey(const QString &key) const
-{
-    return m_values.contains(key);
-}
-
 std::optional<QString> NSCoder::decodeStringForKey(const QString &key) const
 {
     if (const auto *text = find<QString>(m_values, key)) {

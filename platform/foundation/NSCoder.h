@@ -29,8 +29,6 @@ public:
     void encodeBool(bool value, const QString &key);
     void encodeValue(const Value &value, const QString &key);
 
-    [[nodiscard]] bool containsValueForKey(const QString &key) const;
-
     /// Text as it stands, a number as its decimal text.
     [[nodiscard]] std::optional<QString> decodeStringForKey(const QString &key) const;
     /// The intValue of a number or a text (see NSNumberReading.h).

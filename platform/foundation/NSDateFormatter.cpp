@@ -18,14 +18,12 @@ constexpr double referenceDate = 978307200;
 /// Formatters kept for each thread; the oldest goes first.
 constexpr size_t cacheSize = 8;
 
-/// What one ICU formatter was made for. A locale or zone that follows the device is named by the
-/// environment that decides it, so that a change of the environment is noticed.
+/// What one ICU formatter was made for, so that a change of the device's settings is noticed.
 struct Key {
     QString format;
     NSDateFormatterStyle style;
-    QString locale;
-    QString timeZone;
-    QByteArray environment;
+    QByteArray locale;
+    QByteArray timeZone;
 
     bool operator==(const Key &) const = default;
 };
@@ -41,19 +39,11 @@ QByteArray deviceLocale()
     return "C";
 }
 
-icu::Locale localeOf(const QString &identifier)
+icu::Locale localeOf(const QByteArray &name)
 {
-    const QByteArray name = identifier.isEmpty() ? deviceLocale() : identifier.toLatin1();
     // The C locale is none of ICU's, which would show months as "M11".
     const bool plain = name == "C" || name.startsWith("C.") || name == "POSIX";
     return icu::Locale::createCanonical(plain ? "en_US_POSIX" : name.constData());
-}
-
-icu::TimeZone *timeZoneOf(const QString &identifier)
-{
-    return identifier.isEmpty()
-        ? icu::TimeZone::detectHostTimeZone()
-        : icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(identifier.toStdString()));
 }
 
 std::unique_ptr<icu::DateFormat> make(const Key &key)
@@ -70,7 +60,7 @@ std::unique_ptr<icu::DateFormat> make(const Key &key)
     if (!formatter || U_FAILURE(status)) {
         return nullptr;
     }
-    formatter->adoptTimeZone(timeZoneOf(key.timeZone));
+    formatter->adoptTimeZone(icu::TimeZone::detectHostTimeZone());
     formatter->setLenient(false);
     for (const UDateFormatBooleanAttribute attribute :
          {UDAT_PARSE_ALLOW_WHITESPACE, UDAT_PARSE_ALLOW_NUMERIC, UDAT_PARSE_PARTIAL_LITERAL_MATCH,
@@ -100,20 +90,10 @@ icu::DateFormat *shared(const Key &key)
     return cache.back().formatter.get();
 }
 
-icu::DateFormat *sharedFor(const QString &format, NSDateFormatterStyle style, const QString &locale,
-                           const QString &timeZone)
+icu::DateFormat *sharedFor(const QString &format, NSDateFormatterStyle style)
 {
-    if (format.isEmpty() && style == NSDateFormatterStyle::None) {
-        return nullptr;
-    }
-    QByteArray environment;
-    if (locale.isEmpty()) {
-        environment += deviceLocale() + '\n';
-    }
-    if (timeZone.isEmpty()) {
-        environment += qgetenv("TZ");
-    }
-    return shared({format, style, locale, timeZone, environment});
+    const bool isSet = !format.isEmpty() || style != NSDateFormatterStyle::None;
+    return isSet ? shared({format, style, deviceLocale(), qgetenv("TZ")}) : nullptr;
 }
 
 } // namespace
@@ -132,7 +112,7 @@ void NSDateFormatter::setDateStyle(NSDateFormatterStyle style)
 
 std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
 {
-    const icu::DateFormat *formatter = sharedFor(m_format, m_style, m_locale, m_timeZone);
+    const icu::DateFormat *formatter = sharedFor(m_format, m_style);
     if (!formatter) {
         return std::nullopt;
     }
@@ -148,7 +128,7 @@ std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
 
 QString NSDateFormatter::stringFromDate(const NSDate &date) const
 {
-    const icu::DateFormat *formatter = sharedFor(m_format, m_style, m_locale, m_timeZone);
+    const icu::DateFormat *formatter = sharedFor(m_format, m_style);
     if (!formatter || !std::isfinite(date.timeIntervalSinceReferenceDate)) {
         return {};
     }

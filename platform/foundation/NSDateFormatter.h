@@ -10,8 +10,10 @@
 
 enum class NSDateFormatterStyle { None, Medium };
 
-/// Dates as text and back. Cheap to make and to copy: what is expensive about it is kept for each
-/// thread, locale, time zone and format, and shared by every formatter that asks for the same.
+/// Dates as text and back, in the device's locale (the first of LC_ALL, LC_TIME and LANG that is
+/// set) and time zone (TZ or else the system's) at the time of use. Cheap to make and to copy: what
+/// is expensive about it is kept for each thread, locale, time zone and format, and shared by every
+/// formatter that asks for the same.
 class NSDateFormatter {
 public:
     /// Unicode date pattern, for example "yyyy-MM-dd HH:mm:ss"; replaces a style.
@@ -19,13 +21,6 @@ public:
     /// The locale's date in that style, without a time; replaces a pattern.
     /// None, as at first, gives empty texts and reads nothing.
     void setDateStyle(NSDateFormatterStyle style);
-
-    /// Identifier such as "de_DE". Empty, as by default: the device's current locale, the first of
-    /// LC_ALL, LC_TIME and LANG that is set.
-    void setLocale(const QString &identifier) { m_locale = identifier; }
-    /// Identifier such as "Europe/Berlin". Empty, as by default: the device's current time zone,
-    /// TZ or else the system's.
-    void setTimeZone(const QString &identifier) { m_timeZone = identifier; }
 
     /// The moment that `text` names, nil unless the whole of it matches. Not lenient: days, times
     /// and hours skipped by summer time that do not exist give nil, and a field of two letters has
@@ -39,6 +34,4 @@ public:
 private:
     QString m_format;
     NSDateFormatterStyle m_style = NSDateFormatterStyle::None;
-    QString m_locale;
-    QString m_timeZone;
 };

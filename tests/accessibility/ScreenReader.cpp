@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "tests/accessibility/ScreenReader.h"
 
-#include <QDBusMessage>
+#include <QDBusArgument>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString connectionName = u"accessibility"_s;
+const QString registry = u"org.a11y.atspi.Registry"_s;
 
 constexpr quint64 state(int number)
 {
@@ -30,56 +33,61 @@ constexpr quint64 visible = state(30);
 struct Manners {
     quint32 role;
     QLatin1StringView name;
-    bool named;
-    quint64 states;
-    QLatin1StringView action;
+    bool named = true;
+    quint64 states = 0;
+    QLatin1StringView action = {};
 };
 
 constexpr quint32 application = 75;
 constexpr Manners allManners[] = {
-    {2, "alert"_L1, true, 0, {}},
-    {16, "dialog"_L1, true, 0, {}},
-    {23, "window"_L1, true, 0, {}},
-    {29, "label"_L1, true, 0, {}},
-    {31, "list"_L1, false, 0, {}},
+    {2, "alert"_L1},
+    {16, "dialog"_L1},
+    {23, "window"_L1},
+    {29, "label"_L1},
+    {31, "list"_L1, false},
     {32, "row"_L1, true, focusable | selectable, "Press"_L1},
     {37, "tab"_L1, true, focusable | selectable, "Press"_L1},
-    {38, "tabs"_L1, false, 0, {}},
+    {38, "tabs"_L1, false},
     {40, "secret"_L1, true, focusable | editable, "SetFocus"_L1},
-    {42, "progress"_L1, true, 0, {}},
+    {42, "progress"_L1},
     {43, "button"_L1, true, focusable, "Press"_L1},
     {61, "field"_L1, true, focusable | editable, "SetFocus"_L1},
-    {83, "heading"_L1, true, 0, {}},
+    {83, "heading"_L1},
 };
-
-const Manners *mannersOf(const AccessibleFacts &facts)
-{
-    const auto *found =
-        std::find_if(std::begin(allManners), std::end(allManners),
-                     [&](const Manners &manners) { return manners.role == facts.role; });
-    return found == std::end(allManners) ? nullptr : found;
-}
-
-QString fault(const AccessibleFacts &facts)
-{
-    const Manners *manners = mannersOf(facts);
-    if (!manners)
-        return u" (role %1)"_s.arg(facts.role);
-    if (manners->named && facts.name.isEmpty())
-        return u" (no name)"_s;
-    const quint64 states = manners->states | visible | enabled | sensitive;
-    if ((facts.states & states) != states)
-        return u" (not in states %1)"_s.arg(states & ~facts.states, 0, 16);
-    if (!manners->action.isEmpty() && !facts.actions.contains(manners->action))
-        return u" (no action %1)"_s.arg(manners->action);
-    return {};
-}
 
 } // namespace
 
-ScreenReader::ScreenReader(const QString &address) : m_bus(address)
+ScreenReader::ScreenReader(const QString &address)
+    : m_bus(QDBusConnection::connectToBus(address, connectionName))
 {
-    m_bus.observeStates(this, SLOT(stateChanged(QDBusMessage)));
+    call({registry, u"/org/a11y/atspi/registry"_s}, u"Registry"_s, u"RegisterEvent"_s,
+         {u"object:state-changed"_s, QStringList(), QString()});
+    m_bus.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this,
+                  SLOT(stateChanged(QDBusMessage)));
+}
+
+ScreenReader::~ScreenReader()
+{
+    QDBusConnection::disconnectFromBus(connectionName);
+}
+
+QVariantList ScreenReader::call(const Node &node, const QString &interface, const QString &method,
+                                const QVariantList &arguments) const
+{
+    auto message = QDBusMessage::createMethodCall(node.service, node.path,
+                                                  "org.a11y.atspi."_L1 + interface, method);
+    message.setArguments(arguments);
+    const QDBusMessage reply = m_bus.call(message);
+    return reply.type() == QDBusMessage::ReplyMessage ? reply.arguments() : QVariantList();
+}
+
+QVariant ScreenReader::property(const Node &node, const QString &interface,
+                                const QString &name) const
+{
+    auto message = QDBusMessage::createMethodCall(node.service, node.path,
+                                                  u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    message << QString("org.a11y.atspi."_L1 + interface) << name;
+    return m_bus.call(message).arguments().value(0).value<QDBusVariant>().variant();
 }
 
 void ScreenReader::stateChanged(const QDBusMessage &event)
@@ -89,47 +97,74 @@ void ScreenReader::stateChanged(const QDBusMessage &event)
         m_focused = comes ? event.path() : QString();
 }
 
-void ScreenReader::collect(const Accessible &object, QList<Node> &found) const
+void ScreenReader::collect(Node node, QList<Node> &found) const
 {
-    const Node node{object, m_bus.facts(object)};
-    if (!(node.facts.states & showing))
+    const QString accessible = u"Accessible"_s;
+    const auto states = qdbus_cast<QList<quint32>>(call(node, accessible, u"GetState"_s).value(0));
+    node.states = states.value(0) | quint64{states.value(1)} << 32;
+    if (!(node.states & showing))
         return;
-    if (node.facts.role != application)
+    node.role = call(node, accessible, u"GetRole"_s).value(0).toUInt();
+    node.name = property(node, accessible, u"Name"_s).toString();
+    node.description = property(node, accessible, u"Description"_s).toString();
+    node.text = call(node, u"Text"_s, u"GetText"_s, {0, -1}).value(0).toString();
+    const int actions = property(node, u"Action"_s, u"NActions"_s).toInt();
+    for (int i = 0; i < actions; ++i)
+        node.actions.append(call(node, u"Action"_s, u"GetName"_s, {i}).value(0).toString());
+    if (node.role != application)
         found.append(node);
-    for (const Accessible &child : m_bus.children(object))
+    for (const Node &child : children(node))
         collect(child, found);
+}
+
+QList<ScreenReader::Node> ScreenReader::children(const Node &node) const
+{
+    using Addresses = QList<std::pair<QString, QDBusObjectPath>>;
+    QList<Node> found;
+    const QVariant addresses = call(node, u"Accessible"_s, u"GetChildren"_s).value(0);
+    for (const auto &[service, path] : qdbus_cast<Addresses>(addresses))
+        found.append({service, path.path()});
+    return found;
 }
 
 QList<ScreenReader::Node> ScreenReader::nodes() const
 {
     QList<Node> found;
-    for (const Accessible &object : m_bus.children(AccessibilityBus::desktop()))
-        collect(object, found);
+    for (const Node &running : children({registry, u"/org/a11y/atspi/accessible/root"_s}))
+        collect(running, found);
     return found;
 }
 
 bool ScreenReader::isFocused(const Node &node) const
 {
     // What has the keyboard from the start may have said so before anybody listened.
-    return (node.facts.states & hasFocus) && (m_focused.isEmpty() || node.object.path == m_focused);
+    return (node.states & hasFocus) && (m_focused.isEmpty() || node.path == m_focused);
 }
 
 QString ScreenReader::describe(const Node &node) const
 {
-    const AccessibleFacts &facts = node.facts;
-    const Manners *manners = mannersOf(facts);
-    QString line = manners ? manners->name : "something"_L1;
-    if (!facts.name.isEmpty())
-        line += u' ' + facts.name;
-    if (!facts.text.isEmpty())
-        line += u": "_s + facts.text;
-    if (!facts.description.isEmpty() && facts.description != facts.name)
-        line += u", "_s + facts.description;
-    if (facts.states & selected)
+    const auto *manners = std::ranges::find(allManners, node.role, &Manners::role);
+    if (manners == std::end(allManners))
+        return u"role %1, %2"_s.arg(node.role).arg(node.name);
+    QString line = manners->name;
+    if (!node.name.isEmpty())
+        line += u' ' + node.name;
+    if (!node.text.isEmpty())
+        line += u": "_s + node.text;
+    if (!node.description.isEmpty() && node.description != node.name)
+        line += u", "_s + node.description;
+    if (node.states & selected)
         line += u", selected"_s;
     if (isFocused(node))
         line += u", focused"_s;
-    return line + fault(facts);
+    const quint64 missing = (manners->states | visible | enabled | sensitive) & ~node.states;
+    if (manners->named && node.name.isEmpty())
+        line += u" (no name)"_s;
+    if (missing)
+        line += u" (not in states %1)"_s.arg(missing, 0, 16);
+    if (!manners->action.isEmpty() && !node.actions.contains(manners->action))
+        line += u" (no action %1)"_s.arg(manners->action);
+    return line;
 }
 
 QStringList ScreenReader::screen() const
@@ -144,7 +179,7 @@ QString ScreenReader::focused() const
 {
     const QList<Node> all = nodes();
     const auto found =
-        std::find_if(all.begin(), all.end(), [this](const Node &node) { return isFocused(node); });
+        std::ranges::find_if(all, [this](const Node &node) { return isFocused(node); });
     return found == all.end() ? QString() : describe(*found);
 }
 
@@ -152,7 +187,7 @@ ScreenReader::Node ScreenReader::find(const QString &action, const QString &name
 {
     const QList<Node> all = nodes();
     const auto found = std::find_if(all.rbegin(), all.rend(), [&](const Node &node) {
-        return node.facts.name == name && node.facts.actions.contains(action);
+        return node.name == name && node.actions.contains(action);
     });
     return found == all.rend() ? Node() : *found;
 }
@@ -160,15 +195,24 @@ ScreenReader::Node ScreenReader::find(const QString &action, const QString &name
 bool ScreenReader::act(const QString &action, const QString &name) const
 {
     const Node node = find(action, name);
-    const auto index = int(node.facts.actions.indexOf(action));
-    return index >= 0
-        && m_bus.call(node.object, u"Action"_s, u"DoAction"_s, {index}).value(0).toBool();
+    const auto index = int(node.actions.indexOf(action));
+    return index >= 0 && call(node, u"Action"_s, u"DoAction"_s, {index}).value(0).toBool();
+}
+
+void ScreenReader::type(const QString &text) const
+{
+    call({registry, u"/org/a11y/atspi/registry/deviceeventcontroller"_s},
+         u"DeviceEventController"_s, u"GenerateKeyboardEvent"_s, {0, text, 4U});
+}
+
+void ScreenReader::key(int symbol) const
+{
+    call({registry, u"/org/a11y/atspi/registry/deviceeventcontroller"_s},
+         u"DeviceEventController"_s, u"GenerateKeyboardEvent"_s, {symbol, QString(), 3U});
 }
 
 int ScreenReader::caret(const QString &name) const
 {
     const Node field = find(u"SetFocus"_s, name);
-    return field.object.path.isEmpty()
-        ? -1
-        : m_bus.property(field.object, u"Text"_s, u"CaretOffset"_s).toInt();
+    return field.path.isEmpty() ? -1 : property(field, u"Text"_s, u"CaretOffset"_s).toInt();
 }

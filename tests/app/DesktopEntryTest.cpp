@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "model/BuildConstants.h"
-#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QFile>
@@ -17,9 +16,6 @@ const QString id = QString::fromLatin1(BuildConstants::applicationId);
 const QString scheme = "x-scheme-handler/"_L1 + QLatin1StringView(BuildConstants::urlScheme);
 const QString program = QFileInfo(QStringLiteral(WZT_PROGRAM)).fileName();
 
-/// A file that tells the desktop of the application, and the lines that it has to have.
-using Description = std::tuple<const char *, QStringList>;
-
 } // namespace
 
 /// What tells the desktop of the application: the program has to keep what it says.
@@ -27,35 +23,33 @@ class DesktopEntryTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void agreesWithTheProgram_data()
+    void agreesWithTheProgram()
     {
         const QString name = QString::fromUtf8(BuildConstants::displayName);
-        addCases<Description>({
-            {"desktop",
+        // The kind of a file, and the lines that it has to have.
+        const std::pair<QString, QStringList> rows[] = {
+            {u"desktop"_s,
              {"Name="_L1 + name, "Icon="_L1 + id, "Exec="_L1 + program + " %u"_L1,
               "MimeType="_L1 + scheme + u';', "StartupWMClass="_L1 + id}},
-            {"metainfo.xml",
+            {u"metainfo.xml"_s,
              {"<id>"_L1 + id + "</id>"_L1, "<name>"_L1 + name + "</name>"_L1,
               "<launchable type=\"desktop-id\">"_L1 + id + ".desktop</launchable>"_L1,
               "<binary>"_L1 + program + "</binary>"_L1,
               "<mediatype>"_L1 + scheme + "</mediatype>"_L1,
               "<release version=\""_L1 + QLatin1StringView(BuildConstants::version)}},
-            {"service", {"Name="_L1 + id, u"Exec=/"_s}},
-        });
-    }
-
-    void agreesWithTheProgram()
-    {
-        const auto &[kind, lines] = currentCase<Description>();
-        QFile file(QStringLiteral(WZT_DESCRIPTIONS "/") + id + u'.' + QLatin1StringView(kind));
-        QVERIFY2(file.open(QFile::ReadOnly), qPrintable(file.fileName()));
-        const QString text = QString::fromUtf8(file.readAll());
-        for (const QString &line : lines) {
-            const QRegularExpression start(u"^ *"_s + QRegularExpression::escape(line),
-                                           QRegularExpression::MultilineOption);
-            QVERIFY2(start.match(text).hasMatch(), qPrintable(line));
+            {u"service"_s, {"Name="_L1 + id, u"Exec=/"_s}},
+        };
+        for (const auto &[kind, lines] : rows) {
+            QFile file(QStringLiteral(WZT_DESCRIPTIONS "/") + id + u'.' + kind);
+            QVERIFY2(file.open(QFile::ReadOnly), qPrintable(file.fileName()));
+            const QString text = QString::fromUtf8(file.readAll());
+            for (const QString &line : lines) {
+                const QRegularExpression start(u"^ *"_s + QRegularExpression::escape(line),
+                                               QRegularExpression::MultilineOption);
+                QVERIFY2(start.match(text).hasMatch(), qPrintable(line));
+            }
+            QVERIFY(!text.contains(u'@'));
         }
-        QVERIFY(!text.contains(u'@'));
     }
 };
 

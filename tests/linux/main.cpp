@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxHost.h"
-#include "platform/uikit/UIApplication.h"
-#include "screens/WZTRootViewController.h"
 #include "tests/support/TestRunner.h"
 #include "tests/support/TestSession.h"
 
@@ -25,18 +23,6 @@ int startApplication(QStringList arguments)
     return std::puts(host.becomeOnlyInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
 }
 
-// Every link of Home, one after the other.
-int openLinks()
-{
-    LinuxHost host(u"example.wzt.Test"_s);
-    const UIApplication application(host);
-    WZTRootViewController home;
-    home.addPublicRepo();
-    home.addSubscriberRepo();
-    home.joinDiscord();
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -44,10 +30,6 @@ int main(int argc, char **argv)
     if (argc > 2 && qstrcmp(argv[1], "--start") == 0) {
         const QGuiApplication application(argc, argv);
         return startApplication(QCoreApplication::arguments().sliced(2));
-    }
-    if (argc > 1 && qstrcmp(argv[1], "--open-links") == 0) {
-        const QGuiApplication application(argc, argv);
-        return openLinks();
     }
     const TestSession session;
     qputenv("XDG_DATA_DIRS", QFile::encodeName(session.home()));

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
-#include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QFile>
@@ -20,53 +19,45 @@ QByteArray contents(const QString &path)
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void overwrite(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-using Files = std::tuple<const char *, QString, int, bool, bool>;
-
 } // namespace
 
-/// How long the files of the certificates are kept.
+/// What a service leaves in its folder for the next one to prove who it is.
 class CertificatesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void filesAreKeptOrMadeAnew_data()
+    void areKeptOrMadeAnew()
     {
-        addCases<Files>({
-            {"untouched", {}, 0, true, true},
-            {"a year later", {}, 389, true, true},
-            {"about to expire", {}, 392, true, false},
-            {"ten years later", {}, 3600, false, false},
-            {"server's key damaged", u"server.key"_s, 0, true, false},
-            {"server's certificate damaged", u"server.pem"_s, 0, true, false},
-            {"authority's key damaged", u"ca.key"_s, 0, false, false},
-            {"authority damaged", u"ca.pem"_s, 0, false, false},
-        });
-    }
-
-    void filesAreKeptOrMadeAnew()
-    {
-        const auto &[name, damaged, days, keepsAuthority, keepsLeaf] = currentCase<Files>();
-        const QTemporaryDir folder;
-        const QString authorityFile = Sandbox({.directory = folder.path()}).caFile();
-        const QString leafFile = folder.path() + u"/server.pem"_s;
-        const QByteArray authority = contents(authorityFile);
-        const QByteArray leaf = contents(leafFile);
-        if (!damaged.isEmpty()) {
-            const QString path = folder.path() + u'/' + damaged;
-            overwrite(path, contents(path).replace(60, 20, "00000000000000000000"));
+        const QString authority = u"ca.pem"_s;
+        const QString leaf = u"server.pem"_s;
+        const std::tuple<QString, int, QStringList> rows[] = {
+            {u""_s, 389, {authority, leaf}}, // days later
+            {u""_s, 392, {authority}}, // about to expire
+            {u""_s, 3600, {}},
+            {u"server.key"_s, 0, {authority}}, // damaged
+            {leaf, 0, {authority}},
+            {u"ca.key"_s, 0, {}},
+            {authority, 0, {}},
+        };
+        for (const auto &[damaged, days, kept] : rows) {
+            const QTemporaryDir folder;
+            QVERIFY(Sandbox({.directory = folder.path()}).isRunning());
+            QMap<QString, QByteArray> before;
+            for (const QString &name : {authority, leaf})
+                before[name] = contents(folder.filePath(name));
+            QFile file(folder.filePath(damaged));
+            if (!damaged.isEmpty() && file.open(QFile::ReadWrite) && file.seek(60)) {
+                file.write("0000000000");
+                file.close();
+            }
+            const Sandbox service(
+                {.directory = folder.path(), .clockOffset = std::chrono::days(days)});
+            QVERIFY2(service.isRunning(), qPrintable(service.errorString()));
+            for (const QString &name : {authority, leaf})
+                QCOMPARE(contents(folder.filePath(name)) == before[name], kept.contains(name));
+            if (days == 0)
+                QCOMPARE(Client(service.port(), service.caFile()).get("/user.php").status, 400);
         }
-        const Sandbox service({.directory = folder.path(), .clockOffset = std::chrono::days(days)});
-        QVERIFY2(service.isRunning(), qPrintable(service.errorString()));
-        QCOMPARE(contents(authorityFile) == authority, keepsAuthority);
-        QCOMPARE(contents(leafFile) == leaf, keepsLeaf);
-        if (days == 0)
-            QCOMPARE(Client(service.port(), service.caFile()).get("/user.php").status, 400);
     }
 };
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/sandbox/Client.h"
 
-#include <QElapsedTimer>
 #include <QJsonDocument>
 
 #include <curl/curl.h>
@@ -23,9 +22,19 @@ QJsonObject Answer::json() const
     return QJsonDocument::fromJson(body).object();
 }
 
+QJsonArray Answer::list() const
+{
+    return QJsonDocument::fromJson(body).array();
+}
+
 QString Answer::result() const
 {
-    return json().value(QStringLiteral("result")).toString();
+    return json()[QStringLiteral("result")].toString();
+}
+
+bool Answer::isUser() const
+{
+    return json().contains(QStringLiteral("userTavloID"));
 }
 
 Client::Client(quint16 port, const QString &caFile)
@@ -33,14 +42,11 @@ Client::Client(quint16 port, const QString &caFile)
 {
 }
 
-Answer Client::send(const Call &call)
+Answer Client::send(const QByteArray &method, const QByteArray &target, long timeout)
 {
     CURL *handle = m_handle.get();
     Answer answer;
-    curl_slist *headers = nullptr;
-    for (const QByteArray &each : call.headers)
-        headers = curl_slist_append(headers, each.constData());
-    const QByteArray url = "https://" + call.host + ':' + QByteArray::number(m_port) + call.target;
+    const QByteArray url = "https://localhost:" + QByteArray::number(m_port) + target;
     curl_easy_reset(handle);
     curl_easy_setopt(handle, CURLOPT_URL, url.constData());
     curl_easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
@@ -48,27 +54,16 @@ Answer Client::send(const Call &call)
     curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
     curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, call.timeout);
-    curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, call.followsRedirects ? 1L : 0L);
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers);
-    if (call.method == "POST") {
+    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, timeout);
+    if (method == "POST") {
         curl_easy_setopt(handle, CURLOPT_POST, 1L);
-        curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE, long(call.body.size()));
-        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, call.body.constData());
-    } else if (call.method == "HEAD") {
-        curl_easy_setopt(handle, CURLOPT_NOBODY, 1L);
-    } else {
-        curl_easy_setopt(handle, CURLOPT_CUSTOMREQUEST, call.method.constData());
+        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, "");
     }
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, collect);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &answer.body);
     curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, collect);
     curl_easy_setopt(handle, CURLOPT_HEADERDATA, &answer.head);
-    QElapsedTimer timer;
-    timer.start();
     answer.error = curl_easy_perform(handle);
-    answer.milliseconds = timer.elapsed();
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &answer.status);
-    curl_slist_free_all(headers);
     return answer;
 }

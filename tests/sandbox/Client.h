@@ -3,25 +3,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonObject>
-#include <QList>
-#include <QString>
 
 #include <memory>
 
-/// What a client wants to send.
-struct Call {
-    QByteArray method = "GET";
-    /// Sent byte for byte.
-    QByteArray target = {};
-    QByteArray host = "localhost";
-    QList<QByteArray> headers = {};
-    QByteArray body = {};
-    bool followsRedirects = false;
-    long timeout = 20'000;
-};
-
-/// What came of it.
+/// What came of a request.
 struct Answer {
     /// libcurl's code, 0 when a whole answer came.
     int error = -1;
@@ -29,10 +16,11 @@ struct Answer {
     QByteArray head = {};
     /// The first mebibyte of it; what is more ends the transfer with an error.
     QByteArray body = {};
-    qint64 milliseconds = 0;
 
     [[nodiscard]] QJsonObject json() const;
+    [[nodiscard]] QJsonArray list() const;
     [[nodiscard]] QString result() const;
+    [[nodiscard]] bool isUser() const;
 };
 
 /// An HTTPS client that trusts one authority, and keeps its connection from call to call.
@@ -40,9 +28,10 @@ class Client {
 public:
     Client(quint16 port, const QString &caFile);
 
-    Answer send(const Call &call);
-    Answer get(const QByteArray &target) { return send({.target = target}); }
-    Answer post(const QByteArray &target) { return send({.method = "POST", .target = target}); }
+    /// The target is sent byte for byte.
+    Answer send(const QByteArray &method, const QByteArray &target, long timeout = 20'000);
+    Answer get(const QByteArray &target) { return send("GET", target); }
+    Answer post(const QByteArray &target) { return send("POST", target); }
 
 private:
     quint16 m_port;

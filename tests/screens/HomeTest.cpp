@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/UIAlertController.h"
+#include "app/WZTTabBarController.h"
 #include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UINavigationItem.h"
+#include "screens/WZTIssueReporterViewController.h"
+#include "screens/WZTPackageIssuesViewController.h"
 #include "screens/WZTRootIssueViewController.h"
 #include "screens/WZTRootViewController.h"
 #include "tests/support/TestApp.h"
@@ -10,91 +13,187 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-/// Home's menu, without a window.
+namespace {
+
+using sandbox::Fault;
+
+constexpr char path[] = "/issues.php";
+
+Fault listOf(const QByteArrayList &titles)
+{
+    QByteArrayList issues;
+    for (const QByteArray &title : titles)
+        issues.append(R"({"title":")" + title + R"("})");
+    return Fault::json('[' + issues.join(',') + ']');
+}
+
+// The projects are listed, and the service answers as staged.
+struct Stage {
+    Stage()
+    {
+        app.launchSignedIn();
+        app.delegate().rootVC()->showIssueProjectList();
+    }
+
+    [[nodiscard]] WZTRootIssueViewController &projects()
+    {
+        const auto *navigation = app.delegate().rootVC()->navigationController();
+        return dynamic_cast<WZTRootIssueViewController &>(*navigation->topViewController());
+    }
+    [[nodiscard]] WZTPackageIssuesViewController &open(int project)
+    {
+        projects().tableView()->chooseRowAtIndexPath({0, project});
+        return dynamic_cast<WZTPackageIssuesViewController &>(
+            *app.top<UINavigationController>()->topViewController());
+    }
+    /// Covers the top screen and uncovers it, so that it appears once more.
+    void coverAndUncover()
+    {
+        app.top()->presentViewController(make<UIViewController>(), false);
+        app.top()->dismissViewControllerAnimated(false);
+    }
+    [[nodiscard]] qsizetype requests() { return app.service().requests().size(); }
+
+    TestApp app;
+};
+
+QStringList titles(const WZTPackageIssuesViewController *screen)
+{
+    QStringList titles;
+    const auto issues = screen ? screen->packageIssues() : std::nullopt;
+    for (const WZTPackageIssue &issue : issues.value_or(QList<WZTPackageIssue>()))
+        titles.append(issue.title.value_or(u"-"_s));
+    return titles;
+}
+
+} // namespace
+
+/// Home's links, the list of projects and a project's issues, from a touch to the service and back.
 class HomeTest : public QObject {
     Q_OBJECT
 
-    // Somebody is signed in and looks at Home.
-    std::unique_ptr<TestApp> m_app;
-    WZTRootViewController *m_home = nullptr;
-
 private Q_SLOTS:
-    void init()
+    void rowsAndTheirLinks()
     {
-        m_app = std::make_unique<TestApp>();
-        m_app->keepUser(WZTUser(42, u"jo@wzt.example"_s, u"Jo"_s));
-        m_app->launch();
-        m_home = m_app->delegate().rootVC();
-        m_home->loadViewIfNeeded();
-    }
-
-    void rows()
-    {
-        const struct {
-            NSIndexPath place;
-            const char16_t *identifier;
-            const char16_t *image;
-            const char16_t *text;
-        } rows[] = {
-            {{0, 0}, u"root.cell", u"bugreport", u"Bug Reporter"},
-            {{1, 0}, u"root.cell", u"add", u"Add Public Repo"},
-            {{1, 1}, u"root.cell", u"add", u"Add Supporter Repo"},
-            {{1, 2}, u"root.cell", u"discord", u"Join Discord"},
-            {{2, 0}, u"thanks", u"", u""},
-        };
-        for (const auto &[place, identifier, image, text] : rows) {
-            const auto cell = m_home->cellForRowAtIndexPath(place);
-            QCOMPARE(cell->reuseIdentifier(), QString::fromUtf16(identifier));
-            QCOMPARE(cell->imageView()->image().name(), QString::fromUtf16(image));
-            QCOMPARE(cell->textLabel()->text(), QString::fromUtf16(text));
-            QCOMPARE(cell->selectionStyle() == UITableViewCellSelectionStyle::None, !*text);
-            const UIColor tint = cell->imageView()->tintColor();
-            QVERIFY(!*text || tint.drawn(true) == UIColor::systemTealColor().drawn(true));
+        Stage stage;
+        TestApp &app = stage.app;
+        WZTRootViewController &home = *app.delegate().rootVC();
+        home.loadViewIfNeeded();
+        QStringList images;
+        for (const NSIndexPath &row : {NSIndexPath{0, 0}, {1, 0}, {1, 1}, {1, 2}}) {
+            const UIImageView *icon = home.cellForRowAtIndexPath(row)->imageView();
+            QCOMPARE(icon->tintColor().drawn(true), UIColor::systemTealColor().drawn(true));
+            images.append(icon->image().name());
         }
-        const int counts[] = {1, 3, 1, 0};
-        const int footers[] = {14, 0, 0, 0};
-        for (int section = 0; section < 4; ++section) {
-            QCOMPARE(m_home->numberOfRowsInSection(section), counts[section]);
-            QCOMPARE(m_home->heightForFooterInSection(section), footers[section]);
-        }
-        for (const QString &name : {u"header"_s, u"button"_s, u"root.detail.cell"_s})
-            QVERIFY(m_home->tableView()->dequeueReusableCellWithIdentifier(name));
-    }
+        QCOMPARE(images.join(u' '), u"bugreport add add discord"_s);
+        QCOMPARE(home.cellForRowAtIndexPath({2, 0})->selectionStyle(),
+                 UITableViewCellSelectionStyle::None);
 
-    void links()
-    {
         const QString zebra = u"zbra://sources/add/"_s;
         const QString cydia = u"cydia://url/https://share.wzt.example/api/share#?source="_s;
         const std::pair<QStringList, QString> machines[] = {
             {{u"zbra"_s, u"cydia"_s}, zebra}, {{u"cydia"_s}, cydia}, {{}, cydia}};
         for (const auto &[installed, prefix] : machines) {
-            m_app->host().schemes = installed;
-            m_app->host().openedURLs.clear();
+            app.host().schemes = installed;
+            app.host().openedURLs.clear();
             for (const NSIndexPath &row : {NSIndexPath{1, 0}, {1, 1}, {1, 2}, {2, 0}}) {
-                m_home->tableView()->chooseRowAtIndexPath(row);
-                QVERIFY(!m_home->tableView()->indexPathForSelectedRow());
+                home.tableView()->chooseRowAtIndexPath(row);
+                QVERIFY(!home.tableView()->indexPathForSelectedRow());
             }
-            QCOMPARE(m_app->host().openedURLs,
+            QCOMPARE(app.host().openedURLs,
                      (QStringList{prefix + u"https://repo.wzt.example"_s,
                                   prefix + u"https://supporter.wzt.example/repo/"_s,
                                   u"https://chat.wzt.example/invite/wzt"_s}));
-            QVERIFY2(!m_app->top<UIAlertController>(), "links are fire and forget");
+            QVERIFY2(app.alert().isEmpty(), "links are fire and forget");
         }
     }
 
-    void everyTapMakesANewListOfProjects()
+    void theAddButtonOpensTheForm()
     {
-        UINavigationController &navigation = *m_home->navigationController();
-        std::vector<std::shared_ptr<UIViewController>> lists;
-        for (int i = 0; i < 2; ++i) {
-            m_home->tableView()->chooseRowAtIndexPath({0, 0});
-            lists.push_back(navigation.viewControllers().back());
-            QVERIFY(qobject_cast<WZTRootIssueViewController *>(lists.back().get()));
-            QVERIFY(navigation.goBack());
-            QCOMPARE(navigation.topViewController(), m_home);
+        Stage stage;
+        WZTPackageIssuesViewController &screen = stage.open(1);
+        QVERIFY(!stage.projects().tableView()->indexPathForSelectedRow());
+        QTRY_COMPARE(stage.requests(), 1);
+        const QString address = QString::number(quintptr(screen.package().get()), 16);
+        const QString line = u"Add new issue to package: <WZTPackage: 0x%1>"_s.arg(address);
+        QTest::ignoreMessage(QtInfoMsg, qPrintable(line));
+        screen.navigationItem()->rightBarButtonItem()->trigger();
+        const auto *form = dynamic_cast<WZTIssueReporterViewController *>(
+            stage.app.top<UINavigationController>()->topViewController());
+        QCOMPARE(form->package(), screen.package());
+
+        stage.app.service().stage(path, listOf({"new"}));
+        stage.app.top()->dismissViewControllerAnimated(true);
+        QTRY_COMPARE(titles(&screen), QStringList{u"new"_s}); // fetched as it appears again
+    }
+
+    void everyOutcomeReplacesTheList()
+    {
+        const std::pair<Fault, QStringList> outcomes[] = {
+            {listOf({"old", "older"}), {u"old"_s, u"older"_s}},
+            {Fault::json("[]"), {}},
+            {listOf({"z", "a", "z"}), {u"z"_s, u"a"_s, u"z"_s}},
+            {Fault::close(), {}},
+        };
+        Stage stage;
+        stage.app.service().stage(path, Fault::close());
+        WZTPackageIssuesViewController &screen = stage.open(0);
+        QStringList before;
+        for (const auto &[reply, shown] : outcomes) {
+            QTRY_VERIFY(!screen.activityIndicator()->isAnimating());
+            QCOMPARE(titles(&screen), before);
+            stage.app.service().stage(path, reply);
+            stage.coverAndUncover();
+            QVERIFY(screen.activityIndicator()->isAnimating());
+            QCOMPARE(titles(&screen), before); // until the reply
+            QTRY_COMPARE(titles(&screen), shown);
+            QCOMPARE(screen.packageIssues().has_value(), !shown.isEmpty());
+            QCOMPARE(stage.app.alert(), QString());
+            before = shown;
         }
-        QVERIFY(lists[0] != lists[1]);
+    }
+
+    void aRowShowsWhatItsIssueHas()
+    {
+        Stage stage;
+        stage.app.service().stage(path, Fault::json(R"([{"title":"One","description":"More"},
+            {"title":"One"},{"description":"More"},{},{"title":"One","description":null}])"));
+        WZTPackageIssuesViewController &screen = stage.open(0);
+        QTRY_COMPARE(screen.numberOfRowsInSection(0), 5);
+        const char *expected[] = {"One|More", "One|", "|More", "|", "One|"};
+        for (int row = 0; row < 5; ++row) {
+            const auto cell = screen.cellForRowAtIndexPath({0, row});
+            QCOMPARE(cell->textLabel()->text() + u'|' + cell->detailTextLabel()->text(),
+                     QLatin1String(expected[row]));
+            QCOMPARE(cell->selectionStyle(), UITableViewCellSelectionStyle::None);
+            QCOMPARE(cell->textLabel()->numberOfLines(), 0);
+            QCOMPARE(cell->detailTextLabel()->numberOfLines(), 0);
+        }
+    }
+
+    // The reply that comes last counts, whichever was asked for last, and the screen, dismissed
+    // meanwhile or not, lives until then.
+    void lateReplies()
+    {
+        for (const bool cancelled : {false, true}) {
+            Stage stage;
+            stage.app.service().stage(path, listOf({"first"}).after(300ms));
+            const QPointer<WZTPackageIssuesViewController> screen = &stage.open(0);
+            QTRY_COMPARE(stage.requests(), 1);
+            stage.app.service().stage(path, listOf({"second"}).after(100ms));
+            stage.coverAndUncover();
+            if (cancelled)
+                screen->cancel(nullptr);
+            QTRY_COMPARE(titles(screen), QStringList{u"second"_s});
+            QVERIFY(!screen->activityIndicator()->isAnimating());
+            if (cancelled) {
+                QTRY_VERIFY(!screen);
+            } else {
+                QTRY_COMPARE(titles(screen), QStringList{u"first"_s});
+            }
+        }
     }
 };
 

@@ -16,10 +16,9 @@ QString focused(QQuickView &view)
 {
     QQuickItem *item = view.activeFocusItem();
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
-    const QString type = QString::fromLatin1(item->metaObject()->className());
-    return interface                        ? interface->text(QAccessible::Name)
-        : type.startsWith(u"UIFocusItem"_s) ? u"rows"_s
-                                            : type;
+    return interface                    ? interface->text(QAccessible::Name)
+        : item->inherits("UIFocusItem") ? u"rows"_s
+                                        : QString::fromLatin1(item->metaObject()->className());
 }
 
 qsizetype rings(QQuickView &view)

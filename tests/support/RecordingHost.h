@@ -15,8 +15,6 @@ public:
     QStringList openedURLs;
     /// How many haptic taps there were.
     int taps = 0;
-    /// Tells a new appearance, once somebody observes it.
-    std::function<void(const UIAppearance &)> appearanceChanged;
 
     [[nodiscard]] bool canOpenURL(const QString &url) override
     {
@@ -26,10 +24,7 @@ public:
     }
     void openURL(const QString &url) override { openedURLs.append(url); }
     void impactOccurred(UIImpactFeedbackStyle) override { ++taps; }
-    void observeAppearance(std::function<void(const UIAppearance &)> changed) override
-    {
-        appearanceChanged = std::move(changed);
-    }
+    void observeAppearance(std::function<void(const UIAppearance &)>) override { }
     [[nodiscard]] bool becomeOnlyInstance(const QStringList &,
                                           std::function<void(const QStringList &)>) override
     {

@@ -3,23 +3,20 @@
 #include "tests/support/TestApp.h"
 
 #include "platform/foundation/NSKeyedArchiver.h"
+#include "platform/uikit/UIAlertController.h"
 
 using namespace Qt::StringLiterals;
 
-TestApp::TestApp(const Options &options)
+TestApp::TestApp()
 {
-    sandbox::Sandbox::Options service;
-    service.hashMemory = 8192;
-    service.hashPasses = 1;
-    m_service = std::make_unique<sandbox::Sandbox>(service);
-    if (!m_service->isRunning())
-        qFatal("no service: %s", qPrintable(m_service->errorString()));
+    if (!m_service.isRunning())
+        qFatal("no service: %s", qPrintable(m_service.errorString()));
 
     m_settings.applicationId = u"example.wzt.Companion.Test"_s;
     m_settings.defaultsFolder = m_folder.path();
-    m_settings.urlSession.certificateAuthorityFile = m_service->caFile();
-    m_settings.urlSession.connectTo = u"127.0.0.1:%1"_s.arg(m_service->port());
-    m_settings.urlSession.timeoutIntervalForRequest = options.timeoutIntervalForRequest;
+    m_settings.urlSession.certificateAuthorityFile = m_service.caFile();
+    m_settings.urlSession.connectTo = u"127.0.0.1:%1"_s.arg(m_service.port());
+    m_settings.urlSession.timeoutIntervalForRequest = std::chrono::seconds(10);
 }
 
 TestApp::~TestApp()
@@ -34,9 +31,31 @@ void TestApp::launch()
     m_runtime->delegate().didFinishLaunchingWithOptions();
 }
 
+void TestApp::launchSignedIn(const QString &name, const QString &email)
+{
+    const auto account = m_service.addAccount({.email = email, .name = name}, u"secret"_s);
+    keepUser(WZTUser(static_cast<int>(account->number), email, name));
+    launch();
+}
+
 void TestApp::quit()
 {
     m_runtime.reset();
+}
+
+QString TestApp::alert()
+{
+    const auto *alert = top<UIAlertController>();
+    if (!alert)
+        return {};
+    QStringList shown{alert->title(), alert->message()};
+    for (const auto &field : alert->textFields())
+        shown.append(field->placeholder());
+    for (const auto &action : alert->actions()) {
+        const bool cancels = action->style() == UIAlertAction::Style::Cancel;
+        shown.append(cancels ? u'(' + action->title() + u')' : action->title());
+    }
+    return shown.join(u'|');
 }
 
 NSUserDefaults TestApp::defaults() const

@@ -20,12 +20,7 @@
 ///     auto *login = app.top<WZTLoginViewController>();
 class TestApp {
 public:
-    struct Options {
-        std::chrono::milliseconds timeoutIntervalForRequest = std::chrono::seconds(10);
-    };
-
-    TestApp() : TestApp(Options()) { }
-    explicit TestApp(const Options &options);
+    TestApp();
     /// Ends the run as the application ends.
     ~TestApp();
     Q_DISABLE_COPY_MOVE(TestApp)
@@ -33,6 +28,9 @@ public:
     /// Starts the application; ends the run before it, if there is one, as its end of the process
     /// would.
     void launch();
+    /// The same for somebody who has an account, its password "secret", and is signed in.
+    void launchSignedIn(const QString &name = QStringLiteral("Jo"),
+                        const QString &email = QStringLiteral("jo@wzt.example"));
     /// Ends the run; nothing below `delegate()` may be used until the next launch.
     void quit();
 
@@ -43,9 +41,7 @@ public:
     [[nodiscard]] std::optional<QByteArray> keptData() const;
     [[nodiscard]] static QByteArray archived(const WZTUser &user);
 
-    [[nodiscard]] sandbox::Sandbox &service() { return *m_service; }
-    /// Nothing listens at the service's address any more.
-    void stopService() { m_service.reset(); }
+    [[nodiscard]] sandbox::Sandbox &service() { return m_service; }
     [[nodiscard]] RecordingHost &host() { return m_host; }
     [[nodiscard]] QString folder() const { return m_folder.path(); }
 
@@ -57,13 +53,16 @@ public:
     {
         return qobject_cast<Controller *>(delegate().window()->presentation()->top());
     }
+    /// What the topmost alert shows: "title|message|field|...|action|...", brackets around the
+    /// action of the cancel style. Empty when the topmost is no alert.
+    [[nodiscard]] QString alert();
 
 private:
     [[nodiscard]] NSUserDefaults defaults() const;
 
     QTemporaryDir m_folder;
     RecordingHost m_host;
-    std::unique_ptr<sandbox::Sandbox> m_service;
+    sandbox::Sandbox m_service{{.hashMemory = 8192, .hashPasses = 1}};
     Runtime::Settings m_settings;
     std::unique_ptr<Runtime> m_runtime;
 };

@@ -5,6 +5,7 @@
 #include "tests/support/TestApp.h"
 #include "tests/support/WindowDriver.h"
 
+#include <QAccessible>
 #include <QIcon>
 #include <QTest>
 
@@ -27,9 +28,29 @@ void TestWindow::settle()
     WindowDriver::settle(view());
 }
 
+QQuickItem *TestWindow::drawing(const QObject *control)
+{
+    return WindowDriver::drawing(view(), control);
+}
+
+QRectF TestWindow::rect(const QObject *control)
+{
+    return WindowDriver::rect(drawing(control));
+}
+
+QAccessibleInterface *TestWindow::accessible(const QString &name)
+{
+    return WindowDriver::accessible(view(), name);
+}
+
 void TestWindow::tap(const QObject *control)
 {
-    WindowDriver::tap(view(), WindowDriver::centre(WindowDriver::drawing(view(), control)));
+    WindowDriver::tap(view(), WindowDriver::centre(drawing(control)));
+}
+
+void TestWindow::tap(const QString &name)
+{
+    WindowDriver::tap(view(), view().mapFromGlobal(accessible(name)->rect().center()));
 }
 
 void TestWindow::key(Qt::Key key)

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QAccessibleInterface;
 class TestApp;
 
 /// The window of a launched TestApp: the real drawings, touches and keys. Whatever QML complains
@@ -23,8 +24,15 @@ public:
     /// Waits until no controller of the window is in a transition.
     void settle();
 
-    /// Taps what draws that view or control.
+    /// What draws that view or control, and its rectangle in the window.
+    [[nodiscard]] QQuickItem *drawing(const QObject *control);
+    [[nodiscard]] QRectF rect(const QObject *control);
+    /// What a screen reader finds under that name, the topmost first; null for none.
+    [[nodiscard]] QAccessibleInterface *accessible(const QString &name);
+
+    /// Taps what draws that view or control, or what a screen reader finds under that name.
     void tap(const QObject *control);
+    void tap(const QString &name);
     void key(Qt::Key key);
     void type(const QString &text);
 

@@ -6,7 +6,8 @@
 
 #include <QAccessible>
 #include <QPointingDevice>
-#include <QQuickWindow>
+#include <QQmlExpression>
+#include <QQuickView>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -126,6 +127,15 @@ QRectF WindowDriver::rect(const QQuickItem *item)
 QPoint WindowDriver::centre(const QQuickItem *item)
 {
     return rect(item).center().toPoint();
+}
+
+void WindowDriver::showKeyboard(QQuickView &view, double height)
+{
+    const QString place = u"Metrics.keyboard = Qt.rect(0, %1, %2, %3)"_s;
+    QObject *root = view.rootObject();
+    QQmlExpression(qmlContext(root), root,
+                   place.arg(view.height() - height).arg(view.width()).arg(height))
+        .evaluate();
 }
 
 QPointingDevice *WindowDriver::screen()

@@ -6,6 +6,7 @@
 
 class QAccessibleInterface;
 class QPointingDevice;
+class QQuickView;
 class QQuickWindow;
 
 /// A person at a window: finds things by what draws them, by object name, or by the name that a
@@ -33,6 +34,9 @@ void settle(const QQuickWindow &window);
 /// `item`'s rectangle in the window, and its middle.
 [[nodiscard]] QRectF rect(const QQuickItem *item);
 [[nodiscard]] QPoint centre(const QQuickItem *item);
+
+/// As if an on-screen keyboard took that much of the window, from below; 0 for none.
+void showKeyboard(QQuickView &view, double height);
 
 /// What fingers touch.
 [[nodiscard]] QPointingDevice *screen();

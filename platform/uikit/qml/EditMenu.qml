@@ -14,7 +14,7 @@ KeyTaker {
     /// What the menu stands above, or below where there is no room; in the window.
     required property rect place
 
-    readonly property real room: height - (InputMethod.visible ? InputMethod.keyboardRectangle.height : 0)
+    readonly property real room: height - Metrics.covered(height)
     property int current: -1
 
     signal chosen(title: string)
@@ -25,6 +25,8 @@ KeyTaker {
     }
 
     anchors.fill: parent
+    onWidthChanged: closed()
+    onHeightChanged: closed()
     LayoutMirroring.enabled: Metrics.direction < 0
     LayoutMirroring.childrenInherit: true
 
@@ -34,6 +36,8 @@ KeyTaker {
     Keys.onBacktabPressed: move(-1)
     Keys.onPressed: event => {
         const chooses = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key)
+        if (event.isAutoRepeat)
+            return // it was pressed before the menu was there
         if (chooses && current >= 0)
             root.chosen(titles[current])
         else if (event.key !== Qt.Key_Shift)

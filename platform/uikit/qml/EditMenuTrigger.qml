@@ -4,7 +4,8 @@ import QtQuick
 import UIKit
 
 /// Put into a TextInput or TextEdit: a long press, the right mouse button and the menu key open
-/// its menu. A finger selects by a long press or a double tap, never by moving.
+/// its menu. A finger gives it the keyboard by a tap, which no scrolling is, and selects by a long
+/// press or a double tap.
 Item {
     id: root
 
@@ -46,12 +47,22 @@ Item {
             actions.perform(title)
         }
     }
+    Connections {
+        target: root.parent
+        function onTextChanged() {
+            menu.source = "" // what it offers is no longer what can be done
+        }
+    }
     PointHandler {
         id: finger
         acceptedDevices: PointerDevice.TouchScreen
     }
     TapHandler {
         acceptedDevices: PointerDevice.TouchScreen
+        onTapped: {
+            root.parent.forceActiveFocus()
+            InputMethod.show() // or it would not come again when it was put away
+        }
         onDoubleTapped: eventPoint => root.point(eventPoint.position, true)
         onLongPressed: {
             root.point(point.position, true)
@@ -68,6 +79,7 @@ Item {
     }
     Shortcut {
         sequences: ["Menu", "Shift+F10"]
+        autoRepeat: false
         enabled: root.enabled && root.parent.activeFocus
         onActivated: root.open(root.mark)
     }

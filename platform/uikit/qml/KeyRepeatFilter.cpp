@@ -27,13 +27,16 @@ KeyRepeatFilter::KeyRepeatFilter(QWindow &window)
 
 bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     const auto *press = static_cast<QKeyEvent *>(event);
     if (!press->isAutoRepeat()) {
+        m_key = event->type() == QEvent::KeyPress ? press->key() : 0;
         m_beganInLines = takesLines(QGuiApplication::focusObject());
         return false;
     }
+    if (press->key() != m_key)
+        return true;
     switch (press->key()) {
     case Qt::Key_Escape:
     case Qt::Key_Back:

@@ -6,8 +6,9 @@
 
 class QWindow;
 
-/// Keeps a held Return or Escape from acting again and again: through an alert, what is below it
-/// and the alert that comes of that. In text of several lines Return repeats.
+/// Keeps a held key from acting on what it was not pressed for, and Return and Escape from acting
+/// again and again: through an alert, what is below it and the alert that comes of that. In text of
+/// several lines Return repeats.
 class KeyRepeatFilter : public QObject {
     Q_OBJECT
 
@@ -18,5 +19,6 @@ public:
     bool eventFilter(QObject *window, QEvent *event) override;
 
 private:
+    int m_key = 0; // that is held; 0 for none, or when something else took its press
     bool m_beganInLines = false; // the key held was pressed in text of several lines
 };

@@ -28,6 +28,9 @@ QtObject {
     readonly property real tabBar: 49
     readonly property real widestTab: 160
 
+    /// Where the on-screen keyboard is in the window; empty for nowhere.
+    property rect keyboard: InputMethod.visible ? InputMethod.keyboardRectangle : Qt.rect(0, 0, 0, 0)
+
     readonly property real refreshControl: 60
     /// How far a table is pulled down to be refreshed.
     readonly property real pullToRefresh: 80
@@ -41,4 +44,9 @@ QtObject {
     /// How much of a control is left to see while a finger is on it.
     readonly property real highlightedOpacity: 0.3
     readonly property real focusRing: 2
+
+    /// How much of a window of that height the on-screen keyboard covers.
+    function covered(height: real): real {
+        return Math.max(0, Math.min(keyboard.height, height - keyboard.y))
+    }
 }

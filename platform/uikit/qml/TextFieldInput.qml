@@ -18,6 +18,7 @@ TextInput {
     selectionColor: Qt.alpha(Traits.accentColor, 0.3)
     selectedTextColor: color
     selectByMouse: !menu.touched
+    activeFocusOnPress: !menu.touched
     activeFocusOnTab: true
     echoMode: control.secureTextEntry ? TextInput.Password : TextInput.Normal
     passwordCharacter: "\u2022"
@@ -31,7 +32,11 @@ TextInput {
     Keys.onEnterPressed: event => event.accepted = true
 
     onAccepted: control.returnPressed()
-    onTextChanged: control.edit(text)
+    onTextChanged: {
+        const at = cursorPosition
+        control.edit(text)
+        cursorPosition = Math.min(at, length) // where line breaks have become blanks it was moved
+    }
     onActiveFocusChanged: if (!activeFocus)
         ensureVisible(0)
 
@@ -41,7 +46,12 @@ TextInput {
     Accessible.focusable: true
     Accessible.ignored: !enabled
 
+    HoverHandler { cursorShape: Qt.IBeamCursor }
     TextInputFocus { responder: root.control }
+    SecretTextFilter {
+        editor: root
+        enabled: root.control.secureTextEntry
+    }
     EditMenuTrigger {
         id: menu
         secret: root.control.secureTextEntry

@@ -10,9 +10,7 @@ FocusScope {
 
     required property UIAlertController controller
 
-    readonly property real keyboard:
-        InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
-    readonly property real room: height - keyboard - 2 * Metrics.margin
+    readonly property real room: height - Metrics.covered(height) - 2 * Metrics.margin
 
     focus: true
 

@@ -20,7 +20,7 @@ UIControlArea {
     Accessible.pressed: control.highlighted
     Accessible.focusable: true
     Accessible.ignored: !enabled
-    Accessible.onPressAction: control.activate()
+    Accessible.onPressAction: activate()
 
     Text {
         id: title

@@ -82,7 +82,7 @@ void UIControlArea::press()
 {
     m_press.stop();
     keepGrab(true); // from what scrolls: the touch is the control's from now on
-    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
+    QGuiApplication::inputMethod()->commit(); // as in activate()
     if (m_receiver)
         m_receiver->beginTracking();
     if (m_receiver && !reach().contains(m_at)) // it has left while the press waited
@@ -168,13 +168,22 @@ void UIControlArea::touchUngrabEvent()
     cancel();
 }
 
+void UIControlArea::activate()
+{
+    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
+    if (m_receiver)
+        m_receiver->activate();
+}
+
 void UIControlArea::keyPressEvent(QKeyEvent *event)
 {
     const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
         || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Select;
     event->setAccepted(presses);
-    if (presses && !event->isAutoRepeat() && m_receiver)
-        m_receiver->activate();
+    if (presses)
+        m_keyFocus.begin();
+    if (presses && !event->isAutoRepeat())
+        activate();
 }
 
 void UIControlArea::focusInEvent(QFocusEvent *event)

@@ -27,6 +27,8 @@ public:
     void setReceiver(UIControl *receiver);
     [[nodiscard]] bool isFocusVisible() const { return m_keyFocus.isVisible(); }
 
+    /// What a key and a screen reader's press do.
+    Q_INVOKABLE void activate();
     /// Whether a press at `point` is the control's.
     [[nodiscard]] bool contains(const QPointF &point) const override;
 

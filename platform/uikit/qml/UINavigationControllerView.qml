@@ -13,10 +13,19 @@ FocusScope {
 
     // A page that has a use for these keys takes them first.
     Keys.onPressed: event => {
+        if (event.key === Qt.Key_Escape)
+            InputMethod.commit() // what is being composed is text as well
         event.accepted = event.key === Qt.Key_Escape ? controller.escape()
             : event.matches(StandardKey.Back) && controller.goBack()
     }
 
+    Connections {
+        target: root.controller
+        function onTopViewControllerChanged() {
+            if (root.activeFocus)
+                pageStack.forceActiveFocus() // the back button had it, and went
+        }
+    }
     UINavigationBarView {
         id: bar
         anchors.left: parent.left

@@ -2,18 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/qml/UIPressArea.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
-
 UIPressArea::UIPressArea(QQuickItem *parent) : UIControlArea(parent)
 {
     setReceiver(&m_control);
     connect(&m_control, &UIControl::changed, this, &UIPressArea::highlightedChanged);
     m_control.addTarget(this, &UIPressArea::triggered, UIControlEvent::TouchUpInside);
-}
-
-void UIPressArea::activate()
-{
-    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
-    m_control.activate();
 }

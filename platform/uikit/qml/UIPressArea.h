@@ -17,9 +17,6 @@ public:
     /// Whether a finger is on the button.
     [[nodiscard]] bool isHighlighted() const { return m_control.isHighlighted(); }
 
-    /// What a screen reader's press does.
-    Q_INVOKABLE void activate();
-
 Q_SIGNALS:
     void highlightedChanged();
     /// The button was touched or pressed.

@@ -5,16 +5,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import UIKit
 
-/// A table: sections from edge to edge, made as they scroll by. With the keyboard the current row
-/// moves by arrow, page, Home and End, and is chosen by Return and Space. What has the
-/// keyboard in a row, or the insertion mark in it, stays in sight above the on-screen keyboard.
+/// A table: sections from edge to edge, made as they scroll by. What has the keyboard in a row, or
+/// the insertion mark in it, stays in sight above the on-screen keyboard.
 Rectangle {
     id: root
 
     required property UITableView control
     /// Whether Tab comes to the rows, beside what they hold.
     property bool rowsHaveKeyboard: true
-    property real keyboardHeight: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
+    readonly property real keyboardHeight: Metrics.covered(Window.height)
 
     readonly property Item focused: Window.activeFocusItem
     readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle
@@ -36,38 +35,10 @@ Rectangle {
         const place = focused.mapToItem(list.contentItem, mark);
         const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
         list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
-        if (focused === (row as UITableViewEntryView).item)
+        if (focused === row) // what had the keyboard in it went in a reload
+            (keyboard.firstControl(row as UITableViewEntryView) ?? keyboard).forceActiveFocus(Qt.TabFocusReason);
+        else if (focused === (row as UITableViewEntryView).item)
             keyboard.forceActiveFocus(); // by screen reader; keys are heard here
-    }
-
-    function goTo(entry: int) {
-        if (entry < 0)
-            return;
-        list.currentIndex = entry;
-        if (list.beside(entry, -1) < 0)
-            list.positionViewAtBeginning(); // the header is seen as well
-        else if (list.beside(entry, 1) < 0)
-            list.positionViewAtEnd();
-        else
-            list.positionViewAtIndex(entry, ListView.Contain);
-    }
-    function turnPage(step: int) {
-        const edge = list.indexAt(0, list.contentY + (step > 0 ? list.height - 1 : 0));
-        if (edge >= 0)
-            list.positionViewAtIndex(edge, step > 0 ? ListView.Beginning : ListView.End);
-        list.returnToBounds();
-        root.goTo(list.beside(edge >= 0 ? edge - step : step > 0 ? list.count : -1,
-                              edge >= 0 ? step : -step));
-    }
-
-    /// The current row is chosen; in one that says nothing its first control gets the keyboard.
-    function choose() {
-        const entry = list.currentItem as UITableViewEntryView;
-        const inside = entry?.cell?.accessibilityLabel ? null : entry?.nextItemInFocusChain();
-        if (inside && entry.contains(entry.mapFromItem(inside, 1, 1)))
-            inside.forceActiveFocus(Qt.TabFocusReason);
-        else
-            root.control.chooseEntry(list.currentIndex);
     }
 
     color: control.backgroundColor.drawn(Traits.dark)
@@ -75,32 +46,13 @@ Rectangle {
     onFocusedChanged: revealSoon()
     onMarkChanged: revealSoon()
 
-    UIFocusItem {
+    UITableViewKeyboard {
         id: keyboard
         focus: true
         activeFocusOnTab: root.rowsHaveKeyboard
+        control: root.control
+        list: list
         current: list.spoken
-        onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
-            root.goTo(list.beside(list.topEntry() - 1, 1))
-
-        Keys.onUpPressed: root.goTo(list.beside(list.currentIndex, -1))
-        Keys.onDownPressed: root.goTo(list.beside(list.currentIndex, 1))
-        Keys.onReturnPressed: root.choose()
-        Keys.onEnterPressed: root.choose()
-        Keys.onSpacePressed: event => {
-            if (!event.isAutoRepeat)
-                root.choose()
-        }
-        Keys.onPressed: event => {
-            const actions = {
-                [Qt.Key_Home]: () => root.goTo(list.beside(-1, 1)),
-                [Qt.Key_End]: () => root.goTo(list.beside(list.count, -1)),
-                [Qt.Key_PageUp]: () => root.turnPage(-1),
-                [Qt.Key_PageDown]: () => root.turnPage(1)
-            };
-            event.accepted = event.key in actions;
-            actions[event.key]?.();
-        }
     }
     Connections {
         property int entry: -1
@@ -109,7 +61,7 @@ Rectangle {
 
         target: root.control
         function onReloading() {
-            entry = list.topEntry();
+            entry = keyboard.topEntry();
             offset = entry < 0 ? 0 : list.contentY - list.itemAtIndex(entry).y;
             hadKeyboard = list.activeFocus;
             list.isShort = false; // of a long one not every row is to be made
@@ -138,13 +90,6 @@ Rectangle {
     }
     ListView {
         id: list
-
-        function beside(entry: int, step: int): int {
-            return root.control.entries.rowBeside(entry, step);
-        }
-        function topEntry(): int {
-            return indexAt(0, Math.max(originY, contentY));
-        }
 
         // What is just out of sight is there for Tab and for screen readers; of a short table all is.
         property bool isShort: false

@@ -18,6 +18,14 @@ bool edits(const QQuickItem *item)
     return item;
 }
 
+// Whether it is of the left button, and not what the system makes of a touch that nobody took: that
+// was seen as the touch.
+bool taps(const QMouseEvent &event)
+{
+    const bool other = event.button() != Qt::LeftButton && event.button() != Qt::NoButton;
+    return !other && event.source() == Qt::MouseEventNotSynthesized;
+}
+
 } // namespace
 
 void UITapArea::setReceiver(UIView *receiver)
@@ -34,12 +42,9 @@ bool UITapArea::eventFilter(QObject *watched, QEvent *event)
         || event->type() == QEvent::TouchEnd;
     const bool mouse = event->type() == QEvent::MouseButtonPress
         || event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonRelease;
-    // What the system makes of a touch that nobody took was seen as that touch.
-    const bool made =
-        mouse && static_cast<QMouseEvent *>(event)->source() != Qt::MouseEventNotSynthesized;
     if (event->type() == QEvent::TouchCancel)
         m_press.reset();
-    if ((touch || mouse) && !made)
+    if (touch || (mouse && taps(*static_cast<QMouseEvent *>(event))))
         watch(*static_cast<QPointerEvent *>(event));
     return WindowWatcher::eventFilter(watched, event);
 }

@@ -22,8 +22,8 @@ Item {
         color: Traits.labelColor
         selectionColor: Qt.alpha(Traits.accentColor, 0.3)
         selectedTextColor: color
-        selectByMouse: mouse.hovered
-        activeFocusOnPress: mouse.hovered
+        selectByMouse: !menu.touched
+        activeFocusOnPress: !menu.touched
         activeFocusOnTab: true
         inputMethodHints: root.control.inputMethodHints
         cursorDelegate: TextCursor {}
@@ -42,12 +42,7 @@ Item {
         Accessible.ignored: !enabled
 
         TextInputFocus { responder: root.control }
-        HoverHandler {
-            id: mouse
-            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        }
-        EditMenuTrigger { }
-        TapHandler { onTapped: input.forceActiveFocus() }
+        EditMenuTrigger { id: menu }
     }
     Text {
         id: placeholder

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QQuickItem>
+
+/// Keeps the text of an editor from input methods, which are told what stands around the insertion
+/// mark of every other one: of a secret they hear as many bullets.
+class SecretTextFilter : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickItem *editor READ editor WRITE setEditor REQUIRED)
+    Q_PROPERTY(bool enabled MEMBER m_enabled)
+
+public:
+    [[nodiscard]] QQuickItem *editor() const { return m_editor; }
+    void setEditor(QQuickItem *editor);
+
+    bool eventFilter(QObject *editor, QEvent *event) override;
+
+private:
+    QPointer<QQuickItem> m_editor;
+    bool m_enabled = false;
+};

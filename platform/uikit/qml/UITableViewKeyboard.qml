@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+import QtQuick
+import UIKit
+
+/// Has the keyboard for the rows of a table: the current one moves by arrow, page, Home and End, and
+/// is chosen by Return and Space. One that is higher than the table is read to its end first.
+UIFocusItem {
+    id: root
+
+    required property UITableView control
+    required property ListView list
+
+    readonly property bool tall: (list.currentItem?.height ?? 0) > list.height
+
+    function beside(entry: int, step: int): int {
+        return control.entries.rowBeside(entry, step)
+    }
+    function topEntry(): int {
+        return list.indexAt(0, Math.max(list.originY, list.contentY))
+    }
+    /// What Tab comes to first in a row that says nothing itself; null for nothing.
+    function firstControl(entry: UITableViewEntryView): Item {
+        const inside = entry?.cell?.accessibilityLabel ? null : entry?.nextItemInFocusChain()
+        return inside && entry.contains(entry.mapFromItem(inside, 1, 1)) ? inside : null
+    }
+
+    function goTo(entry: int) {
+        if (entry < 0)
+            return
+        const down = entry > list.currentIndex
+        list.currentIndex = entry
+        if (beside(entry, -1) < 0 && (down || !tall))
+            list.positionViewAtBeginning() // the header is seen as well
+        else if (beside(entry, 1) < 0 && !(down && tall))
+            list.positionViewAtEnd()
+        else
+            list.positionViewAtIndex(entry, !tall ? ListView.Contain : down ? ListView.Beginning : ListView.End)
+    }
+    /// False if of the current row there is no more to be seen that way.
+    function scrollWithin(step: int, by: real): bool {
+        const top = list.currentItem?.y ?? 0
+        const bottom = top + (list.currentItem?.height ?? 0)
+        const rest = step > 0 ? bottom - list.contentY - list.height : list.contentY - top
+        if (!tall || rest < 1)
+            return false
+        list.contentY += step * Math.min(rest, by)
+        return true
+    }
+    function turnLine(step: int) {
+        if (!scrollWithin(step, 2 * Metrics.row))
+            goTo(beside(list.currentIndex, step))
+    }
+    function turnPage(step: int) {
+        if (tall) {
+            if (!scrollWithin(step, list.height - Metrics.row))
+                goTo(beside(list.currentIndex, step))
+            return
+        }
+        const edge = list.indexAt(0, list.contentY + (step > 0 ? list.height - 1 : 0))
+        if (edge >= 0)
+            list.positionViewAtIndex(edge, step > 0 ? ListView.Beginning : ListView.End)
+        list.returnToBounds()
+        goTo(beside(edge >= 0 ? edge - step : step > 0 ? list.count : -1, edge >= 0 ? step : -step))
+    }
+    /// The current row is chosen; in one that says nothing its first control gets the keyboard.
+    function choose() {
+        const inside = firstControl(list.currentItem as UITableViewEntryView)
+        if (inside)
+            inside.forceActiveFocus(Qt.TabFocusReason)
+        else
+            control.chooseEntry(list.currentIndex)
+    }
+
+    onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
+        goTo(beside(topEntry() - 1, 1))
+
+    Keys.onUpPressed: turnLine(-1)
+    Keys.onDownPressed: turnLine(1)
+    Keys.onReturnPressed: choose()
+    Keys.onEnterPressed: choose()
+    Keys.onSpacePressed: event => {
+        if (!event.isAutoRepeat)
+            choose()
+    }
+    Keys.onPressed: event => {
+        const actions = {
+            [Qt.Key_Home]: () => {
+                root.goTo(root.beside(-1, 1))
+                root.list.positionViewAtBeginning()
+            },
+            [Qt.Key_End]: () => {
+                root.goTo(root.beside(root.list.count, -1))
+                root.list.positionViewAtEnd()
+            },
+            [Qt.Key_PageUp]: () => root.turnPage(-1),
+            [Qt.Key_PageDown]: () => root.turnPage(1)
+        }
+        event.accepted = event.key in actions
+        actions[event.key]?.()
+    }
+}
