@@ -80,13 +80,14 @@ public:
         const auto done = [this, step] { log.append(u"["_s + step + u"]"_s); };
         const bool animated = !step.contains(u'!');
         const QString names = QString(step).remove(u'!');
-        if (names.endsWith(u'.'))
+        if (names.endsWith(u'.')) {
             window.presentation()->transitionEnded(page(names.chopped(1)).get());
-        else if (names.startsWith(u'-'))
+        } else if (names.startsWith(u'-')) {
             page(names.mid(1))->dismissViewControllerAnimated(animated, done);
-        else
+        } else {
             page(names.section(u'+', 0, 0))
                 ->presentViewController(page(names.section(u'+', 1)), animated, done);
+        }
     }
 
     [[nodiscard]] QString present()

@@ -128,11 +128,6 @@ private Q_SLOTS:
         addCases<Happening>({
             {"scrolled away", [](Stage &stage) { stage.list()->setProperty("contentY", 700); }},
             {"turned", [](Stage &stage) { stage.view().resize(844, 390); }},
-            {"reloaded",
-             [](Stage &stage) {
-                 stage.form->tableView()->reloadData();
-                 stage.form->nameField()->becomeFirstResponder();
-             }},
             {"larger text",
              [](Stage &stage) {
                  stage.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});

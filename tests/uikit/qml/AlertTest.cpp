@@ -21,9 +21,10 @@ struct Stage : WindowFixture {
         : WindowFixture({.textScale = textScale}),
           alert(make<UIAlertController>(u"Title"_s, message))
     {
-        for (const QString &field : fields)
+        for (const QString &field : fields) {
             alert->addTextFieldWithConfigurationHandler(
                 [&](UITextField &added) { added.setPlaceholder(field); });
+        }
         add(u"Dismiss"_s, UIAlertAction::Style::Cancel);
         for (const QString &other : others)
             add(other, UIAlertAction::Style::Default);

@@ -49,20 +49,22 @@ private Q_SLOTS:
             for (const QPoint &step : path) {
                 const bool first = &step == &path.first();
                 const QPoint at = page.at("button") + step;
-                if (mouse)
+                if (mouse) {
                     first ? QTest::mousePress(&page.window, Qt::LeftButton, {}, at)
                           : QTest::mouseMove(&page.window, at);
-                else
+                } else {
                     (first ? finger.press(0, at) : finger.move(0, at)).commit();
+                }
                 QSignalSpy frame(&page.window, &QQuickWindow::frameSwapped);
                 page.window.update();
                 QVERIFY(frame.wait()); // which moves are delivered with
             }
             const QPoint end = page.at("button") + path.last();
-            if (mouse)
+            if (mouse) {
                 QTest::mouseRelease(&page.window, Qt::LeftButton, {}, end);
-            else
+            } else {
                 finger.release(0, end).commit();
+            }
             QCOMPARE(log.take(), events);
             QCOMPARE(link.take(), neighbour);
         }

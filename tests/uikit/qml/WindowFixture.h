@@ -27,12 +27,6 @@ public:
     void viewDidAppear(bool animated) override;
 };
 
-/// A page whose file does not exist.
-class BrokenPage : public TestPage {
-    Q_OBJECT
-    Q_CLASSINFO("view", "Test/Missing.qml")
-};
-
 /// An application with a shown window; anything that QML complains about fails the test.
 class WindowFixture {
 public:
