@@ -233,6 +233,14 @@ private Q_SLOTS:
         QTRY_COMPARE(stage.scrolled(), -60);
         stage.table()->refreshControl()->endRefreshing();
         QTRY_COMPARE(stage.scrolled(), 0);
+
+        // What has the keyboard keeps it through the reload.
+        stage.app.service().clear();
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_F5})
+            stage.window->key(key);
+        QTRY_VERIFY(!stage.isRefreshing());
+        QTRY_COMPARE(stage.window->view().activeFocusItem(),
+                     stage.window->drawing(stage.card().editButton()));
     }
 
     // While the table is still on its way to the spinner.

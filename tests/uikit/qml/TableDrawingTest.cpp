@@ -181,6 +181,26 @@ private Q_SLOTS:
         QVERIFY(m_table->chosen.at(0).row > 99950 && m_table->chosen.at(0).row < 99990);
     }
 
+    void aHighRowIsReadByKeyToItsEnd()
+    {
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Up, Qt::Key_PageUp}) {
+            auto table = make<SampleTable>(std::vector{4});
+            table->height = [](const NSIndexPath &at) { return at.row % 2 == 1 ? 3000 : 44; };
+            show(table);
+            const bool down = key == Qt::Key_Down || key == Qt::Key_PageDown;
+            keys({down ? Qt::Key_Home : Qt::Key_End});
+            for (int presses = 0; presses < 90; ++presses) {
+                const QPointer row = list()->property("currentItem").value<QQuickItem *>();
+                const double before = WindowDriver::rect(row).y();
+                keys({key});
+                QVERIFY(!row || qAbs(WindowDriver::rect(row).y() - before) <= window().height());
+            }
+            QCOMPARE(list()->property("currentIndex").toInt(), down ? 4 : 1);
+            const QRectF row = WindowDriver::rect(item(down ? 4 : 1));
+            QVERIFY(down ? row.bottom() <= window().height() : row.top() >= 0);
+        }
+    }
+
     // Whatever comes into sight or leaves it meanwhile.
     void aPulledTableFollowsTheFinger()
     {

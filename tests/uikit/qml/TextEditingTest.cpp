@@ -135,6 +135,12 @@ private Q_SLOTS:
         QString said = field->textInterface() ? field->textInterface()->text(0, 100) : QString();
         for (const auto kind : {QAccessible::Value, QAccessible::Description, QAccessible::Help})
             said += field->text(kind);
+        QInputMethodQueryEvent asked(Qt::ImQueryAll); // with everything selected
+        QCoreApplication::sendEvent(stage.window.activeFocusItem(), &asked);
+        for (const auto text : {Qt::ImSurroundingText, Qt::ImCurrentSelection,
+                                Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor})
+            said += asked.value(text).toString();
+        QCOMPARE(asked.value(Qt::ImSurroundingText).toString().size(), 7);
         QVERIFY2(!said.contains(u'h'), qPrintable(said));
     }
 
