@@ -33,10 +33,9 @@ void decodeReply(const WZTRequestFrame::Reply &reply, const WZTAccountOperation 
     // A list, or no JSON at all, reads as an object without any entry.
     const QJsonObject object = reply->object();
     const auto user = operation.user ? WZTUser::initWithUserParams(object) : std::nullopt;
-    if (user)
-        completion(*operation.user, user);
-    else
-        completion(codeForResult(object[QLatin1StringView("result")], operation), std::nullopt);
+    const NSUInteger code =
+        user ? *operation.user : codeForResult(object[QLatin1StringView("result")], operation);
+    completion(code, user);
 }
 
 /// `operation` is one of the constants and outlives every request.

@@ -12,7 +12,7 @@
 
 /// One thing that a person does, or waits for.
 struct Step {
-    enum class Kind { Tap, Type, Return, Refresh, End, Await, AwaitEnd, Restart };
+    enum class Kind { Tap, Type, Return, Refresh, End, Menu, Keyboard, Await, AwaitEnd, Restart };
 
     Kind kind;
     QString what = {};

@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QQmlEngine>
 #include <QTest>
 
@@ -63,6 +64,7 @@ void Tour::picture()
     QFETCH(const Picture, picture);
     QFETCH(const Look *, look);
     m_size = look->size;
+    m_keyboard = 0;
     m_appearance = look->appearance;
     m_appearance.reduceMotion = true; // nothing is caught half-way
     QGuiApplication::setLayoutDirection(look->direction);
@@ -86,7 +88,10 @@ void Tour::picture()
     m_window->settle();
     const QString file = m_folder.filePath(QLatin1String(QTest::currentDataTag()) + u".png"_s);
     QVERIFY(m_folder.mkpath(QLatin1String(look->name)));
-    QVERIFY2(m_window->view().grabWindow().save(file), qPrintable(file));
+    QImage image = m_window->view().grabWindow();
+    QPainter(&image).fillRect(0, m_size.height() - m_keyboard, m_size.width(), m_keyboard,
+                              QColor(128, 128, 132));
+    QVERIFY2(image.save(file), qPrintable(file));
     m_window.reset();
     m_app.reset();
 }
@@ -141,6 +146,14 @@ void Tour::take(const Step &step)
         break;
     case Step::Kind::End:
         m_window->key(Qt::Key_End);
+        break;
+    case Step::Kind::Menu:
+        m_window->key(Qt::Key_Menu);
+        break;
+    case Step::Kind::Keyboard:
+        m_keyboard = m_size.height() * 2 / 5;
+        WindowDriver::showKeyboard(m_window->view(), m_keyboard);
+        QCoreApplication::processEvents(); // what is edited comes into sight
         break;
     case Step::Kind::Await:
         await(step.what);

@@ -58,7 +58,7 @@ KeyTaker {
 
         x: Math.max(Metrics.margin / 2, Math.min(root.place.x + (root.place.width - width) / 2, root.width - width - Metrics.margin / 2))
         y: above >= Metrics.margin / 2 ? above : Math.max(0, Math.min(root.place.bottom + Metrics.margin / 2, root.room - height))
-        width: Math.min(Math.max(Metrics.menuWidth, rows.implicitWidth), root.width - Metrics.margin)
+        width: Math.min(Math.max(Metrics.menuWidth, rows.widest), root.width - Metrics.margin)
         height: rows.height
         radius: Metrics.alertRadius
         color: Traits.alertColor
@@ -70,6 +70,9 @@ KeyTaker {
 
         Column {
             id: rows
+
+            property real widest: 0
+
             width: parent.width
 
             Repeater {
@@ -84,6 +87,7 @@ KeyTaker {
                     first: index === 0
                     current: index === root.current
                     onTriggered: root.chosen(modelData)
+                    Component.onCompleted: rows.widest = Math.max(rows.widest, implicitWidth)
                 }
             }
         }
