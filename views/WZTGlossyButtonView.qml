@@ -40,6 +40,7 @@ UIControlArea {
         radius: root.control.layer.cornerRadius
         color: "transparent"
         border.width: root.control.layer.borderWidth
+        border.pixelAligned: false
         border.color: root.control.layer.borderColor.drawn(Traits.dark)
     }
     Text {

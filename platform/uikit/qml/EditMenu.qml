@@ -63,6 +63,7 @@ KeyTaker {
         radius: Metrics.alertRadius
         color: Traits.alertColor
         border.width: Metrics.hairline
+        border.pixelAligned: false
         border.color: Traits.separatorColor
 
         Accessible.role: Accessible.PopupMenu

@@ -17,6 +17,7 @@ Rectangle {
     color: control.fillColor.drawn(Traits.dark)
     radius: rounded ? Metrics.fieldRadius : control.layer.cornerRadius
     border.width: rounded ? Metrics.hairline : control.layer.borderWidth
+    border.pixelAligned: false
     border.color: rounded ? Traits.separatorColor : control.layer.borderColor.drawn(Traits.dark)
 
     FontMetrics {

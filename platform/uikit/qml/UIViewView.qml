@@ -14,6 +14,7 @@ Rectangle {
     color: control.backgroundColor.drawn(Traits.dark)
     radius: control.layer.cornerRadius
     border.width: control.layer.borderWidth
+    border.pixelAligned: false
     border.color: control.layer.borderColor.drawn(Traits.dark)
     clip: control.layer.masksToBounds
 
