@@ -93,16 +93,16 @@ private Q_SLOTS:
     void coloursFollowTheStyle()
     {
         ControlsPage page;
-        const auto pixels = [&page]() -> QString { // of the background, and of a field
+        const auto pixels = [&page]() -> QString { // of the background, and a field with its border
             const QImage image = page.window.grabWindow();
             const auto at = [&](QPoint point) {
                 return image.pixelColor(point * page.window.devicePixelRatio()).name();
             };
-            return at({300, 500}) + at({200, 134});
+            return at({300, 500}) + at({200, 134}) + at({200, 116});
         };
-        QCOMPARE(pixels(), u"#f2f2f7#ffffff"_s);
+        QCOMPARE(pixels(), u"#f2f2f7#ffffff#bdbdc2"_s);
         page.application.traits().setOverride(UIAppearance{UIUserInterfaceStyle::Dark});
-        QCOMPARE(pixels(), u"#000000#1c1c1e"_s);
+        QCOMPARE(pixels(), u"#000000#1c1c1e#323235"_s);
     }
 
     void picturesAreCrispAndTinted()
