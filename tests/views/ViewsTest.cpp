@@ -94,6 +94,9 @@ private Q_SLOTS:
             {UIColor::colorWithWhite(0.1, 0.5), {-0.1, -0.1, -0.1, 0.5}},
             {UIColor::blackColor(), {0.2, 1}},
             {UIColor::colorWithRed(0, 0, 0, 0.5), {0.2, 0.5}},
+            {UIColor::colorWithCGColor({0.5, 0.1, 0, 0.4}), {0.3, -0.1, -0.2, 0.4}},
+            {UIColor::colorWithCGColor({0.7, 0.4}), {0.5, 0.5, 0.5, 0.4}},
+            {UIColor::colorWithCGColor({0.1, 0.2, 0.3, 0.4, 1}), {}},
             {UIColor(), {}},
         };
         const auto text = [](const Components &components) {

@@ -141,6 +141,8 @@ private Q_SLOTS:
                                 Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor})
             said += asked.value(text).toString();
         QCOMPARE(asked.value(Qt::ImSurroundingText).toString().size(), 7);
+        const Qt::InputMethodHints hints(asked.value(Qt::ImHints).toInt());
+        QVERIFY(hints.testFlags(Qt::ImhHiddenText | Qt::ImhSensitiveData));
         QVERIFY2(!said.contains(u'h'), qPrintable(said));
     }
 
