@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto variable = "QT_QUICK_BACKEND";
+/// Tells the program that it was started anew to do without hardware.
+constexpr auto mark = "WZT_SOFTWARE_RENDERER";
 
 bool hasGraphicsHardware()
 {
@@ -28,8 +29,10 @@ bool hasGraphicsHardware()
 
 void Renderer::choose()
 {
-    // Not by the variable: programs that a link starts would inherit it.
-    if (!qEnvironmentVariableIsSet(variable) && !hasGraphicsHardware())
+    const bool fellBack = qEnvironmentVariableIsSet(mark);
+    qunsetenv(mark);
+    // Not by Qt's variable: programs that a link starts would inherit it.
+    if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware()))
         QQuickWindow::setSceneGraphBackend(u"software"_s);
 }
 
@@ -43,6 +46,8 @@ void Renderer::fallBack()
     for (QByteArray &argument : arguments)
         pointers.push_back(argument.data());
     pointers.back() = nullptr; // the last one ends with a null character as well
-    qputenv(variable, "software");
-    execv("/proc/self/exe", pointers.data());
+    qputenv(mark, "1");
+    const QByteArray program = QFile::encodeName(QFile::symLinkTarget(u"/proc/self/exe"_s));
+    execv(program.constData(), pointers.data());
+    execv("/proc/self/exe", pointers.data()); // even if it was replaced meanwhile
 }

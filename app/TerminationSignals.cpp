@@ -30,8 +30,12 @@ void handle(void (*handler)(int))
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
-    for (const int number : signalNumbers)
-        sigaction(number, &action, nullptr);
+    for (const int number : signalNumbers) {
+        struct sigaction before = {};
+        // What the program was started to ignore it ignores.
+        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
 }
 
 } // namespace

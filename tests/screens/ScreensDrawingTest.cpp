@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "screens/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
@@ -126,6 +127,21 @@ private Q_SLOTS:
             QVERIFY(screen.back == screen.escaped || !stage.accessible(screen.back));
             QVERIFY(stage.window->view().activeFocusItem()->isVisible());
         }
+    }
+
+    void aTouchThatOutlivesItsPageTakesNoKeyboard()
+    {
+        ScreenStage stage(allScreens().front());
+        QQuickView &view = stage.window->view();
+        auto *login = stage.app.top<WZTLoginViewController>();
+        WindowDriver::Finger finger(
+            view, view.mapFromGlobal(stage.accessible(u"Email"_s)->rect().center()));
+        login->displayErrorMessage(u"Meanwhile"_s);
+        stage.window->settle();
+        finger.lift();
+        stage.window->key(Qt::Key_Return);
+        stage.window->settle();
+        QCOMPARE(stage.app.top(), login);
     }
 
     void theWheelScrollsWhateverIsBelow_data()

@@ -25,8 +25,7 @@ KeyTaker {
     }
 
     anchors.fill: parent
-    onWidthChanged: closed()
-    onHeightChanged: closed()
+    onWidthChanged: closed() // not of the height, which an on-screen keyboard takes from
     LayoutMirroring.enabled: Metrics.direction < 0
     LayoutMirroring.childrenInherit: true
 

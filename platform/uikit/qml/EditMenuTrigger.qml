@@ -59,12 +59,20 @@ Item {
     }
     TapHandler {
         acceptedDevices: PointerDevice.TouchScreen
+        // A touch may outlive its page: what covers that has the keyboard.
         onTapped: {
+            if (!root.enabled)
+                return
             root.parent.forceActiveFocus()
             InputMethod.show() // or it would not come again when it was put away
         }
-        onDoubleTapped: eventPoint => root.point(eventPoint.position, true)
+        onDoubleTapped: eventPoint => {
+            if (root.enabled)
+                root.point(eventPoint.position, true)
+        }
         onLongPressed: {
+            if (!root.enabled)
+                return
             root.point(point.position, true)
             root.open(root.mark)
         }

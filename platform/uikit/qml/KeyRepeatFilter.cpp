@@ -18,6 +18,11 @@ bool takesLines(QObject *focused)
     return Qt::InputMethodHints(query.value(Qt::ImHints).toInt()).testFlag(Qt::ImhMultiLine);
 }
 
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
 } // namespace
 
 KeyRepeatFilter::KeyRepeatFilter(QWindow &window)
@@ -30,9 +35,15 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     const auto *press = static_cast<QKeyEvent *>(event);
+    if (isModifier(press->key()))
+        return false; // the other key that is held goes on
     if (!press->isAutoRepeat()) {
-        m_key = event->type() == QEvent::KeyPress ? press->key() : 0;
-        m_beganInLines = takesLines(QGuiApplication::focusObject());
+        if (event->type() == QEvent::KeyPress) {
+            m_key = press->key();
+            m_beganInLines = takesLines(QGuiApplication::focusObject());
+        } else if (press->key() == m_key) {
+            m_key = 0;
+        }
         return false;
     }
     if (press->key() != m_key)

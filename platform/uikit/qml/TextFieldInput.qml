@@ -35,7 +35,8 @@ TextInput {
     onTextChanged: {
         const at = cursorPosition
         control.edit(text)
-        cursorPosition = Math.min(at, length) // where line breaks have become blanks it was moved
+        if (cursorPosition !== at) // to set it ends what is being composed, and the selection
+            cursorPosition = Math.min(at, length) // where line breaks have become blanks it was moved
     }
     onActiveFocusChanged: if (!activeFocus)
         ensureVisible(0)

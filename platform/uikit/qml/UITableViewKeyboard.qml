@@ -37,22 +37,33 @@ UIFocusItem {
         else
             list.positionViewAtIndex(entry, !tall ? ListView.Contain : down ? ListView.Beginning : ListView.End)
     }
+    function tallInSight(): bool {
+        const top = list.currentItem?.y ?? 0
+        return tall && top < list.contentY + list.height && top + (list.currentItem?.height ?? 0) > list.contentY
+    }
     /// False if of the current row there is no more to be seen that way.
     function scrollWithin(step: int, by: real): bool {
         const top = list.currentItem?.y ?? 0
         const bottom = top + (list.currentItem?.height ?? 0)
         const rest = step > 0 ? bottom - list.contentY - list.height : list.contentY - top
-        if (!tall || rest < 1)
+        if (!tallInSight() || rest < 1)
             return false
         list.contentY += step * Math.min(rest, by)
         return true
     }
     function turnLine(step: int) {
-        if (!scrollWithin(step, 2 * Metrics.row))
-            goTo(beside(list.currentIndex, step))
+        const next = beside(list.currentIndex, step)
+        if (scrollWithin(step, 2 * Metrics.row))
+            return
+        if (next >= 0)
+            goTo(next)
+        else if (step > 0)
+            list.positionViewAtEnd() // what stands below the last row is seen as well
+        else
+            list.positionViewAtBeginning()
     }
     function turnPage(step: int) {
-        if (tall) {
+        if (tallInSight()) {
             if (!scrollWithin(step, list.height - Metrics.row))
                 goTo(beside(list.currentIndex, step))
             return

@@ -9,8 +9,8 @@
 class UIWindow;
 
 /// The window on the desktop that draws a UIWindow: 390x844 at first, or as much of that as
-/// the screen has room for, freely resizable from 320x568 up. Ctrl+Q and closing it end the application's main loop. Which renderer draws it is
-/// left to Qt and to the environment.
+/// the screen has room for, freely resizable from 320x568 up. Ctrl+Q and closing it end the
+/// application's main loop. Which renderer draws it is left to Qt and to the environment.
 class UIWindowHost {
 public:
     /// `window` outlives the host.

@@ -117,8 +117,9 @@ private Q_SLOTS:
         stage.name.setText(nothing);
         stage.compose(u"\u00b4"_s, {});
         QCOMPARE(stage.name.text(), nothing);
-        stage.compose({}, u"\u00e9"_s);
+        stage.compose(u"m"_s, u"\u00e9"_s); // the next is begun at once
         QCOMPARE(stage.name.text(), std::optional(u"\u00e9"_s));
+        QCOMPARE(stage.window.activeFocusItem()->property("preeditText").toString(), u"m"_s);
         QCOMPARE(log.take(), u"changed return changed"_s);
     }
 
