@@ -17,6 +17,8 @@ namespace {
 
 using Values = QMap<QString, NSCoder::Value>;
 
+const NSCoder::Value absent;
+
 constexpr char userReply[] = R"({"userTavloID":7, "userEmail":"jo@wzt.example", "userName":"Jo",
     "userReddit":"jo_r", "userTwitter":"jo_t", "userDiscord":"jo#1", "userCydiaID":"123",
     "userEarlyAdopterStatus":1, "userJoined":"2019-08-14 17:05:09"})";
@@ -88,8 +90,8 @@ private Q_SLOTS:
             {R"({"userEarlyAdopterStatus":"+0y"})", u"earlyAdopter"_s, true},
             {R"({"userEarlyAdopterStatus":"0"})", u"earlyAdopter"_s, false},
             {R"({"userEarlyAdopterStatus":null})", u"earlyAdopter"_s, false},
-            {R"({"userJoined":"2019-08-14"})", u"joinDate"_s, {}},
-            {R"({"userJoined":20190814170509})", u"joinDate"_s, {}},
+            {R"({"userJoined":"2019-08-14"})", u"joinDate"_s, absent},
+            {R"({"userJoined":20190814170509})", u"joinDate"_s, absent},
         };
         for (const auto &[changes, key, value] : rows) {
             Values expected = whole;
@@ -119,14 +121,14 @@ private Q_SLOTS:
             {"{}", u"open"_s, true},
             {R"({"issueId":9007199254740993})", u"issueId"_s, u"9007199254740993"_s},
             {R"({"referenceId":1.5})", u"referenceId"_s, u"1.5"_s},
-            {R"({"packageId":{"a":1}})", u"packageId"_s, {}},
-            {R"({"reporterId":true})", u"reporterId"_s, {}},
+            {R"({"packageId":{"a":1}})", u"packageId"_s, absent},
+            {R"({"reporterId":true})", u"reporterId"_s, absent},
             {R"({"title":""})", u"title"_s, u""_s},
-            {R"({"description":null})", u"issueDescription"_s, {}},
+            {R"({"description":null})", u"issueDescription"_s, absent},
             {R"({"issueDescription":"its key in archives"})", u"open"_s, true},
             {R"({"open":"YES"})", u"open"_s, true},
             {R"({"open":"no"})", u"open"_s, false},
-            {R"({"openDate":"05/01/2020 10:00"})", u"openDate"_s, {}},
+            {R"({"openDate":"05/01/2020 10:00"})", u"openDate"_s, absent},
         };
         for (const auto &[changes, key, value] : rows) {
             Values expected = whole;
