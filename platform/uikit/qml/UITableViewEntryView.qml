@@ -23,4 +23,6 @@ Loader {
     Component.onCompleted: setSource(cell ? "UITableViewRowView.qml" : "UITableViewTextView.qml", {"entry": root})
     Component.onDestruction: if (cell)
         table?.cellHidden(cell)
+
+    ReadingOrder {}
 }
