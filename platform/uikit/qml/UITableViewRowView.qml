@@ -17,7 +17,6 @@ Item {
     Accessible.name: cell.accessibilityLabel
     Accessible.description: qsTr("%1 of %2").arg(entry.position).arg(entry.rows)
     Accessible.focusable: true
-    Accessible.focused: entry.spoken
     Accessible.ignored: !cell.accessibilityLabel || !enabled
 
     Connections {
