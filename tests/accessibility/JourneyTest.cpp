@@ -181,6 +181,8 @@ private Q_SLOTS:
                 {escape, {}, u"field Email: jo@wzt.example"_s},
                 {type(u"Password"_s, u"secret"_s), login.arg(u": jo@wzt.example"_s, focused)},
                 {press(u"Login"_s), home},
+                {focus(u"Thanks for the support!"_s), {}, u"list Home"_s},
+                {up, {}, u"row Join Discord, 3 of 3, to press"_s},
                 // Row by row.
                 {press(u"Bug Reporter"_s), projects},
                 {down, {}, u"row Pintle, 1 of 6, to press"_s},
