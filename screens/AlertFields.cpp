@@ -9,6 +9,7 @@ void addFields(UIAlertController &alert, std::span<const AlertField> fields)
     for (const AlertField &row : fields) {
         alert.addTextFieldWithConfigurationHandler([&row](UITextField &field) {
             field.setPlaceholder(row.placeholder);
+            field.setAccessibilityLabel(row.name);
             field.setInputTraits(row.traits);
             field.setBorderStyle(UITextField::BorderStyle::RoundedRect);
         });

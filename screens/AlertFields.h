@@ -14,6 +14,8 @@ class UIAlertController;
 struct AlertField {
     QString placeholder;
     UITextInputTraits traits;
+    /// What screen readers call the field; the placeholder unless set.
+    QString name = {};
 };
 
 /// Adds the fields to `alert`, in their order, each with a rounded border.

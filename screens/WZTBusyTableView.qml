@@ -11,6 +11,7 @@ UITableViewView {
     required property WZTBusyTableViewController controller
 
     control: controller.tableView
+    Accessible.name: controller.navigationItem.title
 
     UIActivityIndicatorViewView {
         objectName: "indicator"

@@ -19,6 +19,13 @@ void setUp(UILabel &label, UIFontTextStyle style, const UIColor &color, const QS
     label.setText(text);
 }
 
+// Screen readers come to the caption after what it is of, so the value says both.
+void fillValue(UILabel &value, const UILabel &caption, const std::optional<QString> &text)
+{
+    value.setText(text.value_or(QString()));
+    value.setAccessibilityLabel(u"%1: %2"_s.arg(caption.text(), value.text()));
+}
+
 QString joinLine(int number, const std::optional<NSDate> &date)
 {
     NSDateFormatter formatter;
@@ -64,8 +71,8 @@ WZTAccountTableViewCell::~WZTAccountTableViewCell() = default;
 void WZTAccountTableViewCell::fill()
 {
     const std::optional<WZTUser> &user = WZTSession::shared()->currentUser();
-    m_userNameLabel.setText(user ? user->userName.value_or(QString()) : QString());
-    m_emailLabel.setText(user ? user->email.value_or(QString()) : QString());
+    fillValue(m_userNameLabel, m_userNameTitleLabel, user ? user->userName : std::nullopt);
+    fillValue(m_emailLabel, m_emailTitleLabel, user ? user->email : std::nullopt);
     m_userSinceLabel.setText(
         joinLine(user ? user->tavloId : 0, user ? user->joinDate : std::nullopt));
 }

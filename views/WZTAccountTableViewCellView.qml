@@ -58,6 +58,7 @@ Item {
             id: userNameTitle
             control: root.control.userNameTitleLabel
             anchors { top: dividerTwo.bottom; topMargin: 2; left: parent.left; leftMargin: 14 }
+            Accessible.ignored: userName.text !== "" || !enabled
         }
 
         UILabelView {
@@ -76,6 +77,7 @@ Item {
             id: emailTitle
             control: root.control.emailTitleLabel
             anchors { top: dividerThree.bottom; topMargin: 2; left: parent.left; leftMargin: 14 }
+            Accessible.ignored: email.text !== "" || !enabled
         }
 
         UILabelView {

@@ -43,7 +43,7 @@ void UITableViewCell::setHighlighted(bool highlighted)
 
 bool UITableViewCell::drawsSelection() const
 {
-    return m_selectionStyle != UITableViewCellSelectionStyle::None && (m_selected || m_highlighted);
+    return selects() && (m_selected || m_highlighted);
 }
 
 UIColor UITableViewCell::selectionColor()

@@ -28,7 +28,7 @@ class UITableViewCell : public UIView {
     Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT)
     Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT)
     Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed)
-    Q_PROPERTY(bool selected READ isSelected NOTIFY changed)
+    Q_PROPERTY(bool selects READ selects NOTIFY changed)
     Q_PROPERTY(bool animatesSelection READ animatesSelection NOTIFY changed)
 
 public:
@@ -51,6 +51,11 @@ public:
 
     [[nodiscard]] UITableViewCellSelectionStyle selectionStyle() const { return m_selectionStyle; }
     void setSelectionStyle(UITableViewCellSelectionStyle style) { assign(m_selectionStyle, style); }
+    /// Whether choosing the row is of any use.
+    [[nodiscard]] bool selects() const
+    {
+        return m_selectionStyle != UITableViewCellSelectionStyle::None;
+    }
 
     /// Called before the cell is handed out for another row; an override calls the base
     /// implementation first. Content stays as it is.

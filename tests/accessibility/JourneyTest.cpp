@@ -54,26 +54,31 @@ const Deed wait = [](ScreenReader &) { return true; };
 const Deed tab = key(0xff09);
 const Deed up = key(0xff52);
 const Deed down = key(0xff54);
+const Deed end = key(0xff57);
+const Deed escape = key(0xff1b);
+const Deed menu = key(0xff67);
 
 // The screens, from top to bottom.
 const QString focused = u", focused"_s;
 const QString login = u"heading Account Login|field Email%1|secret Password%2|button Login|"
                       "button Forgot Password?|button Need an Account?"_s;
 const QString home =
-    u"heading Home|list, focused|row Bug Reporter, 1 of 1|row Add Public Repo, 1 of 3|"
-    "row Add Supporter Repo, 2 of 3|row Join Discord, 3 of 3|label Thanks for the support!|"
+    u"heading Home|list Home, focused|row Bug Reporter, 1 of 1, to press|"
+    "row Add Public Repo, 1 of 3, to press|row Add Supporter Repo, 2 of 3, to press|"
+    "row Join Discord, 3 of 3, to press|label Thanks for the support!|"
     "tabs|tab Home, selected|tab Account"_s;
 const QString projects =
-    u"button Back to Home|heading Projects|list, focused|row Pintle, 1 of 6|row Marrow!, 2 of 6|"
-    "row QELVAN, 3 of 6|row tessaroo, 4 of 6|row Halden 3, 5 of 6|row KiteLoom, 6 of 6|"
+    u"button Back to Home|heading Projects|list Projects, focused|row Pintle, 1 of 6, to press|"
+    "row Marrow!, 2 of 6, to press|row QELVAN, 3 of 6, to press|row tessaroo, 4 of 6, to press|"
+    "row Halden 3, 5 of 6, to press|row KiteLoom, 6 of 6, to press|"
     "tabs|tab Home, selected|tab Account"_s;
-const QString issues = u"button Cancel|button Add|heading QELVAN Issues|list, focused|%1"_s;
-const QString form = u"button Cancel|button Submit|heading New Issue|list|field Title%1|"
+const QString issues = u"button Cancel|heading %1 Issues|button Add|list %1 Issues%2"_s;
+const QString form = u"button Cancel|heading New Issue|button Submit|list New Issue|field Title%1|"
                      "label Enter a consise descriptive title|field Notes%2"_s;
 const QString notesHint = u", Have more details about reproducing this issue?"_s;
 const QString account =
-    u"heading Account|list, focused|heading Account Details|button Update|label %1|label Name|"
-    "label jo@wzt.example|label Email|label #1 Joined Nov 16, 2026|button Logout|"
+    u"heading Account|list Account, focused|heading Account Details|button Update|label Name: %1|"
+    "label Email: jo@wzt.example|label #1 Joined Nov 16, 2026|button Logout|"
     "tabs|tab Home|tab Account, selected"_s;
 const QString message = u"alert %1, %2, focused|label %1|label %2|button Dismiss"_s;
 const QString reset =
@@ -81,8 +86,18 @@ const QString reset =
 const QString registration =
     u"dialog New Account|label New Account|field Name, focused|field Email|secret Password|"
     "button Dismiss|button Register"_s;
-const QString update = u"dialog Update Account|label Update Account|field Jo%1|secret New Password|"
-                       "secret Current Password%2|button Dismiss|button Update"_s;
+const QString update =
+    u"dialog Update Account|label Update Account|field Name%1|secret New Password|"
+    "secret Current Password%2|button Dismiss|button Update"_s;
+
+// Of thirty, what fits the window.
+QString oldIssues(int first, int last)
+{
+    QString rows;
+    for (int i = first; i <= last; ++i)
+        rows += u"|row Old, %1 of 30"_s.arg(i);
+    return rows;
+}
 
 // Nothing is said when the bus is there, so it is asked for until it answers.
 QString accessibilityBus()
@@ -127,6 +142,9 @@ private Q_SLOTS:
         service.addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s, .joined = date},
                            u"secret"_s);
         service.addIssue({.package = project, .title = u"Slow"_s, .opened = date});
+        for (int i = 0; i < 30; ++i)
+            service.addIssue(
+                {.package = u"example.wzt.pintle"_s, .title = u"Old"_s, .opened = date});
         service.stage("/issues.php", sandbox::Fault::delay(std::chrono::milliseconds(500)));
 
         TestProcess display;
@@ -158,17 +176,28 @@ private Q_SLOTS:
                 {press(u"Need an Account?"_s), registration},
                 {press(u"Dismiss"_s), atFirst},
                 {type(u"Email"_s, u"jo@wzt.example"_s), {}, u"field Email: jo@wzt.example"_s},
+                {menu, {}, u"menu Edit"_s},
+                {down, {}, u"item Select All"_s},
+                {escape, {}, u"field Email: jo@wzt.example"_s},
                 {type(u"Password"_s, u"secret"_s), login.arg(u": jo@wzt.example"_s, focused)},
                 {press(u"Login"_s), home},
+                {focus(u"Thanks for the support!"_s), {}, u"list Home"_s},
+                {up, {}, u"row Join Discord, 3 of 3, to press"_s},
                 // Row by row.
                 {press(u"Bug Reporter"_s), projects},
-                {down, {}, u"row Pintle, 1 of 6"_s},
-                {down, {}, u"row Marrow!, 2 of 6"_s},
-                {focus(u"tessaroo"_s), {}, u"row tessaroo, 4 of 6"_s},
-                {up, {}, u"row QELVAN, 3 of 6"_s},
+                {down, {}, u"row Pintle, 1 of 6, to press"_s},
+                {down, {}, u"row Marrow!, 2 of 6, to press"_s},
+                {focus(u"tessaroo"_s), {}, u"row tessaroo, 4 of 6, to press"_s},
+                {up, {}, u"row QELVAN, 3 of 6, to press"_s},
+                // Issues in their order, wherever the table was when they came again.
+                {press(u"Pintle"_s), issues.arg(u"Pintle"_s, u", focused|progress Loading"_s)},
+                {wait, issues.arg(u"Pintle"_s, focused + oldIssues(1, 18))},
+                {end, {}, u"row Old, 30 of 30"_s},
+                {press(u"Add"_s), form.arg(focused, notesHint)},
+                {press(u"Cancel"_s), issues.arg(u"Pintle"_s, oldIssues(12, 30) + focused)},
+                {press(u"Cancel"_s), {}, u"row QELVAN, 3 of 6, to press"_s},
                 // A new issue.
-                {press(u"QELVAN"_s), issues.arg(u"progress Loading"_s)},
-                {wait, issues.arg(u"row Slow, 1 of 1"_s)},
+                {press(u"QELVAN"_s), issues.arg(u"QELVAN"_s, u", focused|row Slow, 1 of 1"_s)},
                 {press(u"Add"_s), form.arg(focused, notesHint)},
                 {press(u"Submit"_s),
                  message.arg(u"Validation Error"_s, u"Ensure at least a title is entered"_s)},
@@ -178,15 +207,18 @@ private Q_SLOTS:
                 {press(u"Submit"_s),
                  message.arg(u"Submission Success"_s,
                              u"Thank you for submitted an issue report"_s)},
-                {press(u"Dismiss"_s), issues.arg(u"row Crash, Often, 1 of 2|row Slow, 2 of 2"_s)},
-                {press(u"Cancel"_s), {}, u"row QELVAN, 3 of 6"_s},
+                {press(u"Dismiss"_s),
+                 issues.arg(u"QELVAN"_s, u", focused|row Crash, Often, 1 of 2|row Slow, 2 of 2"_s)},
+                {press(u"Cancel"_s), {}, u"row QELVAN, 3 of 6, to press"_s},
                 // The account.
                 {press(u"Account"_s), account.arg(u"Jo"_s)},
-                {press(u"Update"_s), update.arg(focused, QString())},
-                {type(u"Jo"_s, u"Joan"_s), update.arg(u": Joan, focused"_s, QString())},
+                {press(u"Update"_s), update.arg(u", Jo, focused"_s, QString())},
+                {type(u"Name"_s, u"Joan"_s), update.arg(u": Joan, focused"_s, QString())},
                 {type(u"Current Password"_s, u"secret"_s), update.arg(u": Joan"_s, focused)},
                 {press(u"Update"_s), message.arg(u"Great!"_s, u"Account successfully updated."_s)},
                 {press(u"Dismiss"_s), account.arg(u"Joan"_s)},
+                {down, {}, u"button Update"_s},
+                {down, {}, u"button Logout"_s},
                 {press(u"Logout"_s), atFirst},
             });
         QCOMPARE(service.issues(project).value(0).reporter, 1);

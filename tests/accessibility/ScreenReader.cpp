@@ -44,11 +44,13 @@ constexpr Manners allManners[] = {
     {16, "dialog"_L1},
     {23, "window"_L1},
     {29, "label"_L1},
-    {31, "list"_L1, false},
-    {32, "row"_L1, true, focusable | selectable, "Press"_L1},
+    {31, "list"_L1, true, focusable},
+    {32, "row"_L1, true, focusable},
+    {35, "item"_L1, true, focusable, "Press"_L1},
     {37, "tab"_L1, true, focusable | selectable, "Press"_L1},
     {38, "tabs"_L1, false},
     {40, "secret"_L1, true, focusable | editable, "SetFocus"_L1},
+    {41, "menu"_L1},
     {42, "progress"_L1},
     {43, "button"_L1, true, focusable, "Press"_L1},
     {61, "field"_L1, true, focusable | editable, "SetFocus"_L1},
@@ -155,8 +157,10 @@ QString ScreenReader::describe(const Node &node) const
         line += u", "_s + node.description;
     if (node.states & selected)
         line += u", selected"_s;
-    if (isFocused(node))
-        line += u", focused"_s;
+    if (manners->action.isEmpty() && node.actions.contains(u"Press"_s))
+        line += u", to press"_s;
+    if (node.states & hasFocus)
+        line += isFocused(node) ? u", focused"_s : u", focused as well"_s;
     const quint64 missing = (manners->states | visible | enabled | sensitive) & ~node.states;
     if (manners->named && node.name.isEmpty())
         line += u" (no name)"_s;

@@ -17,7 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(ScreenReader)
 
     /// Everything that shows in the application, its window first, as it is heard: "role name:
-    /// text, description, selected, focused", and what keeps it from being operated.
+    /// text, description, selected, to press, focused", and what keeps it from being operated.
     [[nodiscard]] QStringList screen() const;
     /// Of these what has the keyboard: what was the last to say so, and still is. Empty for none.
     [[nodiscard]] QString focused() const;

@@ -210,7 +210,7 @@ private Q_SLOTS:
         QVERIFY(stage.window->accessible(u"Loading"_s));
         QTRY_VERIFY(!stage.isRefreshing());
         QTRY_COMPARE(stage.scrolled(), 0);
-        QVERIFY(stage.window->accessible(u"Joanna"_s));
+        QVERIFY(stage.window->accessible(u"Name: Joanna"_s));
         QVERIFY(!stage.window->accessible(u"Loading"_s));
     }
 

@@ -46,7 +46,7 @@ const std::vector<Screen> &allScreens()
         {"alert",
          true,
          {u"Account"_s, u"Update"_s},
-         u"Jo, New Password, Current Password, Dismiss, Update"_s,
+         u"Name, New Password, Current Password, Dismiss, Update"_s,
          u"Logout"_s,
          u"Update Account"_s},
     };

@@ -15,16 +15,17 @@ KeyTaker {
     required property rect place
 
     readonly property real room: height - Metrics.covered(height)
-    property int current: -1
+    property int line: -1
 
     signal chosen(title: string)
     signal closed()
 
     function move(step: int) {
-        current = (Math.max(current, step < 0 ? 0 : -1) + step + titles.length) % titles.length
+        line = (Math.max(line, step < 0 ? 0 : -1) + step + titles.length) % titles.length
     }
 
     anchors.fill: parent
+    current: line < 0 ? card : items.itemAt(line)
     onWidthChanged: closed() // not of the height, which an on-screen keyboard takes from
     LayoutMirroring.enabled: Metrics.direction < 0
     LayoutMirroring.childrenInherit: true
@@ -37,8 +38,8 @@ KeyTaker {
         const chooses = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key)
         if (event.isAutoRepeat)
             return // it was pressed before the menu was there
-        if (chooses && current >= 0)
-            root.chosen(titles[current])
+        if (chooses && line >= 0)
+            root.chosen(titles[line])
         else if (event.key !== Qt.Key_Shift)
             root.closed()
     }
@@ -76,6 +77,7 @@ KeyTaker {
             width: parent.width
 
             Repeater {
+                id: items
                 model: root.titles
 
                 EditMenuItem {
@@ -85,7 +87,7 @@ KeyTaker {
                     width: rows.width
                     title: modelData
                     first: index === 0
-                    current: index === root.current
+                    current: index === root.line
                     onTriggered: root.chosen(modelData)
                     Component.onCompleted: rows.widest = Math.max(rows.widest, implicitWidth)
                 }

@@ -18,7 +18,6 @@ UIPressArea {
     Accessible.role: Accessible.MenuItem
     Accessible.name: title
     Accessible.focusable: true
-    Accessible.focused: current
     Accessible.onPressAction: triggered()
 
     Rectangle {

@@ -4,6 +4,25 @@
 
 #include <QCoreApplication>
 
+void KeyTaker::setCurrent(QQuickItem *current)
+{
+    if (current == m_current)
+        return;
+    m_current = current;
+    Q_EMIT currentChanged();
+    m_spoken.set(current);
+}
+
+void KeyTaker::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    if (change == ItemSceneChange && watched() && !data.window) {
+        m_spoken.set(nullptr);
+        if (QQuickItem *focused = watched()->activeFocusItem())
+            SpokenFocus::tell(*focused);
+    }
+    WindowWatcher::itemChange(change, data);
+}
+
 bool KeyTaker::eventFilter(QObject *watched, QEvent *event)
 {
     switch (int(event->type())) {

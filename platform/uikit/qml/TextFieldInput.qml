@@ -43,6 +43,7 @@ TextInput {
 
     Accessible.role: Accessible.EditableText
     Accessible.name: control.accessibilityLabel
+    Accessible.description: length > 0 || control.placeholder === control.accessibilityLabel ? "" : control.placeholder
     Accessible.editable: true
     Accessible.focusable: true
     Accessible.ignored: !enabled

@@ -14,11 +14,6 @@ FocusScope {
 
     focus: true
 
-    Accessible.role: controller.textFields.length > 0 ? Accessible.Dialog : Accessible.AlertMessage
-    Accessible.name: controller.title
-    Accessible.description: controller.message
-    Accessible.ignored: !enabled
-
     Keys.onEscapePressed: controller.triggerCancel()
     Keys.onReturnPressed: controller.triggerDefault()
     Keys.onEnterPressed: controller.triggerDefault()
@@ -31,6 +26,12 @@ FocusScope {
         height: body.height + buttons.height
         radius: Metrics.alertRadius
         color: Traits.alertColor
+        focus: true // until a field has it
+
+        Accessible.role: root.controller.textFields.length > 0 ? Accessible.Dialog : Accessible.AlertMessage
+        Accessible.name: root.controller.title
+        Accessible.description: root.controller.message
+        Accessible.ignored: !enabled
 
         RevealingFlickable {
             id: body

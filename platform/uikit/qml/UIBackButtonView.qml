@@ -21,6 +21,7 @@ UIPressArea {
     Accessible.role: Accessible.Button
     Accessible.name: title ? qsTr("Back to %1").arg(title) : qsTr("Back")
     Accessible.focusable: true
+    Accessible.pressed: highlighted
     Accessible.ignored: !visible || !enabled
     Accessible.onPressAction: activate()
 

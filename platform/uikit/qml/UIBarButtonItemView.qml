@@ -22,6 +22,7 @@ UIPressArea {
     Accessible.role: Accessible.Button
     Accessible.name: item?.title ?? ""
     Accessible.focusable: true
+    Accessible.pressed: highlighted
     Accessible.ignored: !visible || !enabled
     Accessible.onPressAction: activate()
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/qml/UIFocusItem.h"
 
-#include <QAccessible>
-
 UIFocusItem::UIFocusItem(QQuickItem *parent) : QQuickItem(parent)
 {
     connect(&m_keyFocus, &KeyFocus::changed, this, &UIFocusItem::focusVisibleChanged);
@@ -20,10 +18,7 @@ void UIFocusItem::setCurrent(QQuickItem *current)
 
 void UIFocusItem::tellCurrent()
 {
-    if (!m_current || !hasActiveFocus())
-        return;
-    QAccessibleEvent focus(m_current, QAccessible::Focus);
-    QAccessible::updateAccessibility(&focus);
+    m_spoken.set(hasActiveFocus() ? m_current.get() : nullptr);
 }
 
 bool UIFocusItem::event(QEvent *event)
@@ -46,4 +41,5 @@ void UIFocusItem::focusOutEvent(QFocusEvent *event)
 {
     QQuickItem::focusOutEvent(event);
     m_keyFocus.follow(Qt::OtherFocusReason);
+    tellCurrent();
 }

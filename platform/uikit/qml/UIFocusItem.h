@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/uikit/qml/KeyFocus.h"
+#include "platform/uikit/qml/SpokenFocus.h"
 
 #include <QPointer>
 #include <QQuickItem>
@@ -36,5 +37,6 @@ private:
     void tellCurrent();
 
     QPointer<QQuickItem> m_current;
+    SpokenFocus m_spoken;
     KeyFocus m_keyFocus{*this};
 };

@@ -33,13 +33,6 @@ Rectangle {
         item: root.page?.navigationItem.leftBarButtonItem ?? null
         room: root.buttonRoom
     }
-    UIBarButtonItemView {
-        id: right
-        anchors.right: parent.right
-        height: parent.height
-        item: root.page?.navigationItem.rightBarButtonItem ?? null
-        room: root.buttonRoom
-    }
     TextMetrics {
         id: natural
         text: title.text
@@ -71,6 +64,13 @@ Rectangle {
             to: 1
             duration: 300
         }
+    }
+    UIBarButtonItemView {
+        id: right
+        anchors.right: parent.right
+        height: parent.height
+        item: root.page?.navigationItem.rightBarButtonItem ?? null
+        room: root.buttonRoom
     }
     Connections {
         target: root.controller

@@ -34,6 +34,7 @@ Item {
     y: Math.min(0, pulled - height)
     width: parent.width
     height: Metrics.refreshControl
+    visible: control.refreshing || pulled > 0 // to come and go is what screen readers hear
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: control.accessibilityLabel || qsTr("Loading")
@@ -69,7 +70,7 @@ Item {
     Shortcut {
         sequence: "F5"
         autoRepeat: false
-        enabled: root.enabled && root.visible
+        enabled: root.enabled && root.list.visible
         onActivated: root.control.pull()
     }
 }

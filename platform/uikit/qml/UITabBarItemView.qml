@@ -18,6 +18,7 @@ UIPressArea {
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.focusable: true
+    Accessible.pressed: highlighted
     Accessible.ignored: !enabled
     Accessible.onPressAction: triggered()
 

@@ -10,4 +10,5 @@ UITableViewView {
     required property UITableViewController controller
 
     control: controller.tableView
+    Accessible.name: controller.navigationItem.title
 }

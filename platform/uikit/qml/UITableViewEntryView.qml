@@ -14,8 +14,6 @@ Loader {
     required property real fixedHeight
     required property int position
     required property int rows
-    /// Whether screen readers say that the row has the keyboard.
-    property bool spoken: false
 
     width: ListView.view?.width ?? 0
     height: fixedHeight >= 0 ? fixedHeight : implicitHeight
@@ -23,4 +21,6 @@ Loader {
     Component.onCompleted: setSource(cell ? "UITableViewRowView.qml" : "UITableViewTextView.qml", {"entry": root})
     Component.onDestruction: if (cell)
         table?.cellHidden(cell)
+
+    ReadingOrder {}
 }

@@ -13,11 +13,18 @@ UIFocusItem {
 
     readonly property bool tall: (list.currentItem?.height ?? 0) > list.height
 
+    /// The next row that way that is not known to have nothing to say; -1 for none.
     function beside(entry: int, step: int): int {
-        return control.entries.rowBeside(entry, step)
+        const next = control.entries.rowBeside(entry, step)
+        const drawn = list.itemAtIndex(next) as UITableViewEntryView
+        return drawn && !spokenIn(drawn) ? beside(next, step) : next
     }
     function topEntry(): int {
         return list.indexAt(0, Math.max(list.originY, list.contentY))
+    }
+    /// What a row is to screen readers: itself, or else its first control; null for neither.
+    function spokenIn(entry: UITableViewEntryView): Item {
+        return entry?.cell?.accessibilityLabel ? entry.item as Item : firstControl(entry)
     }
     /// What Tab comes to first in a row that says nothing itself; null for nothing.
     function firstControl(entry: UITableViewEntryView): Item {

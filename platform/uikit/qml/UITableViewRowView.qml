@@ -16,13 +16,16 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: cell.accessibilityLabel
     Accessible.description: qsTr("%1 of %2").arg(entry.position).arg(entry.rows)
-    Accessible.selectable: true
-    Accessible.selected: cell.selected
     Accessible.focusable: true
-    Accessible.focused: entry.spoken
     Accessible.ignored: !cell.accessibilityLabel || !enabled
-    Accessible.onPressAction: entry.table.chooseEntry(entry.index)
 
+    Connections {
+        // A handler that is only disabled would still be offered.
+        target: root.cell.selects ? root.Accessible : null
+        function onPressAction() {
+            root.entry.table.chooseEntry(root.entry.index)
+        }
+    }
     Rectangle {
         anchors.fill: parent
         color: root.cell.backgroundColor.drawn(Traits.dark)

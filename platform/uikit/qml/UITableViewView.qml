@@ -26,6 +26,8 @@ Rectangle {
         let row = focused;
         while (row && row.parent !== list.contentItem)
             row = row.parent;
+        if (focused === root)
+            keyboard.forceActiveFocus();
         if (!row)
             return;
         const before = list.contentY;
@@ -35,24 +37,35 @@ Rectangle {
         const place = focused.mapToItem(list.contentItem, mark);
         const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
         list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
+        const inside = keyboard.firstControl(row as UITableViewEntryView);
         if (focused === row) // what had the keyboard in it went in a reload
-            (keyboard.firstControl(row as UITableViewEntryView) ?? keyboard).forceActiveFocus(Qt.TabFocusReason);
-        else if (focused === (row as UITableViewEntryView).item)
+            (inside ? inside : keyboard).forceActiveFocus(Qt.TabFocusReason);
+        else if (!focused.activeFocusOnTab)
             keyboard.forceActiveFocus(); // by screen reader; keys are heard here
     }
 
     color: control.backgroundColor.drawn(Traits.dark)
     clip: true
+
+    // Its name is whose table it is.
+    Accessible.role: Accessible.List
+    Accessible.focusable: true
+    Accessible.ignored: !enabled
+
     onFocusedChanged: revealSoon()
     onMarkChanged: revealSoon()
 
     UITableViewKeyboard {
         id: keyboard
+
+        // What is disabled has no controls, until it is enabled again.
+        readonly property Item said: root.enabled ? spokenIn(list.currentItem as UITableViewEntryView) : null
+
         focus: true
         activeFocusOnTab: root.rowsHaveKeyboard
         control: root.control
         list: list
-        current: list.spoken
+        current: said ? said : root
     }
     Connections {
         property int entry: -1
@@ -94,12 +107,6 @@ Rectangle {
         // What is just out of sight is there for Tab and for screen readers; of a short table all is.
         property bool isShort: false
 
-        // What screen readers say when the rows have the keyboard.
-        readonly property Item spoken: {
-            const entry = currentItem as UITableViewEntryView;
-            return entry?.cell?.accessibilityLabel ? entry.item as Item : list;
-        }
-
         displayMarginBeginning: isShort ? 10000 : 200
         displayMarginEnd: displayMarginBeginning
         objectName: "list"
@@ -110,9 +117,7 @@ Rectangle {
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         model: root.control.entries
-        delegate: UITableViewEntryView {
-            spoken: keyboard.activeFocus && list.spoken === item
-        }
+        delegate: UITableViewEntryView {}
         // What is drawn goes beyond its bounds, but the view does not: it would be thrown back
         // whenever a row leaves there and the heights of those not yet seen are estimated anew.
         boundsMovement: Flickable.StopAtBounds
@@ -124,10 +129,6 @@ Rectangle {
         }
         onHeightChanged: root.revealSoon()
         Component.onCompleted: isShort = count <= 60
-
-        Accessible.role: Accessible.List
-        Accessible.focused: keyboard.activeFocus && spoken === list
-        Accessible.ignored: !enabled
     }
     FocusRing {
         parent: list.currentItem

@@ -13,6 +13,8 @@ class WindowWatcher : public QQuickItem {
     QML_ANONYMOUS
 
 protected:
+    /// Null for none. Until `itemChange` is through it is the window that the item leaves.
+    [[nodiscard]] QQuickWindow *watched() const { return m_watched; }
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:

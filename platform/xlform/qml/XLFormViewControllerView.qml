@@ -9,5 +9,6 @@ UITableViewView {
     required property XLFormViewController controller
 
     control: controller.tableView
+    Accessible.name: controller.navigationItem.title
     rowsHaveKeyboard: false
 }

@@ -278,7 +278,7 @@ private:
     [[nodiscard]] QPoint second() const { return WindowDriver::centre(item(2)); }
     [[nodiscard]] QAccessibleActionInterface *accessible(int entry) const
     {
-        return QAccessible::queryAccessibleInterface(item(entry)->childItems().constFirst())
+        return QAccessible::queryAccessibleInterface(item(entry)->childItems().constLast())
             ->actionInterface();
     }
     void keys(const QList<Qt::Key> &keys) const
