@@ -152,13 +152,16 @@ private Q_SLOTS:
         qputenv("DISPLAY", ':' + display.startAndRead(u"Xvfb"_s, hidden.split(u' ')));
         qputenv("QT_QPA_PLATFORM", "xcb");
         qputenv("GSETTINGS_BACKEND", "memory");
+        // It is to draw by hardware, finds that it cannot, and starts itself anew.
+        qputenv("QT_QUICK_BACKEND", "");
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
         TestProcess accessibility;
         accessibility.start(u"/usr/libexec/at-spi-bus-launcher"_s,
                             {u"--launch-immediately"_s, u"--a11y=1"_s, u"--screen-reader=1"_s});
         ScreenReader reader(accessibilityBus());
         TestProcess companion;
-        companion.start(QStringLiteral(COMPANION_UNDER_TEST),
-                        {service.caFile(), u"127.0.0.1:%1"_s.arg(service.port())});
+        const QStringList arguments{service.caFile(), u"127.0.0.1:%1"_s.arg(service.port())};
+        companion.start(QStringLiteral(COMPANION_UNDER_TEST), arguments);
 
         const QString atFirst = login.arg(focused, QString());
         follow(
@@ -222,6 +225,19 @@ private Q_SLOTS:
                 {press(u"Logout"_s), atFirst},
             });
         QCOMPARE(service.issues(project).value(0).reporter, 1);
+
+        TestProcess second;
+        second.start(QStringLiteral(COMPANION_UNDER_TEST), arguments);
+        QVERIFY(second.waitForFinished() && second.exitCode() == 0);
+
+        // It ends in good order while it waits for an answer.
+        service.stage("/login.php", sandbox::Fault::silence());
+        const auto requests = service.requests().size();
+        follow(reader,
+               {{type(u"Email"_s, u"jo@wzt.example"_s), {}, u"field Email: jo@wzt.example"_s},
+                {type(u"Password"_s, u"x"_s), login.arg(u": jo@wzt.example"_s, focused)}});
+        QVERIFY(reader.act(u"Press"_s, u"Login"_s));
+        QTRY_VERIFY(service.requests().size() > requests);
         QVERIFY2(companion.end(), "not in good order");
     }
 };
