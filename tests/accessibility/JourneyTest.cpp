@@ -142,9 +142,10 @@ private Q_SLOTS:
         service.addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s, .joined = date},
                            u"secret"_s);
         service.addIssue({.package = project, .title = u"Slow"_s, .opened = date});
-        for (int i = 0; i < 30; ++i)
+        for (int i = 0; i < 30; ++i) {
             service.addIssue(
                 {.package = u"example.wzt.pintle"_s, .title = u"Old"_s, .opened = date});
+        }
         service.stage("/issues.php", sandbox::Fault::delay(std::chrono::milliseconds(500)));
 
         TestProcess display;
