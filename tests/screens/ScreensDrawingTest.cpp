@@ -61,9 +61,10 @@ void collect(QQuickItem *item, QList<Seen> &seen)
         area.setWidth(width);
     }
     const QPointF along = item->mapToScene({1, 0}) - item->mapToScene({0, 0});
-    if (!area.isEmpty())
+    if (!area.isEmpty()) {
         seen.append({type + u' ' + item->property("text").toString(), item->mapRectToScene(area),
                      along.x() * along.y()});
+    }
     // Where a text begins that is edited is up to its letters.
     if (type == u"TextFieldInput"_s || type == u"UITextViewView"_s)
         return;
