@@ -45,10 +45,11 @@ void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
         return;
     const QRectF clipped = item->clip() ? seen & WindowDriver::rect(item) : seen;
     const QString text = item->property("text").toString();
-    if (item->inherits("QQuickText") && !text.isEmpty())
-        texts.append({text, painted(item), painted(item) & clipped, item});
-    else if (item->inherits("QQuickTextInput") && !text.isEmpty())
-        texts.append({text, WindowDriver::rect(item), WindowDriver::rect(item) & clipped, item});
+    const bool edits = item->inherits("QQuickTextInput");
+    if (!text.isEmpty() && (edits || item->inherits("QQuickText"))) {
+        const QRectF whole = edits ? WindowDriver::rect(item) : painted(item);
+        texts.append({text, whole, whole & clipped, item});
+    }
     for (QQuickItem *child : item->childItems())
         collect(child, clipped, texts);
 }

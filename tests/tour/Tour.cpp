@@ -175,10 +175,11 @@ void Tour::tap(const QString &name)
     if (!found)
         return;
     const QPoint centre = view.mapFromGlobal(found->rect().center());
-    if (QRect(QPoint(), view.size()).contains(centre))
+    if (QRect(QPoint(), view.size()).contains(centre)) {
         WindowDriver::tap(view, centre);
-    else // just out of sight
+    } else { // just out of sight
         found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
 }
 
 void Tour::await(const QString &name)
