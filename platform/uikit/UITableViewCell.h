@@ -61,7 +61,6 @@ public:
     /// implementation first. Content stays as it is.
     virtual void prepareForReuse();
 
-    [[nodiscard]] bool isSelected() const { return m_selected; }
     virtual void setSelected(bool selected, bool animated);
     /// Whether a finger is on the row.
     [[nodiscard]] bool isHighlighted() const { return m_highlighted; }

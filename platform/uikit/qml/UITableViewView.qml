@@ -13,7 +13,6 @@ Rectangle {
     required property UITableView control
     /// Whether Tab comes to the rows, beside what they hold.
     property bool rowsHaveKeyboard: true
-    readonly property real keyboardHeight: Metrics.covered(Window.height)
 
     readonly property Item focused: Window.activeFocusItem
     readonly property rect mark: (focused as TextEdit)?.cursorRectangle ?? (focused as TextInput)?.cursorRectangle
@@ -122,7 +121,7 @@ Rectangle {
         // whenever a row leaves there and the heights of those not yet seen are estimated anew.
         boundsMovement: Flickable.StopAtBounds
         contentItem.transform: Translate { y: -list.verticalOvershoot }
-        bottomMargin: root.keyboardHeight
+        bottomMargin: Metrics.covered(root.Window.height)
         onBottomMarginChanged: {
             returnToBounds()
             root.revealSoon()
