@@ -30,6 +30,6 @@ wzt_constant(WZT_CHAT_INVITATION_URL "https://chat.wzt.example/invite/wzt" "http
     "invitation link to the chat")
 
 # Only a build that talks to the local sandbox service has these two.
-option(WZT_SANDBOX_BUILD "talk to the local sandbox service and trust nothing else" OFF)
+option(WZT_USE_SANDBOX "talk to the local sandbox service and trust nothing else" OFF)
 set(WZT_SANDBOX_PORT "8443" CACHE STRING "port of the local sandbox service")
 set(WZT_SANDBOX_DIRECTORY "${CMAKE_BINARY_DIR}/sandbox-state" CACHE STRING "state of the local sandbox service")

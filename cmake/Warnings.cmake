@@ -1,12 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The WZT Companion authors
 # SPDX-License-Identifier: MIT
 
-# Flags that every target of this project is compiled with.
+# Flags that every target of this project is compiled with. The development presets make warnings errors.
 function(wzt_warnings target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
         -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough
-        -Wswitch-enum -Werror)
+        -Wswitch-enum)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
         QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER
