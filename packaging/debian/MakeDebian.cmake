@@ -26,11 +26,7 @@ foreach(file control upstream/metadata)
 endforeach()
 
 # So that whoever builds the source package builds the same.
-set(lines "")
-foreach(name IN LISTS constants)
-    string(APPEND lines "set(${name} [==[${${name}}]==] CACHE STRING \"\")\n")
-endforeach()
-file(WRITE ${debian}/constants.cmake "${lines}")
+wzt_write_constants(${debian}/constants.cmake)
 
 # The revision is below the first of a distribution's own.
 set(entries "")
