@@ -52,7 +52,7 @@ bool readAll(int descriptor, QByteArray *content)
 
 bool isFile(int descriptor)
 {
-    struct stat status { };
+    struct stat status = {};
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 

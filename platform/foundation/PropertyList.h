@@ -15,7 +15,7 @@
 /// A value within a PropertyList, or nothing. Valid as long as the list is.
 class PropertyListNode {
 public:
-    explicit PropertyListNode(void *node = nullptr) : m_node(node) { }
+    explicit PropertyListNode(void *node = nullptr) : m_node(node) {}
 
     [[nodiscard]] bool isPresent() const { return m_node != nullptr; }
     [[nodiscard]] bool isDictionary() const;
@@ -71,8 +71,8 @@ private:
     struct Freer {
         void operator()(void *node) const;
     };
-    struct Adopt { };
-    PropertyList(Adopt, void *node) : PropertyListNode(node), m_owned(node) { }
+    struct Adopt {};
+    PropertyList(Adopt, void *node) : PropertyListNode(node), m_owned(node) {}
     void *release();
 
     std::unique_ptr<void, Freer> m_owned;

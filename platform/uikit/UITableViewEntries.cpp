@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-UITableViewEntries::UITableViewEntries(UITableView &table) : m_table(table) { }
+UITableViewEntries::UITableViewEntries(UITableView &table) : m_table(table) {}
 UITableViewEntries::~UITableViewEntries() = default;
 
 void UITableViewEntries::reload()

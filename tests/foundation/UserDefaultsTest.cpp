@@ -41,14 +41,14 @@ void writeFile(const QString &path, const QByteArray &content)
 
 uint modeOf(const QString &path)
 {
-    struct stat status { };
+    struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
 /// Writes large values, each of one repeated byte, until it is killed.
 [[noreturn]] void writeForEver(NSUserDefaults defaults)
 {
-    for (char byte = 0; defaults.setObject(QByteArray(100000, byte), userKey); ++byte) { }
+    for (char byte = 0; defaults.setObject(QByteArray(100000, byte), userKey); ++byte) {}
     _exit(1);
 }
 
