@@ -30,10 +30,12 @@ wzt_write_constants(${debian}/constants.cmake)
 
 # The revision is below the first of a distribution's own.
 set(entries "")
+set(separator "")
 foreach(version IN LISTS WZT_RELEASES)
     execute_process(COMMAND date --rfc-email --utc --date ${WZT_RELEASED_${version}}
         OUTPUT_VARIABLE date OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    string(APPEND entries "wzt-companion (${version}-0wzt1) unstable; urgency=medium\n\n"
-        "  * New upstream release.\n\n -- ${WZT_MAINTAINER}  ${date}\n\n")
+    string(APPEND entries "${separator}wzt-companion (${version}-0wzt1) unstable; urgency=medium\n\n"
+        "  * Release ${version}; changelog.gz tells what it brings.\n\n -- ${WZT_MAINTAINER}  ${date}\n")
+    set(separator "\n")
 endforeach()
 file(WRITE ${debian}/changelog "${entries}")
