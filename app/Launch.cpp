@@ -48,9 +48,8 @@ Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSess
 
 Launch::~Launch() = default;
 
-int Launch::run()
+int Launch::run(const QStringList &urls)
 {
-    const QStringList urls = QGuiApplication::arguments().mid(1);
     const auto opened = [this](const QStringList &later) {
         if (!m_window)
             return;
