@@ -1,10 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The WZT Companion authors
 # SPDX-License-Identifier: MIT
 include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
-# What every target has in common: warnings, and includes written from the root of the sources.
+# What every target has in common: warnings, precompiled headers, and includes written from the root of the sources.
 function(wzt_common target)
     wzt_warnings(${target})
+    wzt_precompiled_headers(${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
 endfunction()
 

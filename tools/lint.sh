@@ -26,7 +26,7 @@ tidy_one() {
     local mark=build/lint/${2//\//+} said
     [[ ! -f $mark || $(<"$mark") != "$1" ]] || return 0
     printf '%s\n' "$2"
-    if said=$(clang-tidy --quiet -p build/sandbox --extra-arg=-Wno-unknown-warning-option "$2" 2>&1); then
+    if said=$(clang-tidy --quiet -p build/lint --extra-arg=-Wno-unknown-warning-option "$2" 2>&1); then
         printf '%s\n' "$1" >"$mark"
     else
         printf '%s\n' "$said"
@@ -38,6 +38,8 @@ tidy_one() {
 tidy() {
     local basis
     mkdir -p build/lint
+    # Only the compiler that made a precompiled header can read it.
+    sed -E 's/-Winvalid-pch -include [^ ]+//' build/sandbox/compile_commands.json >build/lint/compile_commands.json
     basis=$(cat .clang-tidy cmake/*.cmake CMakePresets.json <(clang-tidy --version) | sha256sum | cut -c 1-64)
     export -f tidy_one
     awk -v root="$root/" -v basis="$basis" '
