@@ -14,18 +14,17 @@ TestSession::TestSession()
     QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("HOME", QFile::encodeName(home()));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(runtime) + "/bus");
+    const QByteArray address = "unix:path=" + QFile::encodeName(runtime) + "/bus";
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 
 std::unique_ptr<TestProcess> TestSession::startBus() const
 {
     QFile file(m_home.filePath(u"bus.conf"_s));
     if (file.open(QIODevice::WriteOnly)) {
-        const QByteArray configuration = "<busconfig><type>session</type><listen>"
-            + qgetenv("DBUS_SESSION_BUS_ADDRESS")
-            + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-              "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>";
-        file.write(configuration);
+        file.write("<busconfig><type>session</type><listen>" + qgetenv("DBUS_SESSION_BUS_ADDRESS")
+                   + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
+                     "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
         file.close();
     }
     auto bus = std::make_unique<TestProcess>();
