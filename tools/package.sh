@@ -26,7 +26,7 @@ verb_package() {
         --arch)
             arch=${2-}
             shift
-            packages+=("crossbuild-essential-$arch" "${libraries[@]/%/:$arch}")
+            packages+=("crossbuild-essential-$arch" "pkgconf:$arch" "${libraries[@]/%/:$arch}")
             ;;
         -DWZT_*=*) constants+=("$1") ;;
         *) fail "Neither --arch ARCH nor -DWZT_CONSTANT=VALUE: $1" ;;
