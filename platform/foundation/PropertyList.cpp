@@ -14,7 +14,7 @@ namespace {
 /// Property lists write decimal points, whatever the user's language; the parser asks the locale.
 class PlainLocale {
 public:
-    PlainLocale() : m_previous(uselocale(m_plain)) { }
+    PlainLocale() : m_previous(uselocale(m_plain)) {}
     ~PlainLocale()
     {
         uselocale(m_previous);
@@ -27,6 +27,27 @@ private:
     locale_t m_plain = newlocale(LC_ALL_MASK, "C", nullptr);
     locale_t m_previous;
 };
+
+#ifdef WZT_PLIST_2_3
+plist_t newInteger(qint64 value)
+{
+    return plist_new_int(value);
+}
+void parse(const char *bytes, uint32_t length, plist_t *node)
+{
+    plist_from_memory(bytes, length, node, nullptr);
+}
+#else
+// These releases read every integer of eight bytes as signed.
+plist_t newInteger(qint64 value)
+{
+    return plist_new_uint(quint64(value));
+}
+void parse(const char *bytes, uint32_t length, plist_t *node)
+{
+    plist_from_memory(bytes, length, node);
+}
+#endif
 
 bool isOfType(plist_t node, plist_type type)
 {
@@ -165,7 +186,7 @@ std::optional<PropertyList> PropertyList::fromData(const QByteArray &data)
     }
     const PlainLocale locale;
     plist_t node = nullptr;
-    plist_from_memory(data.constData(), uint32_t(data.size()), &node);
+    parse(data.constData(), uint32_t(data.size()), &node);
     return node ? std::optional(PropertyList(Adopt(), node)) : std::nullopt;
 }
 
@@ -184,11 +205,11 @@ PropertyList PropertyList::uid(quint64 uid)
     return {Adopt(), plist_new_uid(uid)};
 }
 
-PropertyList::PropertyList(bool value) : PropertyList(Adopt(), plist_new_bool(value ? 1 : 0)) { }
+PropertyList::PropertyList(bool value) : PropertyList(Adopt(), plist_new_bool(value ? 1 : 0)) {}
 
-PropertyList::PropertyList(qint64 value) : PropertyList(Adopt(), plist_new_uint(quint64(value))) { }
+PropertyList::PropertyList(qint64 value) : PropertyList(Adopt(), newInteger(value)) {}
 
-PropertyList::PropertyList(double value) : PropertyList(Adopt(), plist_new_real(value)) { }
+PropertyList::PropertyList(double value) : PropertyList(Adopt(), plist_new_real(value)) {}
 
 PropertyList::PropertyList(const QByteArray &value)
     : PropertyList(Adopt(), plist_new_data(value.constData(), uint64_t(value.size())))
@@ -206,7 +227,7 @@ QByteArray PropertyList::toData() const
     uint32_t length = 0;
     plist_to_bin(m_node, &bytes, &length);
     const QByteArray result(bytes, qsizetype(length));
-    plist_to_bin_free(bytes);
+    free(bytes);
     return result;
 }
 

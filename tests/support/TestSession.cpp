@@ -21,9 +21,11 @@ std::unique_ptr<TestProcess> TestSession::startBus() const
 {
     QFile file(m_home.filePath(u"bus.conf"_s));
     if (file.open(QIODevice::WriteOnly)) {
-        file.write("<busconfig><type>session</type><listen>" + qgetenv("DBUS_SESSION_BUS_ADDRESS")
-                   + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-                     "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+        const QByteArray configuration = "<busconfig><type>session</type><listen>"
+            + qgetenv("DBUS_SESSION_BUS_ADDRESS")
+            + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
+              "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>";
+        file.write(configuration);
         file.close();
     }
     auto bus = std::make_unique<TestProcess>();
