@@ -19,20 +19,23 @@ archive_sources() {
 }
 
 verb_package() {
-    local arch version made=$root/build/package constants=() packages=("${packaging[@]}" "${tools[@]}" "${libraries[@]}")
-    arch=$(dpkg --print-architecture)
+    local arch=native version made=$root/build/package constants=() cross=()
+    local packages=("${packaging[@]}" "${tools[@]}" "${libraries[@]}")
     while (($#)); do
         case $1 in
         --arch)
             arch=${2-}
             shift
-            packages+=("crossbuild-essential-$arch" "${libraries[@]/%/:$arch}")
             ;;
         -DWZT_*=*) constants+=("$1") ;;
         *) fail "Neither --arch ARCH nor -DWZT_CONSTANT=VALUE: $1" ;;
         esac
-        shift
+        shift || fail "For which processor? ./dev package --arch ARCH"
     done
+    if [[ $arch != native && $arch != "$(dpkg --print-architecture)" ]]; then
+        cross=(--host-arch "$arch" --build-profiles=cross)
+        packages+=("crossbuild-essential-$arch" "pkgconf:$arch" "${libraries[@]/%/:$arch}")
+    fi
     need "${packages[@]}"
     git rev-parse --is-inside-work-tree >/dev/null || fail "A package is made of the files that git tracks."
     lock_build package
@@ -44,7 +47,7 @@ verb_package() {
     (
         cd -- "$made/wzt-companion-$version"
         cmake "${constants[@]}" -P packaging/debian/MakeDebian.cmake
-        dpkg-buildpackage --no-sign --host-arch "$arch"
+        dpkg-buildpackage --no-sign "${cross[@]}"
     )
     lintian --fail-on error,warning "$made"/*.changes
     say "The packages:"
