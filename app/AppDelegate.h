@@ -30,11 +30,11 @@ public:
     bool didFinishLaunchingWithOptions() override;
     /// Accepts every URL and does nothing with it.
     bool openURL(const QString &url) override;
-    void applicationWillResignActive() override { }
-    void applicationDidEnterBackground() override { }
-    void applicationWillEnterForeground() override { }
-    void applicationDidBecomeActive() override { }
-    void applicationWillTerminate() override { }
+    void applicationWillResignActive() override {}
+    void applicationDidEnterBackground() override {}
+    void applicationWillEnterForeground() override {}
+    void applicationDidBecomeActive() override {}
+    void applicationWillTerminate() override {}
 
     // Null before the launch.
     [[nodiscard]] UIWindow *window() const { return m_window.get(); }
@@ -56,6 +56,7 @@ private:
     [[nodiscard]] std::optional<WZTUser> restoredUser() const;
     void makeTabs();
     void reloadTabs();
+    void forgetKeptUser();
     void presentLogin(bool animated);
 
     std::unique_ptr<UIWindow> m_window;

@@ -11,7 +11,7 @@ class UIApplicationDelegate;
 class LifeCycle {
 public:
     /// `delegate` outlives this.
-    explicit LifeCycle(UIApplicationDelegate &delegate) : m_delegate(delegate) { }
+    explicit LifeCycle(UIApplicationDelegate &delegate) : m_delegate(delegate) {}
 
     /// The application is in `state` now, which may be the state it was in.
     void enter(Qt::ApplicationState state);

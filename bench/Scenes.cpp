@@ -103,7 +103,7 @@ void pullToRefresh(Stage &stage)
     Stage::wait(2 * moment);
 }
 
-void nothing(Stage &) { }
+void nothing(Stage &) {}
 
 } // namespace
 

@@ -23,7 +23,7 @@ struct StoredAccount {
 /// The accounts in the database. Addresses are compared without regard to case. Safe on any thread.
 class AccountStore {
 public:
-    explicit AccountStore(Database &database) : m_database(database) { }
+    explicit AccountStore(Database &database) : m_database(database) {}
 
     /// Done, Missing or Failed.
     Outcome find(const QString &email, StoredAccount *found);

@@ -12,7 +12,7 @@ namespace sandbox {
 /// The service's time: the machine's, put forward by as much as one likes. Safe on any thread.
 class Clock {
 public:
-    explicit Clock(std::chrono::seconds offset) : m_offset(offset.count()) { }
+    explicit Clock(std::chrono::seconds offset) : m_offset(offset.count()) {}
 
     void advance(std::chrono::seconds time) { m_offset += time.count(); }
     /// Seconds since 1970, UTC.

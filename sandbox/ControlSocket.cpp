@@ -34,7 +34,7 @@ QString failure()
 
 /// Closes what it holds.
 struct File {
-    explicit File(int opened) : number(opened) { }
+    explicit File(int opened) : number(opened) {}
     ~File()
     {
         if (number >= 0) {
@@ -158,7 +158,7 @@ QString ControlSocket::send(const QString &directory, const QString &line)
     QByteArray bytes;
     QString text = line;
     sendLine(socket.number, text.replace(u'\n', u' '));
-    while (!bytes.contains('\n') && receiveSome(socket.number, bytes)) { }
+    while (!bytes.contains('\n') && receiveSome(socket.number, bytes)) {}
     return bytes.isEmpty() ? u"error: no answer"_s : QString::fromUtf8(bytes.trimmed());
 }
 

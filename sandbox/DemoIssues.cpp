@@ -76,7 +76,7 @@ constexpr Oddity oddities[12] = {
 /// The same numbers on every machine and at every start.
 class Dice {
 public:
-    explicit Dice(quint32 seed) : m_numbers(seed) { }
+    explicit Dice(quint32 seed) : m_numbers(seed) {}
 
     quint32 below(quint32 end) { return quint32(m_numbers()) % end; }
     template <size_t size>

@@ -22,7 +22,7 @@ constexpr int day = 24 * 3600 * 1000;
 /// The words after the fault's name; a word that is not what it should be is remembered.
 class Arguments {
 public:
-    explicit Arguments(QStringList words) : m_words(std::move(words)) { }
+    explicit Arguments(QStringList words) : m_words(std::move(words)) {}
 
     QString text(int index) const { return m_words[index]; }
     QByteArray bytes(int index) const { return m_words[index].toUtf8(); }

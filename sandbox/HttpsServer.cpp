@@ -25,7 +25,7 @@ namespace {
 
 /// One of the two addresses.
 struct Listener {
-    explicit Listener(asio::io_context &io) : acceptor(io), respite(io) { }
+    explicit Listener(asio::io_context &io) : acceptor(io), respite(io) {}
 
     error_code open(const tcp::endpoint &endpoint)
     {

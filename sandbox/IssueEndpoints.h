@@ -11,7 +11,7 @@ namespace sandbox {
 /// submission with {"issueId": number}, everything else with {"result": text}.
 class IssueEndpoints {
 public:
-    explicit IssueEndpoints(IssueStore &store) : m_store(store) { }
+    explicit IssueEndpoints(IssueStore &store) : m_store(store) {}
 
     /// They refer to this object.
     QList<Endpoint> endpoints();

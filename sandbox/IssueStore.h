@@ -13,7 +13,7 @@ namespace sandbox {
 /// The issues in the database. Safe on any thread.
 class IssueStore {
 public:
-    IssueStore(Database &database, const Clock &clock) : m_database(database), m_clock(clock) { }
+    IssueStore(Database &database, const Clock &clock) : m_database(database), m_clock(clock) {}
 
     /// Adds them, all or none, and fills in their numbers, and what references and dates are empty.
     /// Done or Failed.

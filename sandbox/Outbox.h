@@ -14,7 +14,7 @@ namespace sandbox {
 class Outbox {
 public:
     /// Nothing is made before the first message.
-    explicit Outbox(const QString &directory) : m_directory(directory) { }
+    explicit Outbox(const QString &directory) : m_directory(directory) {}
 
     /// False if the message could not be written; nothing is left of it then.
     bool write(const QByteArray &message);

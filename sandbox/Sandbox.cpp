@@ -9,7 +9,7 @@
 
 namespace sandbox {
 
-Sandbox::Sandbox() : Sandbox(Options()) { }
+Sandbox::Sandbox() : Sandbox(Options()) {}
 
 Sandbox::Sandbox(const Options &options) : m_service(std::make_unique<Service>(options))
 {

@@ -6,7 +6,7 @@
 class FileDescriptor {
 public:
     /// Takes `descriptor` over; a negative one stands for none.
-    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) { }
+    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
     ~FileDescriptor();
     FileDescriptor(const FileDescriptor &) = delete;
     FileDescriptor &operator=(const FileDescriptor &) = delete;

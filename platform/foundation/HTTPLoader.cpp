@@ -21,6 +21,9 @@ constexpr int maximumRedirects = 20;
 constexpr size_t maximumHeaderLength = size_t(256) * 1024;
 constexpr char systemAuthorities[] = "/etc/ssl/certs";
 
+/// CURLE_TOO_LARGE, which the library has a name for since 8.6.
+constexpr long tooLarge = 100;
+
 struct ErrorRow {
     long reported;
     NSURLErrorCode code;
@@ -42,6 +45,7 @@ constexpr std::array errorTable{
     ErrorRow{CURLE_WEIRD_SERVER_REPLY, NSURLErrorBadServerResponse},
     // A first line that is no HTTP.
     ErrorRow{CURLE_UNSUPPORTED_PROTOCOL, NSURLErrorBadServerResponse},
+    ErrorRow{tooLarge, NSURLErrorDataLengthExceedsMaximum},
     ErrorRow{CURLE_SSL_CONNECT_ERROR, NSURLErrorSecureConnectionFailed},
     ErrorRow{CURLE_SSL_CACERT_BADFILE, NSURLErrorSecureConnectionFailed},
 };

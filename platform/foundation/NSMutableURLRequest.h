@@ -24,7 +24,7 @@ public:
     void setRepeatable(bool repeatable) { m_repeatable = repeatable; }
 
 private:
-    explicit NSMutableURLRequest(const QByteArray &url) : m_url(url) { }
+    explicit NSMutableURLRequest(const QByteArray &url) : m_url(url) {}
 
     QByteArray m_url;
     QByteArray m_method = "GET";

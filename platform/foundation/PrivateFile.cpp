@@ -52,7 +52,7 @@ bool readAll(int descriptor, QByteArray *content)
 
 bool isFile(int descriptor)
 {
-    struct stat status { };
+    struct stat status = {};
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
@@ -123,6 +123,17 @@ bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
     }
     // The content is in place; without this a power cut might bring the old one back.
     fsync(folder);
+    return true;
+}
+
+bool PrivateFile::remove() const
+{
+    const QByteArray path = m_folder + '/' + m_name;
+    if (unlink(path.constData()) != 0) {
+        return errno == ENOENT || errno == ENOTDIR;
+    }
+    const FileDescriptor folder(open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    fsync(folder.get());
     return true;
 }
 

@@ -3,6 +3,9 @@
 #include "platform/foundation/PropertyList.h"
 
 #include "platform/foundation/PropertyListCheck.h"
+#include "platform/foundation/UTF8Reading.h"
+
+#include <QtEndian>
 
 #include <clocale>
 #include <plist/plist.h>
@@ -14,7 +17,7 @@ namespace {
 /// Property lists write decimal points, whatever the user's language; the parser asks the locale.
 class PlainLocale {
 public:
-    PlainLocale() : m_previous(uselocale(m_plain)) { }
+    PlainLocale() : m_previous(uselocale(m_plain)) {}
     ~PlainLocale()
     {
         uselocale(m_previous);
@@ -27,6 +30,27 @@ private:
     locale_t m_plain = newlocale(LC_ALL_MASK, "C", nullptr);
     locale_t m_previous;
 };
+
+#ifdef WZT_PLIST_2_3
+plist_t newInteger(qint64 value)
+{
+    return plist_new_int(value);
+}
+void parse(const char *bytes, uint32_t length, plist_t *node)
+{
+    plist_from_memory(bytes, length, node, nullptr);
+}
+#else
+// These releases read every integer of eight bytes as signed.
+plist_t newInteger(qint64 value)
+{
+    return plist_new_uint(quint64(value));
+}
+void parse(const char *bytes, uint32_t length, plist_t *node)
+{
+    plist_from_memory(bytes, length, node);
+}
+#endif
 
 bool isOfType(plist_t node, plist_type type)
 {
@@ -72,7 +96,7 @@ QMap<QString, PropertyListNode> PropertyListNode::items() const
         if (!value) {
             break;
         }
-        result.insert(QString::fromUtf8(key), PropertyListNode(value));
+        result.insert(textFromUTF8(key), PropertyListNode(value));
         free(key);
     }
     free(iterator);
@@ -125,7 +149,7 @@ std::optional<QString> PropertyListNode::string() const
     uint64_t length = 0;
     const char *text =
         isOfType(m_node, PLIST_STRING) ? plist_get_string_ptr(m_node, &length) : nullptr;
-    return text ? std::optional(QString::fromUtf8(text, qsizetype(length))) : std::nullopt;
+    return text ? std::optional(textFromUTF8({text, qsizetype(length)})) : std::nullopt;
 }
 
 std::optional<QByteArray> PropertyListNode::data() const
@@ -143,10 +167,11 @@ std::optional<NSDate> PropertyListNode::date() const
     if (!isOfType(m_node, PLIST_DATE)) {
         return std::nullopt;
     }
-    int32_t seconds = 0;
-    int32_t microseconds = 0;
-    plist_get_date_val(m_node, &seconds, &microseconds);
-    return NSDate{seconds + microseconds / 1e6};
+    // The library's getter has 32 bits for the seconds and loses the sign of a fraction. The binary
+    // form of a date alone is a header of 8 bytes, a marker and the seconds as they are.
+    constexpr qsizetype place = 9;
+    const QByteArray binary = toData();
+    return NSDate{qFromBigEndian<double>(binary.constData() + place)};
 }
 
 std::optional<quint64> PropertyListNode::uid() const
@@ -165,7 +190,7 @@ std::optional<PropertyList> PropertyList::fromData(const QByteArray &data)
     }
     const PlainLocale locale;
     plist_t node = nullptr;
-    plist_from_memory(data.constData(), uint32_t(data.size()), &node);
+    parse(data.constData(), uint32_t(data.size()), &node);
     return node ? std::optional(PropertyList(Adopt(), node)) : std::nullopt;
 }
 
@@ -184,11 +209,11 @@ PropertyList PropertyList::uid(quint64 uid)
     return {Adopt(), plist_new_uid(uid)};
 }
 
-PropertyList::PropertyList(bool value) : PropertyList(Adopt(), plist_new_bool(value ? 1 : 0)) { }
+PropertyList::PropertyList(bool value) : PropertyList(Adopt(), plist_new_bool(value ? 1 : 0)) {}
 
-PropertyList::PropertyList(qint64 value) : PropertyList(Adopt(), plist_new_uint(quint64(value))) { }
+PropertyList::PropertyList(qint64 value) : PropertyList(Adopt(), newInteger(value)) {}
 
-PropertyList::PropertyList(double value) : PropertyList(Adopt(), plist_new_real(value)) { }
+PropertyList::PropertyList(double value) : PropertyList(Adopt(), plist_new_real(value)) {}
 
 PropertyList::PropertyList(const QByteArray &value)
     : PropertyList(Adopt(), plist_new_data(value.constData(), uint64_t(value.size())))
@@ -200,13 +225,13 @@ PropertyList::PropertyList(const QString &value)
 {
 }
 
-QByteArray PropertyList::toData() const
+QByteArray PropertyListNode::toData() const
 {
     char *bytes = nullptr;
     uint32_t length = 0;
     plist_to_bin(m_node, &bytes, &length);
     const QByteArray result(bytes, qsizetype(length));
-    plist_to_bin_free(bytes);
+    free(bytes);
     return result;
 }
 

@@ -15,7 +15,7 @@
 /// A value within a PropertyList, or nothing. Valid as long as the list is.
 class PropertyListNode {
 public:
-    explicit PropertyListNode(void *node = nullptr) : m_node(node) { }
+    explicit PropertyListNode(void *node = nullptr) : m_node(node) {}
 
     [[nodiscard]] bool isPresent() const { return m_node != nullptr; }
     [[nodiscard]] bool isDictionary() const;
@@ -39,6 +39,9 @@ public:
     /// A UID, or a dictionary whose only key is "CF$UID".
     [[nodiscard]] std::optional<quint64> uid() const;
 
+    /// The binary form of this value alone.
+    [[nodiscard]] QByteArray toData() const;
+
 protected:
     void *m_node;
 };
@@ -58,9 +61,6 @@ public:
     /// Null characters end the text.
     explicit PropertyList(const QString &value);
 
-    /// The binary form.
-    [[nodiscard]] QByteArray toData() const;
-
     /// Only for a dictionary; replaces what was under `key`.
     void insert(const QString &key, PropertyList item);
     void remove(const QString &key);
@@ -71,8 +71,8 @@ private:
     struct Freer {
         void operator()(void *node) const;
     };
-    struct Adopt { };
-    PropertyList(Adopt, void *node) : PropertyListNode(node), m_owned(node) { }
+    struct Adopt {};
+    PropertyList(Adopt, void *node) : PropertyListNode(node), m_owned(node) {}
     void *release();
 
     std::unique_ptr<void, Freer> m_owned;

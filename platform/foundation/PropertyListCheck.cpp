@@ -31,7 +31,7 @@ bool isBoundedXml(const QByteArray &data)
 /// offsets, and a trailer of 32 bytes.
 class ObjectTable {
 public:
-    explicit ObjectTable(const QByteArray &data) : m_data(data) { }
+    explicit ObjectTable(const QByteArray &data) : m_data(data) {}
 
     [[nodiscard]] bool isBounded()
     {

@@ -15,7 +15,7 @@ constexpr const char *addressVariable = "DBUS_SESSION_BUS_ADDRESS";
 
 bool isOwnSocket(const QByteArray &path)
 {
-    struct stat status { };
+    struct stat status = {};
     return ::stat(path.constData(), &status) == 0 && S_ISSOCK(status.st_mode)
         && status.st_uid == ::getuid();
 }
@@ -42,7 +42,7 @@ QDBusConnection connectToSession()
 
 } // namespace
 
-SessionBus::SessionBus() : m_connection(connectToSession()) { }
+SessionBus::SessionBus() : m_connection(connectToSession()) {}
 
 SessionBus::~SessionBus()
 {

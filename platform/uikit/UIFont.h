@@ -29,7 +29,7 @@ public:
     bool operator==(const UIFont &) const = default;
 
 private:
-    UIFont(double pointSize, QFont::Weight weight) : m_pointSize(pointSize), m_weight(weight) { }
+    UIFont(double pointSize, QFont::Weight weight) : m_pointSize(pointSize), m_weight(weight) {}
 
     double m_pointSize = 17;
     QFont::Weight m_weight = QFont::Normal;

@@ -27,7 +27,7 @@ public:
     bool operator==(const UIImage &) const = default;
 
 private:
-    explicit UIImage(const QString &name) : m_name(name) { }
+    explicit UIImage(const QString &name) : m_name(name) {}
 
     QString m_name;
 };

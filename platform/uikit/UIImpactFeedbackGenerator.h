@@ -7,7 +7,7 @@
 /// Haptic feedback of one style, felt where the machine can give it.
 class UIImpactFeedbackGenerator {
 public:
-    explicit UIImpactFeedbackGenerator(UIImpactFeedbackStyle style) : m_style(style) { }
+    explicit UIImpactFeedbackGenerator(UIImpactFeedbackStyle style) : m_style(style) {}
 
     /// One tap, at once.
     void impactOccurred() const;

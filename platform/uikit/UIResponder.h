@@ -27,7 +27,7 @@ Q_SIGNALS:
 
 protected:
     /// Called after the responder got or lost the keyboard, before `firstResponderChanged`.
-    virtual void firstResponderDidChange() { }
+    virtual void firstResponderDidChange() {}
 
 private:
     static void moveFirstResponder(UIResponder *to);

@@ -34,7 +34,7 @@ public:
     void setSelectedIndex(int index);
 
     /// The user chose a tab: called once for every choice, the selected tab included.
-    virtual void didSelectItem(UITabBarItem *) { }
+    virtual void didSelectItem(UITabBarItem *) {}
 
 Q_SIGNALS:
     void viewControllersChanged();

@@ -24,5 +24,5 @@ public:
     }
     /// The user chose a row, which stays selected until it is deselected. Cells without a look for
     /// selection are chosen like any other. The table may be reloaded from here.
-    virtual void didSelectRowAtIndexPath(const NSIndexPath & /*indexPath*/) { }
+    virtual void didSelectRowAtIndexPath(const NSIndexPath & /*indexPath*/) {}
 };

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-UITableViewEntries::UITableViewEntries(UITableView &table) : m_table(table) { }
+UITableViewEntries::UITableViewEntries(UITableView &table) : m_table(table) {}
 UITableViewEntries::~UITableViewEntries() = default;
 
 // What draws a row stays for the row that comes to stand there, and so does the table's place.

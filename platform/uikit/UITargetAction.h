@@ -23,7 +23,7 @@ public:
 template <class Sender, class Target, class Method>
 class UIMethodAction final : public UITargetAction<Sender> {
 public:
-    UIMethodAction(Target *target, Method method) : m_target(target), m_method(method) { }
+    UIMethodAction(Target *target, Method method) : m_target(target), m_method(method) {}
 
     void send(Sender *sender) const override
     {

@@ -16,7 +16,7 @@ UITransitionStack::Motion motionIf(bool animated)
 
 } // namespace
 
-UIViewController::UIViewController() : m_navigationItem(std::make_unique<UINavigationItem>()) { }
+UIViewController::UIViewController() : m_navigationItem(std::make_unique<UINavigationItem>()) {}
 
 UIViewController::~UIViewController() = default;
 
@@ -36,10 +36,10 @@ void UIViewController::loadViewIfNeeded()
         viewDidLoad();
 }
 
-void UIViewController::viewDidLoad() { }
-void UIViewController::viewWillAppear(bool) { }
-void UIViewController::viewDidAppear(bool) { }
-void UIViewController::appearanceStateDidChange(UITransitionStack::Motion) { }
+void UIViewController::viewDidLoad() {}
+void UIViewController::viewWillAppear(bool) {}
+void UIViewController::viewDidAppear(bool) {}
+void UIViewController::appearanceStateDidChange(UITransitionStack::Motion) {}
 
 UITransitionStack::Cover UIViewController::cover() const
 {

@@ -150,7 +150,8 @@ private Q_SLOTS:
 
         TestProcess display;
         const QString hidden = u"-displayfd 1 -nolisten tcp -screen 0 1024x960x24"_s;
-        qputenv("DISPLAY", ':' + display.startAndRead(u"Xvfb"_s, hidden.split(u' ')));
+        const QByteArray number = display.startAndRead(u"Xvfb"_s, hidden.split(u' '));
+        qputenv("DISPLAY", QByteArray(':' + number));
         qputenv("QT_QPA_PLATFORM", "xcb");
         qputenv("GSETTINGS_BACKEND", "memory");
         // It is to draw by hardware, finds that it cannot, and starts itself anew.

@@ -29,6 +29,8 @@ constexpr quint64 sensitive = state(24);
 constexpr quint64 showing = state(25);
 constexpr quint64 visible = state(30);
 
+constexpr quint32 secret = 40;
+
 // What AT-SPI numbers so is called so here, and has to have all this.
 struct Manners {
     quint32 role;
@@ -49,7 +51,7 @@ constexpr Manners allManners[] = {
     {35, "item"_L1, true, focusable, "Press"_L1},
     {37, "tab"_L1, true, focusable | selectable, "Press"_L1},
     {38, "tabs"_L1, false},
-    {40, "secret"_L1, true, focusable | editable, "SetFocus"_L1},
+    {secret, "secret"_L1, true, focusable | editable, "SetFocus"_L1},
     {41, "menu"_L1},
     {42, "progress"_L1},
     {43, "button"_L1, true, focusable, "Press"_L1},
@@ -151,8 +153,12 @@ QString ScreenReader::describe(const Node &node) const
     QString line = manners->name;
     if (!node.name.isEmpty())
         line += u' ' + node.name;
-    if (!node.text.isEmpty())
-        line += u": "_s + node.text;
+    // Of a secret some releases of Qt tell as many bullets as it is long, others nothing.
+    QString text = node.text;
+    if (node.role == secret)
+        text.remove(u'\u2022');
+    if (!text.isEmpty())
+        line += u": "_s + text;
     if (!node.description.isEmpty() && node.description != node.name)
         line += u", "_s + node.description;
     if (node.states & selected)

@@ -3,6 +3,7 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/foundation/PropertyList.h"
 #include "tests/support/Cases.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDir>
@@ -41,14 +42,14 @@ void writeFile(const QString &path, const QByteArray &content)
 
 uint modeOf(const QString &path)
 {
-    struct stat status { };
+    struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
 /// Writes large values, each of one repeated byte, until it is killed.
 [[noreturn]] void writeForEver(NSUserDefaults defaults)
 {
-    for (char byte = 0; defaults.setObject(QByteArray(100000, byte), userKey); ++byte) { }
+    for (char byte = 0; defaults.setObject(QByteArray(100000, byte), userKey); ++byte) {}
     _exit(1);
 }
 
@@ -92,6 +93,8 @@ private Q_SLOTS:
         QVERIFY(defaults().removeObjectForKey(userKey));
         QVERIFY(!defaults().dataForKey(userKey) && defaults().dataForKey(u"empty"_s));
         QCOMPARE(entries(), QStringList{id + u".plist"_s});
+        QVERIFY(defaults().removeObjectForKey(u"empty"_s));
+        QCOMPARE(entries(), QStringList());
     }
 
     void isForTheUserAlone()
@@ -192,7 +195,23 @@ private Q_SLOTS:
         const FileDescriptor other(open(QFile::encodeName(m_folder).constData(), O_RDONLY));
         QCOMPARE(flock(other.get(), LOCK_EX), 0); // for ever
         QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
+        QVERIFY(defaults().removeObjectForKey(u"unknown"_s));
         QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+        QVERIFY(defaults().removeObjectForKey(userKey));
+        QCOMPARE(entries(), QStringList());
+    }
+
+    /// At the price of the other keys, which are kept wherever they can be written.
+    void removalHoldsOnAFullDisk()
+    {
+        QVERIFY(defaults().setObject(QByteArray("kept"), u"other"_s));
+        QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+        const FullDisk disk;
+        QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
+        QVERIFY(defaults().setObject(std::nullopt, u"unknown"_s));
+        QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+        QVERIFY(defaults().setObject(std::nullopt, userKey));
+        QCOMPARE(entries(), QStringList());
     }
 
     void killedWriterTearsNothing()

@@ -11,9 +11,7 @@
 class FakeService : public QDBusVirtualObject {
 public:
     FakeService(const QString &name, const QString &path, const QVariant &reply)
-        : bus(
-            QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), name)),
-          m_reply(reply)
+        : bus(connection(name)), m_reply(reply)
     {
         bus.registerVirtualObject(path, this);
         bus.registerService(name);
@@ -33,5 +31,11 @@ public:
     QList<QVariantList> calls;
 
 private:
+    static QDBusConnection connection(const QString &name)
+    {
+        const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+        return QDBusConnection::connectToBus(address, name);
+    }
+
     QVariant m_reply;
 };

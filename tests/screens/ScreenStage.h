@@ -35,7 +35,7 @@ struct ScreenStage {
         WZTUser user = {42, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
     };
 
-    explicit ScreenStage(const Screen &screen) : ScreenStage(screen, Options()) { }
+    explicit ScreenStage(const Screen &screen) : ScreenStage(screen, Options()) {}
     ScreenStage(const Screen &screen, const Options &options);
 
     [[nodiscard]] QAccessibleInterface *accessible(const QString &name);

@@ -102,8 +102,8 @@ const std::map<QByteArray, Codes> allCodes = {
 struct Session : WZTSession {
     Session() { install(this); }
     const std::optional<WZTUser> &currentUser() const override { return user; }
-    void setCurrentUser(const WZTUser &) override { }
-    void logout() override { }
+    void setCurrentUser(const WZTUser &) override {}
+    void logout() override {}
 
     std::optional<WZTUser> user = WZTUser(-7, u"jo@wzt.example"_s, u"Jo"_s);
 };

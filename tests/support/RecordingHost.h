@@ -24,7 +24,7 @@ public:
     }
     void openURL(const QString &url) override { openedURLs.append(url); }
     void impactOccurred(UIImpactFeedbackStyle) override { ++taps; }
-    void observeAppearance(std::function<void(const UIAppearance &)>) override { }
+    void observeAppearance(std::function<void(const UIAppearance &)>) override {}
     [[nodiscard]] bool becomeOnlyInstance(const QStringList &,
                                           std::function<void(const QStringList &)>) override
     {

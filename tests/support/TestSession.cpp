@@ -14,7 +14,8 @@ TestSession::TestSession()
     QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("HOME", QFile::encodeName(home()));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(runtime) + "/bus");
+    const QByteArray address = "unix:path=" + QFile::encodeName(runtime) + "/bus";
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 
 std::unique_ptr<TestProcess> TestSession::startBus() const

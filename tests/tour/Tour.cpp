@@ -44,7 +44,7 @@ const Look looks[] = {
 
 } // namespace
 
-Tour::Tour(const QDir &folder) : m_folder(folder) { }
+Tour::Tour(const QDir &folder) : m_folder(folder) {}
 Tour::~Tour() = default;
 
 void Tour::picture_data()

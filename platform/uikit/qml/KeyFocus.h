@@ -13,7 +13,7 @@ class KeyFocus : public QObject {
 
 public:
     /// `item` outlives this.
-    explicit KeyFocus(QQuickItem &item) : m_item(item) { }
+    explicit KeyFocus(QQuickItem &item) : m_item(item) {}
 
     [[nodiscard]] bool isVisible() const;
     /// The item got the keyboard by key, or a key of it was pressed.

@@ -102,19 +102,24 @@ UIFocusItem {
             choose()
     }
     Keys.onPressed: event => {
-        const actions = {
-            [Qt.Key_Home]: () => {
-                root.goTo(root.beside(-1, 1))
-                root.list.positionViewAtBeginning()
-            },
-            [Qt.Key_End]: () => {
-                root.goTo(root.beside(root.list.count, -1))
-                root.list.positionViewAtEnd()
-            },
-            [Qt.Key_PageUp]: () => root.turnPage(-1),
-            [Qt.Key_PageDown]: () => root.turnPage(1)
+        event.accepted = true
+        switch (event.key) {
+        case Qt.Key_Home:
+            goTo(beside(-1, 1))
+            list.positionViewAtBeginning()
+            break
+        case Qt.Key_End:
+            goTo(beside(list.count, -1))
+            list.positionViewAtEnd()
+            break
+        case Qt.Key_PageUp:
+            turnPage(-1)
+            break
+        case Qt.Key_PageDown:
+            turnPage(1)
+            break
+        default:
+            event.accepted = false
         }
-        event.accepted = event.key in actions
-        actions[event.key]?.()
     }
 }

@@ -123,14 +123,12 @@ private Q_SLOTS:
 
     void aRowIsChosenOnce()
     {
+        const QList byLines{Qt::Key_Down, Qt::Key_Down, Qt::Key_Return};
+        const QList byEnds{Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space};
         const std::function<void()> ways[] = {
             [this] { QTest::mouseClick(&window(), Qt::LeftButton, {}, second()); },
-            [this] {
-                keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-            },
-            [this] {
-                keys({Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space});
-            },
+            [&] { keys(byLines); },
+            [&] { keys(byEnds); },
             [this] { accessible(2)->doAction(QAccessibleActionInterface::pressAction()); },
         };
         for (const auto &choose : ways) {
