@@ -65,7 +65,8 @@ private Q_SLOTS:
             const QRectF place(item(entry)->position(), item(entry)->size());
             QCOMPARE(place, QRectF(0, y, 390, height));
         }
-        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->mapToItem(item(1), {}).x(), 16);
+        QCOMPARE(WindowDriver::named(item(1), u"textLabel"_s)->mapToItem(item(1), QPointF()).x(),
+                 16);
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
@@ -110,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(lower->height() > 0 ? lower->property("lineCount").toInt() : 0, row.detailLines);
         const double texts = upper->height() + (row.detail.isEmpty() ? 0 : 3) + lower->height();
         QCOMPARE(item(1)->height(), qMax(44.0, texts + 2 * 11));
-        QCOMPARE(upper->mapToItem(item(1), {}),
+        QCOMPARE(upper->mapToItem(item(1), QPointF()),
                  QPointF(16, std::floor((item(1)->height() - texts) / 2)));
         for (const QQuickItem *label : {upper, lower}) {
             QCOMPARE(label->width(), 390 - 2 * 16);
