@@ -15,14 +15,21 @@ int indexOf(const QQuickItem *item)
 
 } // namespace
 
-void ReadingOrder::componentComplete()
+void ReadingOrder::setIndex(int index)
 {
-    QQuickItem::componentComplete();
-    QQuickItem *delegate = parentItem();
+    m_index = index;
+    polish();
+}
+
+void ReadingOrder::updatePolish()
+{
+    const QQuickItem *delegate = parentItem();
     if (!delegate || !delegate->parentItem())
         return;
-    const QList<QQuickItem *> all = delegate->parentItem()->childItems();
-    const auto after = std::ranges::upper_bound(all, indexOf(delegate), {}, indexOf);
-    if (after != all.end())
-        delegate->stackBefore(*after);
+    QList<QQuickItem *> all = delegate->parentItem()->childItems();
+    if (std::ranges::is_sorted(all, {}, indexOf))
+        return;
+    std::ranges::stable_sort(all, {}, indexOf);
+    for (qsizetype i = 1; i < all.size(); ++i)
+        all[i]->stackAfter(all[i - 1]);
 }

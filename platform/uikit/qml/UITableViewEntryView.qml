@@ -22,5 +22,5 @@ Loader {
     Component.onDestruction: if (cell)
         table?.cellHidden(cell)
 
-    ReadingOrder {}
+    ReadingOrder { index: root.index }
 }

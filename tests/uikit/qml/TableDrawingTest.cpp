@@ -305,6 +305,24 @@ private Q_SLOTS:
         }
     }
 
+    /// As screen readers and Tab take them.
+    void rowsStandInTheirOrder()
+    {
+        show(std::vector{0, 2});
+        for (const int rows : {30, 5, 200, 0, 40}) {
+            m_table->rows = {rows, 2};
+            m_table->tableView()->reloadData();
+            for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Home}) {
+                keys({key});
+                window().grabWindow();
+                QList<int> entries = madeEntries();
+                std::ranges::sort(entries);
+                QVERIFY(entries.size() > rows % 100);
+                QCOMPARE(madeEntries(), entries);
+            }
+        }
+    }
+
     void aReloadLeavesTheFingerAlone()
     {
         show({2000});
@@ -362,6 +380,18 @@ private:
     [[nodiscard]] QQuickView &window() const { return m_fixture->host->view(); }
     [[nodiscard]] QQuickItem *list() const { return m_fixture->named(u"list"_s); }
     [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
+    /// The entries that are drawn, in the order of their drawings.
+    [[nodiscard]] QList<int> madeEntries() const
+    {
+        QList<int> entries;
+        const auto *content = list()->property("contentItem").value<QQuickItem *>();
+        for (const QQuickItem *drawn : content->childItems()) {
+            const QVariant index = drawn->property("index");
+            if (index.isValid() && drawn->isVisible())
+                entries.append(index.toInt());
+        }
+        return entries;
+    }
     [[nodiscard]] QQuickItem *item(int entry) const
     {
         QQuickItem *found = nullptr;
