@@ -15,9 +15,9 @@
 class UIControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged)
+    Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged FINAL)
     /// Whether to show that the control has the keyboard.
-    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
+    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
 
 public:
     explicit UIControlArea(QQuickItem *parent = nullptr);
