@@ -12,15 +12,14 @@ class UIWindowHost;
 /// The program from its start to its end: the application on this machine, in its window.
 class Launch {
 public:
-    /// `argc` and `argv` are as `main` has them and outlive the launch; URLs to open are
-    /// arguments.
+    /// `argc` and `argv` are as `main` has them and outlive the launch.
     Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession);
     ~Launch();
     Q_DISABLE_COPY_MOVE(Launch)
 
-    /// Runs the application until it is quit. Returns the process's exit status at once when
-    /// another instance runs already, which the URLs are handed to.
-    int run();
+    /// Opens the URLs and runs the application until it is quit. Returns the process's exit status
+    /// at once when another instance runs already, which the URLs are handed to.
+    int run(const QStringList &urls);
 
 private:
     void start();

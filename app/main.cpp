@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "app/CommandLine.h"
 #include "app/Launch.h"
 #include "app/ServiceRoute.h"
 
 int main(int argc, char *argv[])
 {
-    return Launch(argc, argv, ServiceRoute::configuration()).run();
+    const QStringList urls = CommandLine::urls(argc, argv);
+    return Launch(argc, argv, ServiceRoute::configuration()).run(urls);
 }

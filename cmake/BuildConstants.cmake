@@ -7,6 +7,17 @@ function(wzt_constant name default pattern help)
     if(NOT "${${name}}" MATCHES "^(${pattern})$")
         message(FATAL_ERROR "${name} is \"${${name}}\": ${help} (${pattern})")
     endif()
+    set_property(GLOBAL APPEND PROPERTY WZT_CONSTANTS ${name})
+endfunction()
+
+# wzt_write_constants(FILE): a file that has another build made with the same constants, by cmake -C.
+function(wzt_write_constants file)
+    get_property(names GLOBAL PROPERTY WZT_CONSTANTS)
+    set(lines "")
+    foreach(name IN LISTS names)
+        string(APPEND lines "set(${name} [==[${${name}}]==] CACHE STRING \"\")\n")
+    endforeach()
+    file(WRITE ${file} "${lines}")
 endfunction()
 
 # What the desktop calls the application.
@@ -28,6 +39,12 @@ wzt_constant(WZT_CYDIA_SHARE_ENDPOINT "https://share.wzt.example/api/share" "htt
     "share endpoint: path /api/share")
 wzt_constant(WZT_CHAT_INVITATION_URL "https://chat.wzt.example/invite/wzt" "https://${host}/[A-Za-z0-9/_-]+"
     "invitation link to the chat")
+wzt_constant(WZT_HOMEPAGE_URL "https://wzt.example" "https://${host}(/[A-Za-z0-9/_-]*[A-Za-z0-9_-])?"
+    "home page, without a trailing slash; the screenshots of app stores lie below it")
+wzt_constant(WZT_AUTHORITY_FILE "" "|/[A-Za-z0-9._/-]+"
+    "bundle of the certificate authorities to trust, where /etc/ssl/certs is no folder by their hashes")
+wzt_constant(WZT_MAINTAINER "The WZT Companion authors <packages@wzt.example>" "[^<>@&\"]+ <[^<>@&\" ]+@${host}>"
+    "who publishes the application: name and <address>")
 
 # Only a build that talks to the local sandbox service has these two.
 option(WZT_USE_SANDBOX "talk to the local sandbox service and trust nothing else" OFF)

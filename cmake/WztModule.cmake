@@ -1,10 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The WZT Companion authors
 # SPDX-License-Identifier: MIT
 include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
 
-# What every target has in common: warnings, and includes written from the root of the sources.
+# What every target has in common: warnings, precompiled headers, and includes written from the root of the sources.
 function(wzt_common target)
     wzt_warnings(${target})
+    wzt_precompiled_headers(${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
 endfunction()
 
@@ -57,9 +59,10 @@ function(wzt_module target)
     set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 endfunction()
 
-# One test program: wzt_test(test_model SOURCES ... LIBS ...), run by CTest on its own HOME.
+# One test program: wzt_test(test_model [WINDOW] SOURCES ... LIBS ...), run by CTest on its own HOME. One
+# that draws in a window has the label "window".
 function(wzt_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "WINDOW" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     wzt_common(${name})
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
@@ -67,8 +70,12 @@ function(wzt_test name)
     file(MAKE_DIRECTORY ${home}/runtime)
     file(CHMOD ${home}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     add_test(NAME ${name} COMMAND ${name})
+    # Ends a test that hangs; a busy or an emulated machine takes its time.
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 60
+        TIMEOUT 900
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1"
         ENVIRONMENT_MODIFICATION "DBUS_SESSION_BUS_ADDRESS=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_CACHE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;http_proxy=unset:;https_proxy=unset:;HTTP_PROXY=unset:;HTTPS_PROXY=unset:;ALL_PROXY=unset:;all_proxy=unset:")
+    if(ARG_WINDOW)
+        set_property(TEST ${name} PROPERTY LABELS window)
+    endif()
 endfunction()

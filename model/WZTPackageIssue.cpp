@@ -14,20 +14,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text's key in the service's parameters and its key in an archive; one differs on purpose.
+/// A text and its key in an archive, which differs from the service's for one of them on purpose.
 struct TextField {
     WZTPackageIssue::Text WZTPackageIssue::*field;
-    QLatin1StringView parameter;
     QLatin1StringView archive;
 };
 
 constexpr TextField texts[] = {
-    {&WZTPackageIssue::issueId, "issueId"_L1, "issueId"_L1},
-    {&WZTPackageIssue::referenceId, "referenceId"_L1, "referenceId"_L1},
-    {&WZTPackageIssue::packageId, "packageId"_L1, "packageId"_L1},
-    {&WZTPackageIssue::reporterId, "reporterId"_L1, "reporterId"_L1},
-    {&WZTPackageIssue::title, "title"_L1, "title"_L1},
-    {&WZTPackageIssue::issueDescription, "description"_L1, "issueDescription"_L1},
+    {&WZTPackageIssue::issueId, "issueId"_L1},
+    {&WZTPackageIssue::referenceId, "referenceId"_L1},
+    {&WZTPackageIssue::packageId, "packageId"_L1},
+    {&WZTPackageIssue::reporterId, "reporterId"_L1},
+    {&WZTPackageIssue::title, "title"_L1},
+    {&WZTPackageIssue::issueDescription, "issueDescription"_L1},
 };
 constexpr auto openKey = "open"_L1;
 constexpr auto openDateKey = "openDate"_L1;
@@ -50,12 +49,11 @@ WZTPackageIssue::WZTPackageIssue(Text issue, Text reference, Text package, Text 
 
 WZTPackageIssue WZTPackageIssue::initWithIssueParams(const QJsonObject &params)
 {
-    WZTPackageIssue issue;
-    for (const TextField &text : texts)
-        issue.*text.field = textValue(params[text.parameter]);
-    issue.open = boolValue(params[openKey]);
-    issue.openDate = serviceDate(params[openDateKey]);
-    return issue;
+    const auto text = [&params](QLatin1StringView key) { return textValue(params[key]); };
+    return {text("issueId"_L1),         text("referenceId"_L1),
+            text("packageId"_L1),       text("reporterId"_L1),
+            text("title"_L1),           text("description"_L1),
+            boolValue(params[openKey]), serviceDate(params[openDateKey])};
 }
 
 WZTPackageIssue WZTPackageIssue::initWithCoder(const NSCoder &coder)

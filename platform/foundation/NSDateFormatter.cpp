@@ -2,31 +2,24 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSDateFormatter.h"
 
+#include "platform/foundation/DateFields.h"
+#include "platform/foundation/LocalTime.h"
+
 #include <QByteArray>
 
-#include <unicode/smpdtfmt.h>
+#include <unicode/datefmt.h>
+#include <unicode/gregocal.h>
 
-#include <algorithm>
 #include <cmath>
-#include <deque>
 #include <memory>
 
 namespace {
 
-/// From 1970-01-01, ICU's epoch, to 2001-01-01.
+/// From 1970-01-01 to 2001-01-01.
 constexpr double referenceDate = 978307200;
-/// Formatters kept for each thread; the oldest goes first.
-constexpr size_t cacheSize = 8;
-
-/// What one ICU formatter was made for, so that a change of the device's settings is noticed.
-struct Key {
-    QString format;
-    NSDateFormatterStyle style;
-    QByteArray locale;
-    QByteArray timeZone;
-
-    bool operator==(const Key &) const = default;
-};
+constexpr double millisecondsPerSecond = 1000;
+/// Further from today than any date that can be shown.
+constexpr double farthest = 1e15;
 
 QByteArray deviceLocale()
 {
@@ -46,93 +39,71 @@ icu::Locale localeOf(const QByteArray &name)
     return icu::Locale::createCanonical(plain ? "en_US_POSIX" : name.constData());
 }
 
-std::unique_ptr<icu::DateFormat> make(const Key &key)
+/// The thread's writer of clocks for the device's locale, null when ICU has none. It is kept:
+/// making one costs far more than using it.
+const icu::DateFormat *writer()
 {
-    const icu::Locale locale = localeOf(key.locale);
-    std::unique_ptr<icu::DateFormat> formatter;
+    thread_local QByteArray knownLocale;
+    thread_local std::unique_ptr<icu::DateFormat> known;
+    const QByteArray locale = deviceLocale();
+    if (locale != knownLocale) {
+        known.reset(
+            icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, localeOf(locale)));
+        if (known) {
+            known->setTimeZone(*icu::TimeZone::getGMT());
+        }
+        knownLocale = locale;
+    }
+    return known.get();
+}
+
+/// A Gregorian calendar that refuses what does not exist, null when there is no memory for it.
+std::unique_ptr<icu::Calendar> makeCalendar()
+{
     UErrorCode status = U_ZERO_ERROR;
-    if (key.style == NSDateFormatterStyle::Medium) {
-        formatter.reset(icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, locale));
-    } else {
-        const icu::UnicodeString pattern(QStringView(key.format).utf16(), int(key.format.size()));
-        formatter = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
-    }
-    if (!formatter || U_FAILURE(status)) {
-        return nullptr;
-    }
-    formatter->adoptTimeZone(icu::TimeZone::detectHostTimeZone());
-    formatter->setLenient(false);
-    for (const UDateFormatBooleanAttribute attribute :
-         {UDAT_PARSE_ALLOW_WHITESPACE, UDAT_PARSE_ALLOW_NUMERIC, UDAT_PARSE_PARTIAL_LITERAL_MATCH,
-          UDAT_PARSE_MULTIPLE_PATTERNS_FOR_MATCH}) {
-        formatter->setBooleanAttribute(attribute, false, status);
-    }
-    return formatter;
+    auto calendar = std::make_unique<icu::GregorianCalendar>(*icu::TimeZone::getGMT(), status);
+    calendar->setLenient(false);
+    return U_SUCCESS(status) ? std::move(calendar) : nullptr;
 }
 
-/// Null when ICU cannot make sense of the format.
-icu::DateFormat *shared(const Key &key)
+/// The clock that shows these fields, nil when none does.
+std::optional<qint64> clockOf(const DateFields &fields)
 {
-    struct Entry {
-        Key key;
-        std::unique_ptr<icu::DateFormat> formatter;
-    };
-    thread_local std::deque<Entry> cache;
-    const auto known =
-        std::find_if(cache.begin(), cache.end(), [&](const Entry &e) { return e.key == key; });
-    if (known != cache.end()) {
-        return known->formatter.get();
+    thread_local const std::unique_ptr<icu::Calendar> calendar = makeCalendar();
+    if (!calendar) {
+        return std::nullopt;
     }
-    if (cache.size() == cacheSize) {
-        cache.pop_front();
-    }
-    cache.push_back({key, make(key)});
-    return cache.back().formatter.get();
-}
-
-icu::DateFormat *sharedFor(const QString &format, NSDateFormatterStyle style)
-{
-    const bool isSet = !format.isEmpty() || style != NSDateFormatterStyle::None;
-    return isSet ? shared({format, style, deviceLocale(), qgetenv("TZ")}) : nullptr;
+    UErrorCode status = U_ZERO_ERROR;
+    calendar->clear();
+    calendar->set(fields.year, fields.month - 1, fields.day, fields.hour, fields.minute,
+                  fields.second);
+    const UDate milliseconds = calendar->getTime(status);
+    return U_SUCCESS(status) ? std::optional(qint64(milliseconds / millisecondsPerSecond))
+                             : std::nullopt;
 }
 
 } // namespace
 
-void NSDateFormatter::setDateFormat(const QString &format)
-{
-    m_format = format;
-    m_style = NSDateFormatterStyle::None;
-}
-
-void NSDateFormatter::setDateStyle(NSDateFormatterStyle style)
-{
-    m_format.clear();
-    m_style = style;
-}
-
 std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
 {
-    const icu::DateFormat *formatter = sharedFor(m_format, m_style);
-    if (!formatter) {
-        return std::nullopt;
-    }
-    const icu::UnicodeString source(QStringView(text).utf16(), int(text.size()));
-    icu::ParsePosition position(0);
-    const UDate milliseconds = formatter->parse(source, position);
-    if (position.getErrorIndex() >= 0 || position.getIndex() != source.length()
-        || source.isEmpty()) {
-        return std::nullopt;
-    }
-    return NSDate{milliseconds / 1000 - referenceDate};
+    const auto fields = m_format.isEmpty() ? std::nullopt : readDateFields(m_format, text);
+    const auto clock = fields ? clockOf(*fields) : std::nullopt;
+    const auto moment = clock ? LocalTime::momentOf(*clock) : std::nullopt;
+    return moment ? std::optional(NSDate{double(*moment) - referenceDate}) : std::nullopt;
 }
 
 QString NSDateFormatter::stringFromDate(const NSDate &date) const
 {
-    const icu::DateFormat *formatter = sharedFor(m_format, m_style);
-    if (!formatter || !std::isfinite(date.timeIntervalSinceReferenceDate)) {
+    const double moment = std::floor(date.timeIntervalSinceReferenceDate + referenceDate);
+    if (m_style == NSDateFormatterStyle::None || !(std::abs(moment) < farthest)) {
+        return {};
+    }
+    const auto clock = LocalTime::clockAt(qint64(moment));
+    const icu::DateFormat *formatter = clock ? writer() : nullptr;
+    if (!formatter) {
         return {};
     }
     icu::UnicodeString text;
-    formatter->format((date.timeIntervalSinceReferenceDate + referenceDate) * 1000, text);
+    formatter->format(double(*clock) * millisecondsPerSecond, text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }

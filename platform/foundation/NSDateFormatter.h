@@ -10,23 +10,22 @@
 
 enum class NSDateFormatterStyle { None, Medium };
 
-/// Dates as text and back, in the device's locale (the first of LC_ALL, LC_TIME and LANG that is
-/// set) and time zone (TZ or else the system's) at the time of use. Cheap to make and to copy: what
-/// is expensive about it is kept for each thread, locale, time zone and format, and shared by every
-/// formatter that asks for the same.
+/// Reads dates by a pattern and writes them in a style, by the device's locale (the first of
+/// LC_ALL, LC_TIME and LANG that is set) and time zone (TZ, rules included, or else the system's)
+/// at the time of use. Cheap to make and to copy. Any thread.
 class NSDateFormatter {
 public:
-    /// Unicode date pattern, for example "yyyy-MM-dd HH:mm:ss"; replaces a style.
-    void setDateFormat(const QString &format);
-    /// The locale's date in that style, without a time; replaces a pattern.
-    /// None, as at first, gives empty texts and reads nothing.
-    void setDateStyle(NSDateFormatterStyle style);
+    /// The pattern to read by, of numbers: "yyyy-MM-dd HH:mm:ss", see readDateFields.
+    void setDateFormat(const QString &format) { m_format = format; }
+    /// The style to write in: the locale's date in its own calendar, without a time. None, as at
+    /// first, gives empty texts.
+    void setDateStyle(NSDateFormatterStyle style) { m_style = style; }
 
-    /// The moment that `text` names, nil unless the whole of it matches. Not lenient: days, times
-    /// and hours skipped by summer time that do not exist give nil, and a field of two letters has
-    /// at least two digits. Of an hour that occurs twice the later is meant. What ICU reads
-    /// nevertheless: digits of any script, and blanks before the text or more than one within it
-    /// (but none after it).
+    /// The moment that `text` names in the Gregorian calendar, whatever the locale's, nil unless
+    /// the whole of it matches. Not lenient: days, times and hours skipped by summer time that do
+    /// not exist give nil, and a field has at least as many digits as the pattern has letters for
+    /// it. Of an hour that occurs twice the later is meant. Read nevertheless: digits of any
+    /// script, and blanks before a number (but none after the last).
     [[nodiscard]] std::optional<NSDate> dateFromString(const QString &text) const;
 
     [[nodiscard]] QString stringFromDate(const NSDate &date) const;

@@ -3,6 +3,7 @@
 #include "platform/foundation/NSKeyedUnarchiver.h"
 
 #include "platform/foundation/PropertyList.h"
+#include "platform/foundation/UTF8Reading.h"
 
 #include <algorithm>
 #include <array>
@@ -44,7 +45,7 @@ Value textOf(const PropertyListNode &object)
         return *text;
     }
     const auto bytes = object.item(u"NS.bytes"_s).data();
-    return bytes ? Value(QString::fromUtf8(*bytes)) : Value();
+    return bytes ? Value(textFromUTF8(*bytes)) : Value();
 }
 
 Value numberOf(const PropertyListNode &object)

@@ -40,6 +40,13 @@ std::optional<PropertyList> readForChange(const PrivateFile &file, const Private
     return values;
 }
 
+bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values)
+{
+    const QByteArray content = values.toData();
+    // What would be refused when it is read must not be written.
+    return isBoundedPropertyList(content) && file.write(lock, content);
+}
+
 } // namespace
 
 NSUserDefaults::NSUserDefaults(const QString &applicationId, const QString &folder)
@@ -66,24 +73,34 @@ std::optional<QByteArray> NSUserDefaults::dataForKey(const QString &key) const
 
 bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QString &key)
 {
+    if (!data) {
+        return removeObjectForKey(key);
+    }
     const PrivateFile::Lock lock(m_file);
     std::optional<PropertyList> values = readForChange(m_file, lock);
     if (!values) {
         return false;
     }
-    if (data) {
-        values->insert(key, PropertyList(*data));
-    } else if (values->item(key).isPresent()) {
-        values->remove(key);
-    } else {
-        return true;
-    }
-    const QByteArray content = values->toData();
-    // What would be refused when it is read must not be written.
-    return isBoundedPropertyList(content) && m_file.write(lock, content);
+    values->insert(key, PropertyList(*data));
+    return write(m_file, lock, *values);
 }
 
 bool NSUserDefaults::removeObjectForKey(const QString &key)
 {
-    return setObject(std::nullopt, key);
+    QByteArray content;
+    const PrivateFile::State state = m_file.read(&content);
+    const std::optional<PropertyList> values = valuesIn(state, content);
+    const bool isAbsent = values && !values->item(key).isPresent();
+    return isAbsent || writeWithout(key) || m_file.remove();
+}
+
+bool NSUserDefaults::writeWithout(const QString &key)
+{
+    const PrivateFile::Lock lock(m_file);
+    std::optional<PropertyList> values = readForChange(m_file, lock);
+    if (!values) {
+        return false;
+    }
+    values->remove(key);
+    return values->items().isEmpty() ? m_file.remove() : write(m_file, lock, *values);
 }

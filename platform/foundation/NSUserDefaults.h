@@ -13,7 +13,8 @@
 /// by its user alone, at `<folder>/<application id>/<application id>.plist`.
 ///
 /// Each operation stands for itself: reads read the file, writes have replaced it, durably, when
-/// they return, and keep every key they do not know. A writer killed at any moment leaves the old
+/// they return, and keep every key they do not know; only a removal that cannot be written drops
+/// them. A writer killed at any moment leaves the old
 /// file or the new one. A file that is no property list is moved into a new folder beside it,
 /// `<application id>.plist.damaged-XXXXXX/`, and counts as empty from then on.
 /// Use it from one thread at a time; several processes may share one file.
@@ -32,8 +33,13 @@ public:
     /// process in the middle of a write for more than half a second.
     [[nodiscard]] bool setObject(const std::optional<QByteArray> &data, const QString &key);
 
+    /// Removes what is under `key`, and the file with its last key. Where the others cannot be
+    /// written anew they go as well: deleting the file takes no space. False when not even that
+    /// was possible and nothing was changed.
     [[nodiscard]] bool removeObjectForKey(const QString &key);
 
 private:
+    [[nodiscard]] bool writeWithout(const QString &key);
+
     PrivateFile m_file;
 };

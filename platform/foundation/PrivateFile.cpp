@@ -126,6 +126,17 @@ bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
     return true;
 }
 
+bool PrivateFile::remove() const
+{
+    const QByteArray path = m_folder + '/' + m_name;
+    if (unlink(path.constData()) != 0) {
+        return errno == ENOENT || errno == ENOTDIR;
+    }
+    const FileDescriptor folder(open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    fsync(folder.get());
+    return true;
+}
+
 bool PrivateFile::moveAside(const Lock &lock) const
 {
     QByteArray place = m_folder + '/' + m_name + ".damaged-XXXXXX";

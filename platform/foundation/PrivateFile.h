@@ -44,6 +44,10 @@ public:
     /// changed.
     [[nodiscard]] bool write(const Lock &lock, const QByteArray &content) const;
 
+    /// Deletes the file for good, which takes no space; without the lock, for nothing else may
+    /// stand in its way either. False: it is still there.
+    [[nodiscard]] bool remove() const;
+
     /// Moves the file, whatever it is, into a new folder beside it, `<name>.damaged-XXXXXX`.
     [[nodiscard]] bool moveAside(const Lock &lock) const;
 

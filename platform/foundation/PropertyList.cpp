@@ -3,6 +3,9 @@
 #include "platform/foundation/PropertyList.h"
 
 #include "platform/foundation/PropertyListCheck.h"
+#include "platform/foundation/UTF8Reading.h"
+
+#include <QtEndian>
 
 #include <clocale>
 #include <plist/plist.h>
@@ -93,7 +96,7 @@ QMap<QString, PropertyListNode> PropertyListNode::items() const
         if (!value) {
             break;
         }
-        result.insert(QString::fromUtf8(key), PropertyListNode(value));
+        result.insert(textFromUTF8(key), PropertyListNode(value));
         free(key);
     }
     free(iterator);
@@ -146,7 +149,7 @@ std::optional<QString> PropertyListNode::string() const
     uint64_t length = 0;
     const char *text =
         isOfType(m_node, PLIST_STRING) ? plist_get_string_ptr(m_node, &length) : nullptr;
-    return text ? std::optional(QString::fromUtf8(text, qsizetype(length))) : std::nullopt;
+    return text ? std::optional(textFromUTF8({text, qsizetype(length)})) : std::nullopt;
 }
 
 std::optional<QByteArray> PropertyListNode::data() const
@@ -164,10 +167,11 @@ std::optional<NSDate> PropertyListNode::date() const
     if (!isOfType(m_node, PLIST_DATE)) {
         return std::nullopt;
     }
-    int32_t seconds = 0;
-    int32_t microseconds = 0;
-    plist_get_date_val(m_node, &seconds, &microseconds);
-    return NSDate{seconds + microseconds / 1e6};
+    // The library's getter has 32 bits for the seconds and loses the sign of a fraction. The binary
+    // form of a date alone is a header of 8 bytes, a marker and the seconds as they are.
+    constexpr qsizetype place = 9;
+    const QByteArray binary = toData();
+    return NSDate{qFromBigEndian<double>(binary.constData() + place)};
 }
 
 std::optional<quint64> PropertyListNode::uid() const
@@ -221,7 +225,7 @@ PropertyList::PropertyList(const QString &value)
 {
 }
 
-QByteArray PropertyList::toData() const
+QByteArray PropertyListNode::toData() const
 {
     char *bytes = nullptr;
     uint32_t length = 0;

@@ -39,6 +39,9 @@ public:
     /// A UID, or a dictionary whose only key is "CF$UID".
     [[nodiscard]] std::optional<quint64> uid() const;
 
+    /// The binary form of this value alone.
+    [[nodiscard]] QByteArray toData() const;
+
 protected:
     void *m_node;
 };
@@ -57,9 +60,6 @@ public:
     explicit PropertyList(const QByteArray &value);
     /// Null characters end the text.
     explicit PropertyList(const QString &value);
-
-    /// The binary form.
-    [[nodiscard]] QByteArray toData() const;
 
     /// Only for a dictionary; replaces what was under `key`.
     void insert(const QString &key, PropertyList item);

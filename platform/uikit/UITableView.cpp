@@ -5,8 +5,7 @@
 #include <utility>
 
 namespace {
-// Enough for every row of a tall screen at a reload; what a data source makes anew for each row
-// must not pile up.
+// Enough for every row of a tall screen at a reload.
 constexpr std::size_t pooledCells = 64;
 } // namespace
 
@@ -42,7 +41,6 @@ void UITableView::setRefreshControl(std::shared_ptr<UIRefreshControl> control)
 void UITableView::reloadData()
 {
     m_selected.reset();
-    Q_EMIT reloading();
     m_entries.reload();
     Q_EMIT reloaded();
 }
@@ -95,9 +93,9 @@ std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &inde
 
 void UITableView::recycle(std::shared_ptr<UITableViewCell> cell)
 {
-    auto &pooled = m_pool[cell->reuseIdentifier()];
-    if (!cell->reuseIdentifier().isEmpty() && pooled.size() < pooledCells) {
-        pooled.push_back(std::move(cell));
+    const auto pooled = m_pool.find(cell->reuseIdentifier());
+    if (pooled != m_pool.end() && pooled->second.size() < pooledCells) {
+        pooled->second.push_back(std::move(cell));
         return;
     }
     // What drew the cell goes by a deferred delete that is still to be posted.

@@ -87,8 +87,6 @@ public:
     void recycle(std::shared_ptr<UITableViewCell> cell);
 
 Q_SIGNALS:
-    // Around a reload, so that whoever draws the table keeps its place.
-    void reloading();
     void reloaded();
 
 private:
@@ -101,6 +99,7 @@ private:
     UITableViewDataSource *m_dataSource = nullptr;
     UITableViewDelegate *m_delegate = nullptr;
     std::map<QString, Factory> m_factories;
+    // By identifier; none for one that nobody has asked for yet.
     std::map<QString, std::vector<std::shared_ptr<UITableViewCell>>> m_pool;
     std::optional<NSIndexPath> m_selected;
     std::shared_ptr<UIRefreshControl> m_refreshControl;

@@ -9,18 +9,61 @@
 UITableViewEntries::UITableViewEntries(UITableView &table) : m_table(table) {}
 UITableViewEntries::~UITableViewEntries() = default;
 
+// What draws a row stays for the row that comes to stand there, and so does the table's place.
 void UITableViewEntries::reload()
 {
     if (!m_loaded)
         return;
-    reset([this] {
-        m_loaded = false;
-        load();
-    });
+    std::vector<Section> sections = ask();
+    setCount(sections);
+    if (sections.size() != m_sections.size()) {
+        reset([&] { m_sections = std::move(sections); });
+        return;
+    }
+    takeBackCells(sections);
+    for (std::size_t i = 0; i < sections.size(); ++i)
+        resize(i, sections[i].rows);
+    m_sections = std::move(sections);
+    if (!m_sections.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+// Before the first is handed out again.
+void UITableViewEntries::takeBackCells(const std::vector<Section> &sections)
+{
+    for (auto &[entry, cell] : std::exchange(m_shown, {})) {
+        const NSIndexPath at = *indexPathOf(entry);
+        if (at.row < sections[static_cast<std::size_t>(at.section)].rows) {
+            m_table.recycle(std::move(cell));
+        } else {
+            m_leaving.push_back(std::move(cell)); // its drawing goes later, and needs it until then
+        }
+    }
+}
+
+void UITableViewEntries::resize(std::size_t section, int rows)
+{
+    const int before = m_sections[section].rows;
+    const int end = m_sections[section].footer();
+    const auto change = [&] {
+        m_sections[section].rows = rows;
+        for (std::size_t i = section + 1; i < m_sections.size(); ++i)
+            m_sections[i].header += rows - before;
+    };
+    if (rows > before) {
+        beginInsertRows({}, end, end + rows - before - 1);
+        change();
+        endInsertRows();
+    } else if (rows < before) {
+        beginRemoveRows({}, end - (before - rows), end - 1);
+        change();
+        endRemoveRows();
+    }
 }
 
 void UITableViewEntries::clear()
 {
+    setCount({});
     reset([this] {
         m_loaded = true;
         m_sections.clear();
@@ -42,7 +85,13 @@ void UITableViewEntries::load() const
 {
     if (std::exchange(m_loaded, true))
         return;
-    m_sections.clear();
+    m_sections = ask();
+    m_count = countOf(m_sections);
+}
+
+std::vector<UITableViewEntries::Section> UITableViewEntries::ask() const
+{
+    std::vector<Section> sections;
     const UITableViewDataSource *source = m_table.dataSource();
     const UITableViewDelegate *delegate = m_table.delegate();
     const int count = source ? source->numberOfSections() : 0;
@@ -56,8 +105,9 @@ void UITableViewEntries::load() const
         const double height = delegate ? delegate->heightForFooterInSection(i) : 0;
         section.footerHeight = height > 0 ? height : UITableViewAutomaticDimension;
         next = section.footer() + 1;
-        m_sections.push_back(section);
+        sections.push_back(section);
     }
+    return sections;
 }
 
 const UITableViewEntries::Section *UITableViewEntries::sectionOf(int entry) const
@@ -145,10 +195,27 @@ QString UITableViewEntries::textOf(int entry) const
     return entry == section.footer() ? section.footerText : QString();
 }
 
+int UITableViewEntries::countOf(const std::vector<Section> &sections)
+{
+    return sections.empty() ? 0 : sections.back().footer() + 1;
+}
+
+int UITableViewEntries::count() const
+{
+    load();
+    return m_count;
+}
+
+void UITableViewEntries::setCount(const std::vector<Section> &sections)
+{
+    if (std::exchange(m_count, countOf(sections)) != m_count)
+        Q_EMIT countChanged();
+}
+
 int UITableViewEntries::rowCount(const QModelIndex &parent) const
 {
     load();
-    return parent.isValid() || m_sections.empty() ? 0 : m_sections.back().footer() + 1;
+    return parent.isValid() ? 0 : countOf(m_sections);
 }
 
 QVariant UITableViewEntries::data(const QModelIndex &index, int role) const

@@ -23,6 +23,8 @@ class UITableViewEntries : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a table")
+    /// How many entries there are. Told before a reload changes it.
+    Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)
 
 public:
     /// `cell`: null for a header or footer. `text`: of a header or footer, empty for none.
@@ -56,9 +58,14 @@ public:
     /// where there is none.
     Q_INVOKABLE [[nodiscard]] int rowBeside(int entry, int step) const;
 
+    [[nodiscard]] int count() const;
+
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void countChanged();
 
 private:
     struct Section {
@@ -73,6 +80,11 @@ private:
     using Cells = std::unordered_map<int, std::shared_ptr<UITableViewCell>>;
 
     void load() const;
+    [[nodiscard]] std::vector<Section> ask() const;
+    void takeBackCells(const std::vector<Section> &sections);
+    void resize(std::size_t section, int rows);
+    [[nodiscard]] static int countOf(const std::vector<Section> &sections);
+    void setCount(const std::vector<Section> &sections);
     void reset(const std::function<void()> &change);
     [[nodiscard]] const Section *sectionOf(int entry) const;
     [[nodiscard]] UITableViewCell *cellOf(int entry) const;
@@ -83,6 +95,7 @@ private:
     // What is shown is asked for lazily, when somebody looks.
     mutable std::vector<Section> m_sections;
     mutable bool m_loaded = false;
+    mutable int m_count = 0;
     mutable Cells m_shown;
     // Shown before a reload, until their drawings are gone.
     std::vector<std::shared_ptr<UITableViewCell>> m_leaving;

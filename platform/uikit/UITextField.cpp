@@ -2,6 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UITextField.h"
 
+namespace {
+
+QString inOneLine(QString text)
+{
+    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
+        text.replace(lineBreak, u' ');
+    return text;
+}
+
+} // namespace
+
 void UITextField::setAttributedPlaceholder(const QString &placeholder, const UIColor &color)
 {
     setPlaceholder(placeholder);
@@ -21,18 +32,16 @@ QString UITextField::accessibilityLabel() const
     return label.isEmpty() ? m_placeholder : label;
 }
 
+bool UITextField::shows(const QString &text) const
+{
+    return inOneLine(text) == shownText();
+}
+
 void UITextField::edit(const QString &text)
 {
-    QString line = text;
-    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
-        line.replace(lineBreak, u' ');
-    if (line == shownText()) {
-        // What is drawn may differ from what is kept.
-        if (line != text)
-            Q_EMIT changed();
+    if (shows(text))
         return;
-    }
-    setText(line);
+    setText(inOneLine(text));
     sendActionsForControlEvent(UIControlEvent::EditingChanged);
 }
 

@@ -66,6 +66,8 @@ public:
     [[nodiscard]] QString accessibilityLabel() const override;
 
     // What the user does, as whoever draws the field sees it.
+    /// Whether the text is this one, its line breaks made blanks.
+    Q_INVOKABLE [[nodiscard]] bool shows(const QString &text) const;
     /// The text is now this one, its line breaks made blanks: EditingChanged if that is news.
     Q_INVOKABLE void edit(const QString &text);
     /// Return: EditingDidEndOnExit.

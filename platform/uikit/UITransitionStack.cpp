@@ -39,7 +39,6 @@ void UITransitionStack::push(std::shared_ptr<UIViewController> controller, Cover
         return;
     }
     controller->m_stack = this;
-    controller->loadViewIfNeeded(); // what draws it binds to a finished view
     const UIViewController *pushed = controller.get();
     const int row = rowCount();
     beginInsertRows({}, row, row);

@@ -41,11 +41,11 @@ public:
     [[nodiscard]] QUrl viewUrl() const;
 
     /// Runs `viewDidLoad`, unless it has run.
-    void loadViewIfNeeded();
+    Q_INVOKABLE void loadViewIfNeeded();
     [[nodiscard]] bool isViewLoaded() const { return m_viewLoaded; }
 
     // The life cycle; an override calls the base implementation first.
-    /// Once, before the controller first appears.
+    /// Once, before the controller is first drawn or appears.
     virtual void viewDidLoad();
     /// Whenever the controller is about to be shown, before its transition begins.
     virtual void viewWillAppear(bool animated);

@@ -10,5 +10,5 @@ int main(int argc, char *argv[])
     NSURLSessionConfiguration service;
     service.certificateAuthorityFile = QString::fromLocal8Bit(argv[1]);
     service.connectTo = QString::fromLocal8Bit(argv[2]);
-    return Launch(argc, argv, service).run();
+    return Launch(argc, argv, service).run({});
 }

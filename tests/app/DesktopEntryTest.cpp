@@ -38,6 +38,7 @@ private Q_SLOTS:
               "<mediatype>"_L1 + scheme + "</mediatype>"_L1,
               "<release version=\""_L1 + QLatin1StringView(BuildConstants::version)}},
             {u"service"_s, {"Name="_L1 + id, u"Exec=/"_s}},
+            {u"yml"_s, {"id: "_L1 + id, "command: "_L1 + program}},
         };
         for (const auto &[kind, lines] : rows) {
             QFile file(QStringLiteral(WZT_DESCRIPTIONS "/") + id + u'.' + kind);

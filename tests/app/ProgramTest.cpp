@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "model/BuildConstants.h"
 #include "tests/support/TestRunner.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
+
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +25,16 @@ quint64 caughtSignals(pid_t pid)
     return text.mid(text.indexOf("SigCgt:") + 8, 16).toULongLong(nullptr, 16);
 }
 
+/// Qt's own options, and a URL that looks like an option: neither keeps the program from running.
+const QStringList runningArguments{u"-platform"_s, u"offscreen"_s, u"--"_s, u"--version"_s};
+
+struct Answer {
+    QStringList arguments;
+    int status;
+    QByteArray output;
+    QByteArray complaint;
+};
+
 } // namespace
 
 /// The program as a process.
@@ -33,7 +47,7 @@ private Q_SLOTS:
         for (const int signalNumber : {SIGTERM, SIGINT, SIGHUP}) {
             QProcess program;
             program.setProcessChannelMode(QProcess::MergedChannels);
-            program.start(QStringLiteral(WZT_PROGRAM));
+            program.start(QStringLiteral(WZT_PROGRAM), runningArguments);
             QVERIFY(program.waitForStarted());
             const auto pid = static_cast<pid_t>(program.processId());
             // Ready once it has a handler of its own for the signal.
@@ -44,6 +58,59 @@ private Q_SLOTS:
             QCOMPARE(program.readAll(), QByteArray());
             QCOMPARE(program.exitCode(), 0);
         }
+    }
+
+    void answersWithoutDisplay()
+    {
+        const QByteArray version = "wzt-companion " + QByteArray(BuildConstants::version) + '\n';
+        const QString url = QLatin1StringView(BuildConstants::urlScheme) + ":x"_L1;
+        const Answer answers[] = {
+            {{u"--version"_s}, 0, version, {}},
+            {{url, u"-v"_s}, 0, version, {}},
+            {{u"-session"_s, u"1"_s, u"--help"_s}, 0, "Usage: ", {}},
+            {{u"--verison"_s}, 1, {}, "verison"},
+            {{url, u"-platform"_s}, 1, {}, "platform"},
+        };
+        QProcessEnvironment nowhere = QProcessEnvironment::systemEnvironment();
+        nowhere.insert(u"QT_QPA_PLATFORM"_s, u"missing"_s);
+        for (const Answer &answer : answers) {
+            QProcess program;
+            program.setProcessEnvironment(nowhere);
+            program.start(QStringLiteral(WZT_PROGRAM), answer.arguments);
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(program.exitCode(), answer.status);
+            const QByteArray output = program.readAllStandardOutput();
+            QVERIFY2(output.startsWith(answer.output), output.constData());
+            const QByteArray complaint = program.readAllStandardError();
+            QVERIFY2(complaint.contains(answer.complaint), complaint.constData());
+            // A complaint is one line on standard error, an answer none.
+            QCOMPARE(complaint.count('\n'), answer.status);
+            QCOMPARE(output.isEmpty(), answer.output.isEmpty());
+        }
+    }
+
+    /// Its log is a file that cannot grow.
+    void survivesAFullDisk()
+    {
+        const QTemporaryDir folder;
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_DEBUG_PLUGINS"_s, u"1"_s); // writes many lines
+        program.setProcessEnvironment(environment);
+        program.setStandardErrorFile(folder.filePath(u"log"_s));
+        program.setChildProcessModifier([] {
+            const rlimit none{0, 0};
+            setrlimit(RLIMIT_FSIZE, &none);
+        });
+        program.start(QStringLiteral(WZT_PROGRAM));
+        QVERIFY(program.waitForStarted());
+        const auto pid = static_cast<pid_t>(program.processId());
+        QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (SIGTERM - 1) & 1, 20000);
+        kill(pid, SIGTERM);
+        QVERIFY(program.waitForFinished(5000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
     }
 };
 

@@ -56,10 +56,32 @@ private Q_SLOTS:
             {"٢٠١٩-٠٨-١٤ ١٧:٠٥:٠٩", "2019-08-14T15:05:09Z"},
         };
         const NSDateFormatter formatter = serviceFormatter();
-        for (const auto &[text, moment] : rows)
-            QCOMPARE(formatter.dateFromString(QString::fromUtf8(text)), utc(moment));
-        qputenv("TZ", "Asia/Tokyo");
-        QCOMPARE(formatter.dateFromString(u"2019-08-14 17:05:09"_s), utc("2019-08-14T08:05:09Z"));
+        // The calendars of most of these are not the Gregorian one.
+        for (const char *locale : {"th_TH.UTF-8", "fa_IR.UTF-8", "ar_SA", "en_US.UTF-8", "C"}) {
+            qputenv("LC_ALL", locale);
+            for (const auto &[text, moment] : rows)
+                QCOMPARE(formatter.dateFromString(QString::fromUtf8(text)), utc(moment));
+        }
+    }
+
+    void readsInTheZoneOfThatMoment()
+    {
+        const char posixRule[] = "CET-1CEST,M3.5.0,M10.5.0/3";
+        const std::tuple<const char *, const char *, const char *> changes[] = {
+            {"Asia/Tokyo", "2019-08-14 17:05:09", "2019-08-14T08:05:09Z"},
+            {"Asia/Kolkata", "2019-08-14 17:05:09", "2019-08-14T11:35:09Z"},
+            {posixRule, "2019-08-14 17:05:09", "2019-08-14T15:05:09Z"},
+            {posixRule, "2019-01-14 17:05:09", "2019-01-14T16:05:09Z"},
+            {posixRule, "2019-10-27 02:30:00", "2019-10-27T01:30:00Z"},
+            {"<-03>3", "2019-08-14 17:05:09", "2019-08-14T20:05:09Z"},
+            {"Australia/Lord_Howe", "2019-04-07 01:45:00", "2019-04-06T15:15:00Z"}, // the later
+            {"Pacific/Apia", "2011-12-31 00:00:00", "2011-12-30T10:00:00Z"}, // after a day skipped
+        };
+        for (const auto &[zone, text, moment] : changes) {
+            qputenv("TZ", zone);
+            QCOMPARE(serviceFormatter().dateFromString(QString::fromLatin1(text)), utc(moment));
+        }
+        QVERIFY(!serviceFormatter().dateFromString(u"2011-12-30 12:00:00"_s));
     }
 
     void refuses()
@@ -67,10 +89,19 @@ private Q_SLOTS:
         for (const char *text :
              {"", "now", "2019-08-14", "14/08/2019 17:05", "2019-08-14 17:05",
               "2019-08-14T17:05:09", "2019-08-14 17:05:09 ", "2019-08-14 17:05:09Z",
-              "2019-08-14 17:05:09.5", "2019-Aug-14 17:05:09", "2019-8-4 7:5:9",
+              "2019-08-14 17:05:09.5", "2019-Aug-14 17:05:09", "2019-08-14 17:05:09e0",
               "0000-00-00 00:00:00", "2019-02-29 10:00:00", "2019-13-01 10:00:00",
               "2019-08-14 24:00:00", "2019-08-14 23:60:00", "2019-08-14 23:59:60",
               "2019-03-31 02:30:00" /* skipped by summer time */})
+            QVERIFY2(!serviceFormatter().dateFromString(QString::fromLatin1(text)), text);
+    }
+
+    void refusesTooFewDigitsAndFarTooMany()
+    {
+        for (const char *text :
+             {"2019-8-4 7:5:9", "19-08-14 17:05:09", "2019-8-14 17:05:09", "2019-08-4 17:05:09",
+              "2019-08-14 7:05:09", "2019-08-14 17:5:09", "2019-08-14 17:05:9",
+              "4294969315-08-14 17:05:09", "2019-4294967304-14 17:05:09"})
             QVERIFY2(!serviceFormatter().dateFromString(QString::fromLatin1(text)), text);
     }
 
@@ -82,6 +113,8 @@ private Q_SLOTS:
             {"LC_TIME", "de_DE.UTF-8", u"16.11.2026"_s},
             {"LC_ALL", "en_US.UTF-8", u"Nov 16, 2026"_s},
             {"LC_ALL", "C.UTF-8", u"Nov 16, 2026"_s},
+            {"LC_ALL", "th_TH.UTF-8", u"16 พ.ย. 2569"_s}, // in the locale's own calendar
+            {"TZ", "<+02>-2", u"17 พ.ย. 2569"_s},
         };
         qputenv("LANG", "ja_JP.UTF-8");
         qputenv("LC_TIME", "");
@@ -92,7 +125,8 @@ private Q_SLOTS:
             qputenv(name, value);
             QCOMPARE(formatter.stringFromDate(utc("2026-11-16T23:30:00Z")), text);
         }
-        QCOMPARE(formatter.stringFromDate({qQNaN()}), QString());
+        for (const double far : {qQNaN(), 1e18, -qInf()})
+            QCOMPARE(formatter.stringFromDate({far}), QString());
     }
 };
 

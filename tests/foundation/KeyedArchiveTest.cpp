@@ -10,6 +10,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <bit>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -107,13 +109,23 @@ private Q_SLOTS:
         for (const NSCoder::Value &value : std::initializer_list<NSCoder::Value>{
                  std::monostate(), true, false, qint64(17), qint64(INT_MIN), 2.5, u""_s, u"$null"_s,
                  u"Jürgen 😀 $class<&>\n\t\x1f"_s, QString(100000, u'ä'), NSDate{587487909.25},
-                 NSDate{-63114076800}, NSDate{1e9 + 1e-3}}) {
-            const Values values{{u"a"_s, value}, {u"b"_s, u"1"_s}, {u"c"_s, value}};
+                 NSDate{-63114076800}, NSDate{1e9 + 1e-3}, u"\ufeffjo@wzt.example"_s,
+                 u"\ufeffä"_s}) {
+            const Values values{{u"a"_s, value}, {u"b"_s, u"1"_s}, {u"\ufeffc"_s, value}};
             const auto coder = unarchived(archived(values).value());
             QVERIFY(coder && coder->values() == values);
         }
         for (const QString &text : {u"a\0b"_s, QString(QChar(0xdc00))})
             QVERIFY(!archived({{u"a"_s, text}}));
+    }
+
+    void plainDatesAreExact()
+    {
+        for (const double seconds : {0.0, -0.25, -4e9, 1e12 + 0.5}) {
+            const QByteArray bytes = bigEndian(std::bit_cast<quint64>(seconds), 8);
+            const auto list = PropertyList::fromData(binary({"\x33" + bytes}, 1));
+            QVERIFY(list && list->date() == NSDate{seconds});
+        }
     }
 
     /// The layout that other readers of the format count on.
@@ -161,6 +173,9 @@ private Q_SLOTS:
             {"text", archiveOf("@3", "<s> 12abc</s>"), u"12 nil 0  12abc"_s},
             {"mutable text", archiveOfObject("NSMutableString", text), u"0 nil 0 x"_s},
             {"text as bytes", archiveOfObject("NSString", bytes), u"0 nil 0 ä"_s},
+            {"byte order mark as bytes",
+             archiveOfObject("NSString", "<k>NS.bytes</k><data>77u/YQ==</data>"),
+             u"0 nil 0 \ufeffa"_s},
             {"real", archiveOf("@3", "<r>-2.9</r>"), u"-2 nil 1 -2.9"_s},
             {"beyond int", archiveOf("@3", "<i>4294967297</i>"), u"2147483647 nil 1 4294967297"_s},
             {"in place", archiveOf("<i>-5</i>"), u"-5 nil 1 -5"_s},
@@ -168,6 +183,10 @@ private Q_SLOTS:
             {"boolean", archiveOf("<true/>"), u"1 nil 1 nil"_s},
             {"date", archiveOfObject("NSDate", "<k>NS.time</k><i>-3</i>"), u"0 -3 0 nil"_s},
             {"plain date", archiveOf("<date>2001-01-01T00:00:10Z</date>"), u"0 10 0 nil"_s},
+            {"plain date of 1900", archiveOf("<date>1900-01-01T00:00:00Z</date>"),
+             u"0 -3187296000 0 nil"_s},
+            {"plain date of 2100", archiveOf("<date>2100-01-01T00:00:00Z</date>"),
+             u"0 3124137600 0 nil"_s},
             {"date without time", archiveOfObject("NSDate", ""), nothing},
             {"list", archiveOf("@3", "<array/>"), nothing},
             {"null", archiveOfObject("NSNull", ""), nothing},
@@ -188,11 +207,12 @@ private Q_SLOTS:
         QVERIFY(coder);
         const QString key = u"value"_s;
         const auto date = coder->decodeDateForKey(key);
-        QCOMPARE(QString::number(coder->decodeIntForKey(key)) + u' '
-                     + (date ? QString::number(date->timeIntervalSinceReferenceDate) : u"nil"_s)
-                     + (coder->decodeBoolForKey(key) ? u" 1 "_s : u" 0 "_s)
-                     + coder->decodeStringForKey(key).value_or(u"nil"_s),
-                 expected);
+        QCOMPARE(
+            QString::number(coder->decodeIntForKey(key)) + u' '
+                + (date ? QString::number(date->timeIntervalSinceReferenceDate, 'g', 12) : u"nil"_s)
+                + (coder->decodeBoolForKey(key) ? u" 1 "_s : u" 0 "_s)
+                + coder->decodeStringForKey(key).value_or(u"nil"_s),
+            expected);
     }
 
     void refuses_data()

@@ -3,6 +3,7 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/foundation/PropertyList.h"
 #include "tests/support/Cases.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDir>
@@ -92,6 +93,8 @@ private Q_SLOTS:
         QVERIFY(defaults().removeObjectForKey(userKey));
         QVERIFY(!defaults().dataForKey(userKey) && defaults().dataForKey(u"empty"_s));
         QCOMPARE(entries(), QStringList{id + u".plist"_s});
+        QVERIFY(defaults().removeObjectForKey(u"empty"_s));
+        QCOMPARE(entries(), QStringList());
     }
 
     void isForTheUserAlone()
@@ -192,7 +195,23 @@ private Q_SLOTS:
         const FileDescriptor other(open(QFile::encodeName(m_folder).constData(), O_RDONLY));
         QCOMPARE(flock(other.get(), LOCK_EX), 0); // for ever
         QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
+        QVERIFY(defaults().removeObjectForKey(u"unknown"_s));
         QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+        QVERIFY(defaults().removeObjectForKey(userKey));
+        QCOMPARE(entries(), QStringList());
+    }
+
+    /// At the price of the other keys, which are kept wherever they can be written.
+    void removalHoldsOnAFullDisk()
+    {
+        QVERIFY(defaults().setObject(QByteArray("kept"), u"other"_s));
+        QVERIFY(defaults().setObject(QByteArray("a"), userKey));
+        const FullDisk disk;
+        QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
+        QVERIFY(defaults().setObject(std::nullopt, u"unknown"_s));
+        QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
+        QVERIFY(defaults().setObject(std::nullopt, userKey));
+        QCOMPARE(entries(), QStringList());
     }
 
     void killedWriterTearsNothing()

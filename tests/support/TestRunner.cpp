@@ -6,7 +6,10 @@
 #include <QEvent>
 #include <QTest>
 
+#include <csignal>
 #include <vector>
+
+#include <sys/prctl.h>
 
 namespace {
 
@@ -25,6 +28,8 @@ void TestRunner::add(Maker make)
 
 int TestRunner::run()
 {
+    // Ctrl-C ends CTest but not its tests, which are in process groups of their own.
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     const QStringList arguments = QCoreApplication::arguments();
     int failures = 0;
     int classes = 0;

@@ -51,6 +51,7 @@ public:
     /// Moves there in small steps, each seen in a frame of its own.
     void move(const QPoint &to);
     void lift();
+    [[nodiscard]] QPoint at() const { return m_at; }
 
 private:
     QQuickWindow &m_window;

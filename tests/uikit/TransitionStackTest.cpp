@@ -198,7 +198,7 @@ private Q_SLOTS:
         const auto tabs = make<UITabBarController>();
         const auto home = stage.page(u"H"_s);
         const auto navigation = make<UINavigationController>(home);
-        tabs->setViewControllers({navigation, stage.page(u"A"_s)});
+        tabs->setViewControllers({navigation, make<UINavigationController>(stage.page(u"A"_s))});
         stage.page(u"R"_s)->presentViewController(tabs, false);
         tabs->setSelectedIndex(1);
         tabs->setSelectedIndex(5); // there is none

@@ -156,6 +156,10 @@ private Q_SLOTS:
         WZTButtonTableViewCell cell(UITableViewCellStyle::Default, u"button"_s);
         QVERIFY(cell.button()->layer().sublayers[0].frame.isEmpty());
         QVERIFY(cell.button()->buttonColor() == blue);
+        // Its button stands on a band like any other row's.
+        QCOMPARE(cell.backgroundColor().drawn(false),
+                 UITableViewCell().backgroundColor().drawn(false));
+        QCOMPARE(cell.contentView()->backgroundColor().drawn(false), QColor(Qt::transparent));
     }
 };
 

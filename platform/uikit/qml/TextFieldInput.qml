@@ -10,9 +10,15 @@ TextInput {
     required property UITextField control
     property real textScale: Traits.textScale
 
+    // What is edited keeps its line breaks, which are drawn as blanks: to set it ends what is being
+    // composed, the selection and the undo history.
+    function show() {
+        if (!control.shows(text))
+            text = control.text
+    }
+
     verticalAlignment: TextInput.AlignVCenter
     clip: true
-    text: control.text
     font: control.font.drawn(textScale)
     color: control.textColor.drawn(Traits.dark)
     selectionColor: Qt.alpha(Traits.accentColor, 0.3)
@@ -32,14 +38,10 @@ TextInput {
     Keys.onEnterPressed: event => event.accepted = true
 
     onAccepted: control.returnPressed()
-    onTextChanged: {
-        const at = cursorPosition
-        control.edit(text)
-        if (cursorPosition !== at) // to set it ends what is being composed, and the selection
-            cursorPosition = Math.min(at, length) // where line breaks have become blanks it was moved
-    }
-    onActiveFocusChanged: if (!activeFocus)
-        ensureVisible(0)
+    onTextChanged: control.edit(text)
+    onActiveFocusChanged: ensureVisible(activeFocus ? cursorPosition : 0)
+    onControlChanged: show()
+    Component.onCompleted: show()
 
     Accessible.role: Accessible.EditableText
     Accessible.name: control.accessibilityLabel
@@ -48,6 +50,12 @@ TextInput {
     Accessible.focusable: true
     Accessible.ignored: !enabled
 
+    Connections {
+        target: root.control
+        function onChanged() {
+            root.show()
+        }
+    }
     HoverHandler { cursorShape: Qt.IBeamCursor }
     TextInputFocus { responder: root.control }
     SecretTextFilter {

@@ -27,13 +27,29 @@ Item {
         interval: 100 // a finger that stood still for that long has no speed
         onTriggered: root.speed = 0
     }
+    Connections {
+        target: root.pages
+        function onWidthChanged() {
+            drag.follow()
+        }
+    }
     DragHandler {
         id: drag
 
         property UITransitionEntryView page: null
-        /// How far the page had come when the finger took it.
-        property real presence: 1
+        /// Where the finger has the page, in points from its leading edge.
+        property real grip: 0
+        /// Whether the finger went along the edge before it went across: it scrolls.
+        property bool along: false
 
+        /// How far that point of the window is from the edge.
+        function reach(at: point): real {
+            const x = root.pages.mapFromItem(null, at).x
+            return Metrics.direction > 0 ? x : root.pages.width - x
+        }
+        function follow() {
+            page?.swipe(1 - (reach(centroid.scenePosition) - grip) / root.pages.width)
+        }
         function end(leaves: bool) {
             const swiped = page
             page = null
@@ -46,11 +62,19 @@ Item {
         target: null
         yAxis.enabled: false
         enabled: root.possible
-        dragThreshold: 10
+        dragThreshold: along ? root.pages.width : 10 // which is out of reach
+        onCentroidChanged: {
+            const x = Math.abs(centroid.scenePosition.x - centroid.scenePressPosition.x)
+            const y = Math.abs(centroid.scenePosition.y - centroid.scenePressPosition.y)
+            if (x === 0 && y === 0)
+                along = false // it has come down
+            else if (!active && y >= 10 && y >= x)
+                along = true
+        }
         onActiveChanged: {
             if (active) {
                 page = root.pages.topEntry()
-                presence = page.presence
+                grip = reach(centroid.scenePressPosition) - (1 - page.presence) * root.pages.width
                 root.speed = 0
             } else {
                 end(root.speed > 300 || page?.presence < 0.5 && root.speed > -300)
@@ -62,7 +86,7 @@ Item {
                 return
             root.speed = Metrics.direction * centroid.velocity.x
             rest.restart()
-            page?.swipe(presence - Metrics.direction * translation.x / root.pages.width)
+            follow()
         }
     }
 }

@@ -81,8 +81,10 @@ void UIControlArea::begin(const QPointF &point)
 void UIControlArea::press()
 {
     m_press.stop();
-    keepGrab(true); // from what scrolls: the touch is the control's from now on
-    QGuiApplication::inputMethod()->commit(); // as in activate()
+    if (!m_yields) {
+        keepGrab(true); // from what scrolls: the touch is the control's from now on
+        QGuiApplication::inputMethod()->commit(); // as in activate()
+    }
     if (m_receiver)
         m_receiver->beginTracking();
     if (m_receiver && !reach().contains(m_at)) // it has left while the press waited

@@ -16,6 +16,8 @@ class UIControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged FINAL)
+    /// Whether what scrolls may still take a touch that has pressed.
+    Q_PROPERTY(bool yields MEMBER m_yields FINAL)
     /// Whether to show that the control has the keyboard.
     Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
 
@@ -29,6 +31,8 @@ public:
 
     /// What a key and a screen reader's press do.
     Q_INVOKABLE void activate();
+    /// What is pressed is let go of: to lift the finger does nothing any more.
+    Q_INVOKABLE void cancel();
     /// Whether a press at `point` is the control's.
     [[nodiscard]] bool contains(const QPointF &point) const override;
 
@@ -54,11 +58,11 @@ private:
     void keepGrab(bool keep);
     void move(const QPointF &point);
     void end(const QPointF &point);
-    void cancel();
 
     QPointer<UIControl> m_receiver;
     QTimer m_press;
     QPointF m_at; // where the touch was seen last
     int m_touch = -1;
+    bool m_yields = false;
     KeyFocus m_keyFocus{*this};
 };

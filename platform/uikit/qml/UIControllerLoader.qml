@@ -11,8 +11,10 @@ Loader {
     required property bool wanted
 
     function load() {
-        if (wanted && controller && status === Loader.Null)
-            setSource(controller.viewUrl, {controller: controller})
+        if (!wanted || !controller || status !== Loader.Null)
+            return
+        controller.loadViewIfNeeded() // what draws it binds to a finished view
+        setSource(controller.viewUrl, {controller: controller})
     }
 
     focus: true

@@ -12,16 +12,15 @@ Item {
 
     implicitHeight: Math.max(Metrics.row, texts.implicitHeight + 2 * Metrics.rowMargin)
 
-    UIImagePicture {
+    UIImageViewView {
         id: image
         anchors.left: parent.left
         anchors.leftMargin: Metrics.margin
         anchors.verticalCenter: parent.verticalCenter
         width: Metrics.rowImage
         height: width
-        visible: name !== ""
-        name: root.control.imageView.image.name
-        tint: root.control.imageView.tintColor.drawn(Traits.dark)
+        visible: control.image.name !== ""
+        control: root.control.imageView
     }
     Column {
         id: texts

@@ -11,7 +11,17 @@ Item {
     readonly property UITableViewCell cell: entry.cell
     readonly property real separatorInset: Metrics.margin + (cell.imageView.image.name ? Metrics.margin + Metrics.rowImage : 0)
 
+    // The drawing stays for another cell of its kind.
+    function show() {
+        if (`${content.source}` === `${cell.viewUrl}`)
+            (content.item as Item)["control"] = cell
+        else
+            content.setSource(cell.viewUrl, {"control": cell})
+    }
+
     implicitHeight: content.implicitHeight
+    onCellChanged: show()
+    Component.onCompleted: show()
 
     Accessible.role: Accessible.ListItem
     Accessible.name: cell.accessibilityLabel
@@ -19,6 +29,12 @@ Item {
     Accessible.focusable: true
     Accessible.ignored: !cell.accessibilityLabel || !enabled
 
+    Connections {
+        target: root.entry.table
+        function onReloaded() {
+            touch.cancel() // what the finger came down on may be another row now
+        }
+    }
     Connections {
         // A handler that is only disabled would still be offered.
         target: root.cell.selects ? root.Accessible : null
@@ -41,12 +57,13 @@ Item {
             NumberAnimation { duration: 350 }
         }
     }
-    MouseArea {
+    UIPressArea {
+        id: touch
         anchors.fill: parent
-        onContainsPressChanged: root.cell.setHighlighted(containsPress)
-        onClicked: root.entry.table.chooseEntry(root.entry.index)
-        // Or a tap that soon follows one in the same place, on the screen before, would be lost.
-        onDoubleClicked: root.entry.table.chooseEntry(root.entry.index)
+        activeFocusOnTab: false
+        yields: true
+        onHighlightedChanged: root.cell.setHighlighted(highlighted)
+        onTriggered: root.entry.table.chooseEntry(root.entry.index)
 
         // In here, so that a touch beside a small control is the control's.
         Rectangle {
@@ -56,7 +73,6 @@ Item {
         Loader {
             id: content
             anchors.fill: parent
-            Component.onCompleted: setSource(root.cell.viewUrl, {"control": root.cell})
         }
     }
     Separator {

@@ -25,7 +25,7 @@ Rectangle {
         let row = focused;
         while (row && row.parent !== list.contentItem)
             row = row.parent;
-        if (focused === root)
+        if (focused === root || focused === list) // the row that had it went
             keyboard.forceActiveFocus();
         if (!row)
             return;
@@ -66,29 +66,6 @@ Rectangle {
         list: list
         current: said ? said : root
     }
-    Connections {
-        property int entry: -1
-        property real offset: 0
-        property bool hadKeyboard: false
-
-        target: root.control
-        function onReloading() {
-            entry = keyboard.topEntry();
-            offset = entry < 0 ? 0 : list.contentY - list.itemAtIndex(entry).y;
-            hadKeyboard = list.activeFocus;
-            list.isShort = false; // of a long one not every row is to be made
-        }
-        function onReloaded() {
-            list.isShort = list.count <= 60;
-            if (hadKeyboard && (!root.focused || root.focused === list))
-                keyboard.forceActiveFocus();
-            if (entry < 0 || list.count === 0)
-                return;
-            list.positionViewAtIndex(Math.min(entry, list.count - 1), ListView.Beginning);
-            list.contentY += offset;
-            list.returnToBounds();
-        }
-    }
     Loader {
         readonly property UIRefreshControl refreshControl: root.control.refreshControl
 
@@ -104,7 +81,7 @@ Rectangle {
         id: list
 
         // What is just out of sight is there for Tab and for screen readers; of a short table all is.
-        property bool isShort: false
+        readonly property bool isShort: root.control.entries.count <= 60
 
         displayMarginBeginning: isShort ? 10000 : 200
         displayMarginEnd: displayMarginBeginning
@@ -127,7 +104,6 @@ Rectangle {
             root.revealSoon()
         }
         onHeightChanged: root.revealSoon()
-        Component.onCompleted: isShort = count <= 60
     }
     FocusRing {
         parent: list.currentItem

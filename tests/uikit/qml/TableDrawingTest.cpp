@@ -21,6 +21,13 @@ struct Subtitle {
     int detailLines;
 };
 
+/// What is done to a table of a hundred rows, and how often its second row is chosen then.
+struct Touch {
+    const char *name;
+    std::function<void()> run;
+    int chosen;
+};
+
 } // namespace
 
 /// Tables in a real window.
@@ -63,6 +70,7 @@ private Q_SLOTS:
         QCOMPARE(separator(1)->x(), 16); // between rows
         QCOMPARE(separator(2)->x(), 16 + 29 + 16); // after an image
         QCOMPARE(separator(3)->x(), 0); // at the end of a section
+        QCOMPARE(window().grabWindow().pixelColor(22, 102).name(), u"#ff0000"_s); // no template
         QCOMPARE(separator(1)->y() + separator(1)->height(), 44);
 
         m_fixture->application.traits().setOverride(UIAppearance{.textScale = 2});
@@ -133,6 +141,60 @@ private Q_SLOTS:
         }
     }
 
+    void rowsActWhenLetGoOf_data()
+    {
+        using Finger = WindowDriver::Finger;
+        const auto tap = [this] { WindowDriver::tap(window(), second()); };
+        const auto scroll = [this] {
+            Finger finger(window(), second());
+            finger.move(second() - QPoint(0, 30));
+            finger.lift();
+        };
+        const auto hold = [this](const std::function<void(Finger &)> &meanwhile) {
+            Finger finger(window(), second());
+            QTRY_VERIFY(cell(2)->isHighlighted());
+            meanwhile(finger);
+            QVERIFY(!cell(2)->isHighlighted());
+            finger.lift();
+        };
+        const auto present = [this](const std::shared_ptr<UIViewController> &controller) {
+            m_table->presentViewController(controller, true);
+        };
+        addCases<Touch>({
+            {"a tap", tap, 1},
+            {"two quick taps", [=] { tap(), tap(); }, 2},
+            {"a double click",
+             [this] { QTest::mouseDClick(&window(), Qt::LeftButton, {}, second()); }, 2},
+            {"two quick scrolls", [=] { scroll(), scroll(); }, 0},
+            {"a tap and at once a scroll", [=] { tap(), scroll(); }, 1},
+            {"held, then scrolled",
+             [=, this] { hold([this](Finger &finger) { finger.move(second() - QPoint(0, 30)); }); },
+             0},
+            {"held through a reload",
+             [=, this] { hold([this](Finger &) { m_table->tableView()->reloadData(); }); }, 0},
+            {"held while an alert comes",
+             [=] { hold([=](Finger &) { present(make<UIAlertController>(u""_s, u""_s)); }); }, 0},
+            {"two fingers on rows that present",
+             [=, this] {
+                 m_table->whenChosen = [present] { present(make<TestPage>()); };
+                 auto fingers = QTest::touchEvent(&window(), WindowDriver::screen(), false);
+                 const QPoint other = WindowDriver::centre(item(4));
+                 fingers.press(0, second()).press(1, other).commit();
+                 fingers.release(0, second()).release(1, other).commit();
+             },
+             1},
+        });
+    }
+
+    void rowsActWhenLetGoOf()
+    {
+        const Touch &touch = currentCase<Touch>();
+        show({100});
+        touch.run();
+        QCOMPARE(m_table->chosen,
+                 std::vector<NSIndexPath>(static_cast<std::size_t>(touch.chosen), {0, 1}));
+    }
+
     void aPressedRowAndTheChosenOneAreMarked()
     {
         show({100});
@@ -145,7 +207,7 @@ private Q_SLOTS:
             return entries;
         };
         QTest::mousePress(&window(), Qt::LeftButton, {}, second());
-        QCOMPARE(marked(), QList{2});
+        QTRY_COMPARE(marked(), QList{2});
         QTest::mouseMove(&window(), second() + QPoint(0, 100));
         QTest::mouseRelease(&window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
         QTRY_VERIFY(marked().isEmpty());
@@ -172,7 +234,7 @@ private Q_SLOTS:
             QVERIFY2(SampleCell::living < 40, "rows are made before they are seen");
             for (int page = 0; page < 20; ++page)
                 keys({Qt::Key_PageDown});
-            QTRY_VERIFY(SampleCell::living < (anew ? 120 : 80));
+            QTRY_VERIFY(SampleCell::living < (anew ? 60 : 80));
         }
         keys({Qt::Key_End});
         QCOMPARE(cell(100000)->textLabel()->text(), u"Row 0.99999"_s);
@@ -230,19 +292,59 @@ private Q_SLOTS:
 
     void aReloadKeepsThePlace()
     {
-        for (const int rows : {100, 200, 3, 0}) {
-            show({100});
-            const auto offset = [this] { return list()->property("contentY").toDouble(); };
+        for (const auto &[before, after] : {std::pair(100, 100), {100, 200}, {100, 3}, {100, 0}}) {
+            show({before});
             list()->setProperty("contentY", 1000);
-            const double place = item(25)->y() - offset();
-            m_table->rows = {rows};
+            m_table->rows = {after};
             m_table->tableView()->reloadData();
             window().grabWindow();
-            QTRY_COMPARE(offset(), rows < 100 ? item(0)->y() : item(25)->y() - place);
-            for (int i = 1; i <= rows && item(i); ++i)
+            QTRY_COMPARE(offset(), after < 100 ? item(0)->y() : 1000);
+            for (int i = 1; i <= after && item(i); ++i)
                 QVERIFY(cell(i)->preparations > 0);
             QVERIFY(SampleCell::living < 80);
         }
+    }
+
+    void aReloadLeavesTheFingerAlone()
+    {
+        show({2000});
+        list()->setProperty("contentY", 2000);
+        WindowDriver::Finger finger(window(), {200, 700});
+        finger.move({200, 400});
+        const double before = offset();
+        QVERIFY(before > 2200);
+        m_table->rows = {1990};
+        m_table->tableView()->reloadData();
+        window().grabWindow();
+        QCOMPARE(offset(), before);
+        finger.move({200, 300});
+        QVERIFY2(qAbs(offset() - before - 100) < 25, "the finger has lost it");
+        finger.lift();
+        QVERIFY(list()->property("flicking").toBool());
+        m_table->tableView()->reloadData();
+        window().grabWindow();
+        QVERIFY2(list()->property("flicking").toBool(), "it stops");
+        QVERIFY(offset() >= before + 100);
+    }
+
+    void aReloadLeavesTheKeyboardWithItsRow()
+    {
+        show({40, 30});
+        keys({Qt::Key_Home, Qt::Key_Down});
+        const QPointer<QQuickItem> label = WindowDriver::named(item(2), u"textLabel"_s);
+        m_table->rows = {50, 2000};
+        m_table->tableView()->reloadData();
+        window().grabWindow();
+        QVERIFY2(SampleCell::living < 80, "all of a long one are made");
+        keys({Qt::Key_Return});
+        QVERIFY2(label, "a screen reader loses its place");
+        keys({Qt::Key_End, Qt::Key_Return});
+        m_table->rows = {3, 2};
+        m_table->tableView()->reloadData();
+        window().grabWindow();
+        keys({Qt::Key_End, Qt::Key_Return});
+        QCOMPARE(m_table->chosen, (std::vector<NSIndexPath>{{0, 1}, {1, 1999}, {1, 1}}));
+        QCOMPARE(cell(7)->textLabel()->text(), u"Row 1.1"_s);
     }
 
 private:
@@ -259,6 +361,7 @@ private:
 
     [[nodiscard]] QQuickView &window() const { return m_fixture->host->view(); }
     [[nodiscard]] QQuickItem *list() const { return m_fixture->named(u"list"_s); }
+    [[nodiscard]] double offset() const { return list()->property("contentY").toDouble(); }
     [[nodiscard]] QQuickItem *item(int entry) const
     {
         QQuickItem *found = nullptr;

@@ -123,6 +123,32 @@ private Q_SLOTS:
         QCOMPARE(log.take(), u"changed return changed"_s);
     }
 
+    void linesPastedInOneMayBeTakenBack()
+    {
+        Stage stage;
+        EventLog log(stage.name);
+        QGuiApplication::clipboard()->setText(u"1\n2\u20283"_s);
+        for (const Qt::Key key : {Qt::Key_V, Qt::Key_Z, Qt::Key_V, Qt::Key_Z, Qt::Key_Y}) {
+            stage.key(key, Qt::ControlModifier);
+            QCOMPARE(stage.name.text().value(),
+                     key == Qt::Key_Z ? u"one two three"_s : u"one two three1 2 3"_s);
+        }
+        QCOMPARE(log.take(), u"changed changed changed changed changed"_s);
+    }
+
+    void theMarkIsInSightWheneverAFieldHasTheKeyboard()
+    {
+        Stage stage;
+        stage.name.setText(u"many words "_s.repeated(9));
+        stage.key(Qt::Key_End);
+        const QQuickItem *editor = stage.window.activeFocusItem();
+        for (const bool away : {false, true, false}) {
+            stage.item("page")->setEnabled(!away); // an alert comes and goes
+            const QRectF mark = editor->property("cursorRectangle").toRectF();
+            QCOMPARE(mark.left() <= editor->width(), !away);
+        }
+    }
+
     void secretsStaySecret()
     {
         Stage stage;

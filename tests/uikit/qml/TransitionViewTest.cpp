@@ -4,6 +4,7 @@
 #include "platform/uikit/UINavigationItem.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
+#include "tests/uikit/SampleTable.h"
 #include "tests/uikit/qml/WindowFixture.h"
 
 #include <QGuiApplication>
@@ -148,6 +149,64 @@ private Q_SLOTS:
         alert->dismissViewControllerAnimated(true);
         stage.settle();
         QCOMPARE(swipe(), u"Root"_s);
+    }
+
+    // Whatever way it goes on.
+    void aScrollFromTheEdgeStaysOne_data()
+    {
+        addCases<std::tuple<const char *, QPoint, bool>>({
+            {"more along than across", {100, 150}, true},
+            {"more across than along", {150, 100}, false},
+        });
+    }
+
+    void aScrollFromTheEdgeStaysOne()
+    {
+        const auto &[name, way, scrolls] = currentCase<std::tuple<const char *, QPoint, bool>>();
+        Stage stage;
+        const auto table = make<SampleTable>(std::vector{100});
+        stage.navigation->pushViewController(table, false);
+        const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+        const auto offset = [&] { return stage.named(u"list"_s)->property("contentY").toInt(); };
+        for (int i = 0; i < 2; ++i) {
+            WindowDriver::Finger finger(stage.host->view(), {10, 500});
+            finger.move(QPoint(10, 500) + QPoint(way.x(), -way.y()));
+            finger.move(finger.at() + QPoint(50, 0));
+            QTRY_COMPARE(page->x() > 50, !scrolls);
+            QTRY_COMPARE(offset() > 50, scrolls);
+            finger.move({0, 500});
+            QTest::qWait(150);
+            finger.lift();
+            stage.settle();
+            QCOMPARE(stage.navigation->topViewController(), table.get());
+        }
+    }
+
+    void aSwipedPageStaysUnderTheFinger()
+    {
+        for (const bool mirrored : {false, true}) {
+            QGuiApplication::setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+            Stage stage;
+            stage.navigation->pushViewController(make<TestPage>(u"Page"_s), false);
+            const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+            QQuickView &view = stage.host->view();
+            const auto at = [&](int x) { return QPoint(mirrored ? view.width() - x : x, 400); };
+            const auto away = [&] { return qRound(qAbs(page->x())); };
+            WindowDriver::Finger finger(view, at(10));
+            finger.move(at(150));
+            QTRY_COMPARE(away(), 140);
+            for (const int width : {800, 320}) {
+                view.resize(width, 600);
+                QTRY_COMPARE(page->width(), width);
+                if (!mirrored) // the edge itself moves
+                    QCOMPARE(away(), 140);
+                finger.move(at(170));
+                QTRY_COMPARE(away(), 160);
+                finger.move(at(150));
+                QTRY_COMPARE(away(), 140);
+            }
+            finger.lift();
+        }
     }
 
     // A page goes while it comes; another follows; a modal comes over both and goes while it comes.

@@ -1,0 +1,55 @@
+# SPDX-FileCopyrightText: 2026 The WZT Companion authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# ./dev package: a source package of what is here, and the Debian packages built from it alone.
+
+packaging=(build-essential debhelper dpkg-dev git librsvg2-bin lintian pkgconf)
+
+# tracked_sources: the files that git tracks, as they are now, each ended by a null character.
+tracked_sources() {
+    LC_ALL=C comm -z -23 <(git ls-files -z) <(git ls-files -z --deleted)
+}
+
+# archive_sources FILE TOP: the same files make the same archive, whoever makes it.
+archive_sources() {
+    tracked_sources | tar --create --xz --file="$1" --null --verbatim-files-from --files-from=- \
+        --transform="s,^,$2/," --owner=0 --group=0 --numeric-owner --mode=u=rwX,go=rX \
+        --mtime="$(git log -1 --format=@%ct)"
+}
+
+verb_package() {
+    local arch=native version made=$root/build/package constants=() cross=()
+    local packages=("${packaging[@]}" "${tools[@]}" "${libraries[@]}")
+    while (($#)); do
+        case $1 in
+        --arch)
+            arch=${2-}
+            shift
+            ;;
+        -DWZT_*=*) constants+=("$1") ;;
+        *) fail "Neither --arch ARCH nor -DWZT_CONSTANT=VALUE: $1" ;;
+        esac
+        shift || fail "For which processor? ./dev package --arch ARCH"
+    done
+    if [[ $arch != native && $arch != "$(dpkg --print-architecture)" ]]; then
+        cross=(--host-arch "$arch" --build-profiles=cross)
+        packages+=("crossbuild-essential-$arch" "pkgconf:$arch" "${libraries[@]/%/:$arch}")
+    fi
+    need "${packages[@]}"
+    git rev-parse --is-inside-work-tree >/dev/null || fail "A package is made of the files that git tracks."
+    lock_build package
+    rm -rf -- "$made"
+    mkdir -p -- "$made"
+    version=$(sed -n 's/^## \[\([0-9.]*\)\] - .*/\1/p;T;q' CHANGELOG.md)
+    archive_sources "$made/wzt-companion_$version.orig.tar.xz" "wzt-companion-$version"
+    tar --extract --file="$made/wzt-companion_$version.orig.tar.xz" --directory="$made"
+    (
+        cd -- "$made/wzt-companion-$version"
+        cmake "${constants[@]}" -P packaging/debian/MakeDebian.cmake
+        dpkg-buildpackage --no-sign "${cross[@]}"
+    )
+    lintian --fail-on error,warning "$made"/*.changes
+    say "The packages:"
+    printf '%s\n' "$made"/*.deb
+}

@@ -1,0 +1,56 @@
+# SPDX-FileCopyrightText: 2026 The WZT Companion authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# Programs that ./dev starts in the background. All of them end with it, however it ends.
+
+scratch= # a temporary folder, once make_scratch was called
+
+make_scratch() {
+    scratch=$(mktemp -d) || fail "No temporary folder can be made in ${TMPDIR:-/tmp}."
+    mkdir -m 700 "$scratch/runtime"
+}
+
+running() { jobs -rp | grep -qx "$1"; }
+
+# start PROGRAM...: out of reach of Ctrl-C, without our lock, and ended even when this script is killed.
+start() { setsid setpriv --pdeathsig TERM "$@" {lock}>&- & }
+
+# The same without a display, and with nothing of this user's settings, session or proxies.
+start_apart() {
+    start env -i PATH="$PATH" HOME="$scratch" XDG_RUNTIME_DIR="$scratch/runtime" LC_ALL=C.UTF-8 TZ=Europe/Berlin \
+        QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$@"
+}
+
+# await PID TEXT FILE: until the process has written the text, or has ended, or 20 s have passed.
+await() {
+    for _ in {1..200}; do
+        ! grep -qE "$2" "$3" || return 0
+        running "$1" || return 1
+        sleep 0.1
+    done
+    return 1
+}
+
+# await_exec PID PROGRAM: until the process runs the program, or has ended.
+await_exec() {
+    until [[ /proc/$1/exe -ef $2 ]]; do
+        running "$1" || return 0
+        sleep 0.05
+    done
+}
+
+# End what was started, the last first, and nothing else.
+end_all() {
+    local pid
+    for pid in $(jobs -rp | tac); do
+        kill "$pid" 2>/dev/null || true
+        for _ in {1..50}; do
+            running "$pid" || continue 2
+            sleep 0.1
+        done
+        kill -KILL "$pid" 2>/dev/null || true
+    done
+    wait
+    [[ ! $scratch ]] || rm -rf -- "$scratch"
+}
