@@ -12,7 +12,7 @@ class WZTBusyTableViewController : public UITableViewController {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "Screens/WZTBusyTableView.qml")
-    Q_PROPERTY(UIActivityIndicatorView *activityIndicator READ activityIndicator CONSTANT)
+    Q_PROPERTY(UIActivityIndicatorView *activityIndicator READ activityIndicator CONSTANT FINAL)
 
 public:
     WZTBusyTableViewController();

@@ -23,15 +23,15 @@ class WZTLoginViewController : public UIViewController,
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "Screens/WZTLoginView.qml")
-    Q_PROPERTY(UIActivityIndicatorView *activityIndicator READ activityIndicator CONSTANT)
-    Q_PROPERTY(UIButton *forgotPasswordButton READ forgotPasswordButton CONSTANT)
-    Q_PROPERTY(UIButton *loginButton READ loginButton CONSTANT)
-    Q_PROPERTY(UIButton *registerButton READ registerButton CONSTANT)
-    Q_PROPERTY(UIImageView *logoImageView READ logoImageView CONSTANT)
-    Q_PROPERTY(UILabel *headerLabel READ headerLabel CONSTANT)
-    Q_PROPERTY(UITextField *emailTextField READ emailTextField CONSTANT)
-    Q_PROPERTY(UITextField *passwordTextField READ passwordTextField CONSTANT)
-    Q_PROPERTY(UIView *formContainer READ formContainer CONSTANT)
+    Q_PROPERTY(UIActivityIndicatorView *activityIndicator READ activityIndicator CONSTANT FINAL)
+    Q_PROPERTY(UIButton *forgotPasswordButton READ forgotPasswordButton CONSTANT FINAL)
+    Q_PROPERTY(UIButton *loginButton READ loginButton CONSTANT FINAL)
+    Q_PROPERTY(UIButton *registerButton READ registerButton CONSTANT FINAL)
+    Q_PROPERTY(UIImageView *logoImageView READ logoImageView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *headerLabel READ headerLabel CONSTANT FINAL)
+    Q_PROPERTY(UITextField *emailTextField READ emailTextField CONSTANT FINAL)
+    Q_PROPERTY(UITextField *passwordTextField READ passwordTextField CONSTANT FINAL)
+    Q_PROPERTY(UIView *formContainer READ formContainer CONSTANT FINAL)
 
 public:
     [[nodiscard]] UIActivityIndicatorView *activityIndicator() { return &m_activityIndicator; }

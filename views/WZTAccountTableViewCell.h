@@ -13,17 +13,17 @@ class WZTAccountTableViewCell : public UITableViewCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a table")
     Q_CLASSINFO("view", "Views/WZTAccountTableViewCellView.qml")
-    Q_PROPERTY(UIView *cardBackgroundView READ cardBackgroundView CONSTANT)
-    Q_PROPERTY(UILabel *headerLabel READ headerLabel CONSTANT)
-    Q_PROPERTY(UIButton *editButton READ editButton CONSTANT)
-    Q_PROPERTY(UIView *dividerOneView READ dividerOneView CONSTANT)
-    Q_PROPERTY(UILabel *userNameLabel READ userNameLabel CONSTANT)
-    Q_PROPERTY(UIView *dividerTwoView READ dividerTwoView CONSTANT)
-    Q_PROPERTY(UILabel *userNameTitleLabel READ userNameTitleLabel CONSTANT)
-    Q_PROPERTY(UILabel *emailLabel READ emailLabel CONSTANT)
-    Q_PROPERTY(UIView *dividerThreeView READ dividerThreeView CONSTANT)
-    Q_PROPERTY(UILabel *emailTitleLabel READ emailTitleLabel CONSTANT)
-    Q_PROPERTY(UILabel *userSinceLabel READ userSinceLabel CONSTANT)
+    Q_PROPERTY(UIView *cardBackgroundView READ cardBackgroundView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *headerLabel READ headerLabel CONSTANT FINAL)
+    Q_PROPERTY(UIButton *editButton READ editButton CONSTANT FINAL)
+    Q_PROPERTY(UIView *dividerOneView READ dividerOneView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *userNameLabel READ userNameLabel CONSTANT FINAL)
+    Q_PROPERTY(UIView *dividerTwoView READ dividerTwoView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *userNameTitleLabel READ userNameTitleLabel CONSTANT FINAL)
+    Q_PROPERTY(UILabel *emailLabel READ emailLabel CONSTANT FINAL)
+    Q_PROPERTY(UIView *dividerThreeView READ dividerThreeView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *emailTitleLabel READ emailTitleLabel CONSTANT FINAL)
+    Q_PROPERTY(UILabel *userSinceLabel READ userSinceLabel CONSTANT FINAL)
 
 public:
     WZTAccountTableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier);

@@ -11,7 +11,7 @@ class WZTButtonTableViewCell : public UITableViewCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a table")
     Q_CLASSINFO("view", "Views/WZTButtonTableViewCellView.qml")
-    Q_PROPERTY(WZTGlossyButton *button READ button CONSTANT)
+    Q_PROPERTY(WZTGlossyButton *button READ button CONSTANT FINAL)
 
 public:
     WZTButtonTableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier);

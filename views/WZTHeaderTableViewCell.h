@@ -10,7 +10,7 @@ class WZTHeaderTableViewCell : public UITableViewCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a table")
     Q_CLASSINFO("view", "Views/WZTHeaderTableViewCellView.qml")
-    Q_PROPERTY(UIImageView *logoImageView READ logoImageView CONSTANT)
+    Q_PROPERTY(UIImageView *logoImageView READ logoImageView CONSTANT FINAL)
 
 public:
     WZTHeaderTableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier);

@@ -10,8 +10,8 @@ class WZTThanksTableViewCell : public UITableViewCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a table")
     Q_CLASSINFO("view", "Views/WZTThanksTableViewCellView.qml")
-    Q_PROPERTY(UIImageView *heartImageView READ heartImageView CONSTANT)
-    Q_PROPERTY(UILabel *thanksLabel READ thanksLabel CONSTANT)
+    Q_PROPERTY(UIImageView *heartImageView READ heartImageView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *thanksLabel READ thanksLabel CONSTANT FINAL)
 
 public:
     WZTThanksTableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier);

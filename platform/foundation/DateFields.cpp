@@ -23,7 +23,7 @@ constexpr Letter letters[] = {
 /// A text from its first character to its last.
 class Reader {
 public:
-    explicit Reader(const QString &text) : m_text(text.toUcs4()) { }
+    explicit Reader(const QString &text) : m_text(text.toUcs4()) {}
 
     [[nodiscard]] bool isAtEnd() const { return m_place == m_text.size(); }
 

@@ -13,7 +13,7 @@ constexpr qint64 day = 24LL * 60 * 60;
 std::optional<qint64> offsetAt(qint64 moment)
 {
     const auto time = time_t(moment);
-    struct tm fields { };
+    struct tm fields = {};
     return localtime_r(&time, &fields) ? std::optional(qint64(fields.tm_gmtoff)) : std::nullopt;
 }
 

@@ -8,11 +8,11 @@
 struct CALayer {
     Q_GADGET
     QML_VALUE_TYPE(caLayer)
-    Q_PROPERTY(double cornerRadius MEMBER cornerRadius)
-    Q_PROPERTY(double borderWidth MEMBER borderWidth)
-    Q_PROPERTY(UIColor borderColor MEMBER borderColor)
-    Q_PROPERTY(bool masksToBounds MEMBER masksToBounds)
-    Q_PROPERTY(QRectF bounds MEMBER bounds)
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius FINAL)
+    Q_PROPERTY(double borderWidth MEMBER borderWidth FINAL)
+    Q_PROPERTY(UIColor borderColor MEMBER borderColor FINAL)
+    Q_PROPERTY(bool masksToBounds MEMBER masksToBounds FINAL)
+    Q_PROPERTY(QRectF bounds MEMBER bounds FINAL)
 
 public:
     enum class CornerCurve { Circular, Continuous };

@@ -9,8 +9,8 @@ class UIActivityIndicatorView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(bool animating READ isAnimating NOTIFY changed)
-    Q_PROPERTY(bool hidden READ isHidden NOTIFY changed)
+    Q_PROPERTY(bool animating READ isAnimating NOTIFY changed FINAL)
+    Q_PROPERTY(bool hidden READ isHidden NOTIFY changed FINAL)
 
 public:
     enum class Style { Gray = 2 };

@@ -12,8 +12,8 @@ class UIAlertAction : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to an alert")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(Style style READ style CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(Style style READ style CONSTANT FINAL)
 
 public:
     enum class Style { Default = 0, Cancel = 1 };

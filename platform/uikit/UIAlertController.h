@@ -16,10 +16,10 @@ class UIAlertController : public UIViewController {
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
     Q_CLASSINFO("view", "UIKit/UIAlertControllerView.qml")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString message READ message CONSTANT)
-    Q_PROPERTY(QQmlListProperty<UIAlertAction> actions READ actionList CONSTANT)
-    Q_PROPERTY(QQmlListProperty<UITextField> textFields READ textFieldList CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString message READ message CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<UIAlertAction> actions READ actionList CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<UITextField> textFields READ textFieldList CONSTANT FINAL)
 
 public:
     /// `message` is empty for an alert without one.

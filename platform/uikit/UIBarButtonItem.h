@@ -17,8 +17,8 @@ class UIBarButtonItem : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(bool drawsPlus READ drawsPlus CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(bool drawsPlus READ drawsPlus CONSTANT FINAL)
 
 public:
     /// `action` is a member function of `target` that takes the item or nothing.

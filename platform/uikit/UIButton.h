@@ -11,10 +11,10 @@ class UIButton : public UIControl {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(QString title READ title NOTIFY changed)
-    Q_PROPERTY(UIColor titleColor READ titleColor NOTIFY changed)
-    Q_PROPERTY(UIFont titleFont READ titleFont NOTIFY changed)
-    Q_PROPERTY(UIEdgeInsets contentEdgeInsets READ contentEdgeInsets NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor titleColor READ titleColor NOTIFY changed FINAL)
+    Q_PROPERTY(UIFont titleFont READ titleFont NOTIFY changed FINAL)
+    Q_PROPERTY(UIEdgeInsets contentEdgeInsets READ contentEdgeInsets NOTIFY changed FINAL)
 
 public:
     [[nodiscard]] QString title() const { return m_title; }

@@ -32,7 +32,7 @@ class UIControl : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY changed)
+    Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY changed FINAL)
 
 public:
     using Action = UITargetAction<UIControl>;

@@ -8,10 +8,10 @@
 struct UIEdgeInsets {
     Q_GADGET
     QML_VALUE_TYPE(uiEdgeInsets)
-    Q_PROPERTY(double top MEMBER top)
-    Q_PROPERTY(double left MEMBER left)
-    Q_PROPERTY(double bottom MEMBER bottom)
-    Q_PROPERTY(double right MEMBER right)
+    Q_PROPERTY(double top MEMBER top FINAL)
+    Q_PROPERTY(double left MEMBER left FINAL)
+    Q_PROPERTY(double bottom MEMBER bottom FINAL)
+    Q_PROPERTY(double right MEMBER right FINAL)
 
 public:
     double top = 0;

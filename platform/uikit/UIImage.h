@@ -9,8 +9,8 @@
 class UIImage {
     Q_GADGET
     QML_VALUE_TYPE(uiImage)
-    Q_PROPERTY(QString name READ name)
-    Q_PROPERTY(bool isTemplate READ isTemplate)
+    Q_PROPERTY(QString name READ name FINAL)
+    Q_PROPERTY(bool isTemplate READ isTemplate FINAL)
 
 public:
     UIImage() = default;

@@ -11,7 +11,7 @@ class UIImageView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(UIImage image READ image NOTIFY changed)
+    Q_PROPERTY(UIImage image READ image NOTIFY changed FINAL)
 
 public:
     [[nodiscard]] UIImage image() const { return m_image; }

@@ -11,11 +11,11 @@ class UILabel : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(QString text READ text NOTIFY changed)
-    Q_PROPERTY(UIFont font READ font NOTIFY changed)
-    Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
-    Q_PROPERTY(NSTextAlignment textAlignment READ textAlignment NOTIFY changed)
-    Q_PROPERTY(int numberOfLines READ numberOfLines NOTIFY changed)
+    Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+    Q_PROPERTY(UIFont font READ font NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed FINAL)
+    Q_PROPERTY(NSTextAlignment textAlignment READ textAlignment NOTIFY changed FINAL)
+    Q_PROPERTY(int numberOfLines READ numberOfLines NOTIFY changed FINAL)
 
 public:
     /// `Natural`: where the text's line begins in the interface's direction.

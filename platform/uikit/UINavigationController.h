@@ -10,11 +10,11 @@ class UINavigationController : public UIViewController {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "UIKit/UINavigationControllerView.qml")
-    Q_PROPERTY(UITransitionStack *pages READ pages CONSTANT)
-    Q_PROPERTY(
-        UIViewController *topViewController READ topViewController NOTIFY topViewControllerChanged)
-    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY topViewControllerChanged)
-    Q_PROPERTY(QString backTitle READ backTitle NOTIFY topViewControllerChanged)
+    Q_PROPERTY(UITransitionStack *pages READ pages CONSTANT FINAL)
+    Q_PROPERTY(UIViewController *topViewController READ topViewController NOTIFY
+                   topViewControllerChanged FINAL)
+    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY topViewControllerChanged FINAL)
+    Q_PROPERTY(QString backTitle READ backTitle NOTIFY topViewControllerChanged FINAL)
 
 public:
     /// `rootViewController` is the page that stays.

@@ -9,9 +9,9 @@ class UINavigationItem : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a controller")
-    Q_PROPERTY(QString title READ title NOTIFY changed)
-    Q_PROPERTY(UIBarButtonItem *leftBarButtonItem READ leftBarButtonItem NOTIFY changed)
-    Q_PROPERTY(UIBarButtonItem *rightBarButtonItem READ rightBarButtonItem NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    Q_PROPERTY(UIBarButtonItem *leftBarButtonItem READ leftBarButtonItem NOTIFY changed FINAL)
+    Q_PROPERTY(UIBarButtonItem *rightBarButtonItem READ rightBarButtonItem NOTIFY changed FINAL)
 
 public:
     [[nodiscard]] QString title() const { return m_title; }

@@ -10,7 +10,7 @@ class UIRefreshControl : public UIControl, public std::enable_shared_from_this<U
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(bool refreshing READ isRefreshing NOTIFY changed)
+    Q_PROPERTY(bool refreshing READ isRefreshing NOTIFY changed FINAL)
 
 public:
     UIRefreshControl();

@@ -10,7 +10,7 @@ class UIResponder : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(bool firstResponder READ isFirstResponder NOTIFY firstResponderChanged)
+    Q_PROPERTY(bool firstResponder READ isFirstResponder NOTIFY firstResponderChanged FINAL)
 
 public:
     /// Only responders that answer true get the keyboard.

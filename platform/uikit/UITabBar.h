@@ -15,8 +15,8 @@ class UITabBar : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a tab bar controller")
-    Q_PROPERTY(QQmlListProperty<UITabBarItem> items READ itemList NOTIFY itemsChanged)
-    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY changed)
+    Q_PROPERTY(QQmlListProperty<UITabBarItem> items READ itemList NOTIFY itemsChanged FINAL)
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY changed FINAL)
 
 public:
     [[nodiscard]] const std::vector<UITabBarItem *> &items() const { return m_items; }

@@ -11,9 +11,9 @@ class UITabBarController : public UIViewController {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "UIKit/UITabBarControllerView.qml")
-    Q_PROPERTY(UITabBar *tabBar READ tabBar CONSTANT)
+    Q_PROPERTY(UITabBar *tabBar READ tabBar CONSTANT FINAL)
     Q_PROPERTY(QQmlListProperty<UIViewController> viewControllers READ viewControllerList NOTIFY
-                   viewControllersChanged)
+                   viewControllersChanged FINAL)
 
 public:
     UITabBarController();

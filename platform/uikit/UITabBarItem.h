@@ -11,9 +11,9 @@ class UITabBarItem : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a controller")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(UIImage image READ image CONSTANT)
-    Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(UIImage image READ image CONSTANT FINAL)
+    Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel CONSTANT FINAL)
 
 public:
     /// `title` is empty for a tab without one.

@@ -21,10 +21,10 @@ class UITableView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to its controller")
-    Q_PROPERTY(UITableViewEntries *entries READ entries CONSTANT)
-    Q_PROPERTY(bool drawsSeparators READ drawsSeparators NOTIFY changed)
-    Q_PROPERTY(UIFont sectionFont READ sectionFont CONSTANT)
-    Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed)
+    Q_PROPERTY(UITableViewEntries *entries READ entries CONSTANT FINAL)
+    Q_PROPERTY(bool drawsSeparators READ drawsSeparators NOTIFY changed FINAL)
+    Q_PROPERTY(UIFont sectionFont READ sectionFont CONSTANT FINAL)
+    Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed FINAL)
 
 public:
     explicit UITableView(UITableViewStyle style);

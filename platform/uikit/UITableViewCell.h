@@ -21,15 +21,15 @@ class UITableViewCell : public UIView {
     QML_ELEMENT
     QML_UNCREATABLE("made by a table")
     Q_CLASSINFO("view", "UIKit/UITableViewCellView.qml")
-    Q_PROPERTY(QUrl viewUrl READ viewUrl CONSTANT)
-    Q_PROPERTY(UIView *contentView READ contentView CONSTANT)
-    Q_PROPERTY(UILabel *textLabel READ textLabel CONSTANT)
-    Q_PROPERTY(UILabel *detailTextLabel READ detailTextLabel CONSTANT)
-    Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT)
-    Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT)
-    Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed)
-    Q_PROPERTY(bool selects READ selects NOTIFY changed)
-    Q_PROPERTY(bool animatesSelection READ animatesSelection NOTIFY changed)
+    Q_PROPERTY(QUrl viewUrl READ viewUrl CONSTANT FINAL)
+    Q_PROPERTY(UIView *contentView READ contentView CONSTANT FINAL)
+    Q_PROPERTY(UILabel *textLabel READ textLabel CONSTANT FINAL)
+    Q_PROPERTY(UILabel *detailTextLabel READ detailTextLabel CONSTANT FINAL)
+    Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT FINAL)
+    Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT FINAL)
+    Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed FINAL)
+    Q_PROPERTY(bool selects READ selects NOTIFY changed FINAL)
+    Q_PROPERTY(bool animatesSelection READ animatesSelection NOTIFY changed FINAL)
 
 public:
     /// A cell without `reuseIdentifier` is not reused once its row has left the screen.

@@ -14,7 +14,7 @@ class UITableViewController : public UIViewController,
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "UIKit/UITableViewControllerView.qml")
-    Q_PROPERTY(UITableView *tableView READ tableView CONSTANT)
+    Q_PROPERTY(UITableView *tableView READ tableView CONSTANT FINAL)
 
 public:
     explicit UITableViewController(UITableViewStyle style);

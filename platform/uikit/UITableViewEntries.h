@@ -24,7 +24,7 @@ class UITableViewEntries : public QAbstractListModel {
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a table")
     /// How many entries there are. Told before a reload changes it.
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)
 
 public:
     /// `cell`: null for a header or footer. `text`: of a header or footer, empty for none.

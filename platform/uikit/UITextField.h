@@ -12,16 +12,16 @@ class UITextField : public UIControl {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(QString text READ shownText NOTIFY changed)
-    Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed)
-    Q_PROPERTY(UIColor placeholderColor READ placeholderColor NOTIFY changed)
-    Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed)
-    Q_PROPERTY(UIFont font READ font NOTIFY changed)
-    Q_PROPERTY(BorderStyle borderStyle READ borderStyle NOTIFY changed)
-    Q_PROPERTY(UIColor fillColor READ fillColor NOTIFY changed)
-    Q_PROPERTY(double leftViewWidth READ leftViewWidth NOTIFY changed)
-    Q_PROPERTY(bool secureTextEntry READ isSecureTextEntry NOTIFY changed)
-    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed)
+    Q_PROPERTY(QString text READ shownText NOTIFY changed FINAL)
+    Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor placeholderColor READ placeholderColor NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor textColor READ textColor NOTIFY changed FINAL)
+    Q_PROPERTY(UIFont font READ font NOTIFY changed FINAL)
+    Q_PROPERTY(BorderStyle borderStyle READ borderStyle NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor fillColor READ fillColor NOTIFY changed FINAL)
+    Q_PROPERTY(double leftViewWidth READ leftViewWidth NOTIFY changed FINAL)
+    Q_PROPERTY(bool secureTextEntry READ isSecureTextEntry NOTIFY changed FINAL)
+    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed FINAL)
 
 public:
     enum class BorderStyle { None, RoundedRect };

@@ -10,9 +10,9 @@ class UITextView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(QString text READ text NOTIFY changed)
-    Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY changed)
-    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed)
+    Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+    Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY changed FINAL)
+    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed FINAL)
 
 public:
     /// Lines are ended by "\n".

@@ -19,26 +19,26 @@ class UITraits : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Traits)
     QML_SINGLETON
-    Q_PROPERTY(bool dark READ isDark NOTIFY changed)
-    Q_PROPERTY(double textScale READ textScale NOTIFY changed)
-    Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+    Q_PROPERTY(bool dark READ isDark NOTIFY changed FINAL)
+    Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
+    Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed FINAL)
     // Colours of what the platform itself draws, in the current style: texts stand out from all
     // that they are drawn on by 4.5 to 1 at least.
-    Q_PROPERTY(QColor labelColor READ labelColor NOTIFY changed)
-    Q_PROPERTY(QColor secondaryLabelColor READ secondaryLabelColor NOTIFY changed)
-    Q_PROPERTY(QColor placeholderColor READ placeholderColor NOTIFY changed)
-    Q_PROPERTY(QColor separatorColor READ separatorColor NOTIFY changed)
-    Q_PROPERTY(QColor accentColor READ accentColor NOTIFY changed)
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
-    Q_PROPERTY(QColor barColor READ barColor NOTIFY changed)
-    Q_PROPERTY(QColor alertColor READ alertColor NOTIFY changed)
-    Q_PROPERTY(QColor pressedAlertColor READ pressedAlertColor NOTIFY changed)
-    Q_PROPERTY(QColor unselectedTabColor READ unselectedTabColor NOTIFY changed)
+    Q_PROPERTY(QColor labelColor READ labelColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor secondaryLabelColor READ secondaryLabelColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor placeholderColor READ placeholderColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor separatorColor READ separatorColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor accentColor READ accentColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor barColor READ barColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor alertColor READ alertColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor pressedAlertColor READ pressedAlertColor NOTIFY changed FINAL)
+    Q_PROPERTY(QColor unselectedTabColor READ unselectedTabColor NOTIFY changed FINAL)
     // Fonts of the same, in the current text scale.
-    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed)
-    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed)
-    Q_PROPERTY(QFont footnoteFont READ footnoteFont NOTIFY changed)
-    Q_PROPERTY(QFont tabTitleFont READ tabTitleFont NOTIFY changed)
+    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed FINAL)
+    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed FINAL)
+    Q_PROPERTY(QFont footnoteFont READ footnoteFont NOTIFY changed FINAL)
+    Q_PROPERTY(QFont tabTitleFont READ tabTitleFont NOTIFY changed FINAL)
 
 public:
     static UITraits *create(QQmlEngine *engine, QJSEngine *scriptEngine);

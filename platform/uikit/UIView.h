@@ -20,11 +20,11 @@ class UIView : public UIResponder {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a screen")
-    Q_PROPERTY(UIColor backgroundColor READ backgroundColor NOTIFY changed)
-    Q_PROPERTY(UIColor tintColor READ tintColor NOTIFY changed)
-    Q_PROPERTY(CALayer layer READ layer NOTIFY changed)
-    Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel NOTIFY changed)
-    Q_PROPERTY(bool recognizesTaps READ recognizesTaps NOTIFY changed)
+    Q_PROPERTY(UIColor backgroundColor READ backgroundColor NOTIFY changed FINAL)
+    Q_PROPERTY(UIColor tintColor READ tintColor NOTIFY changed FINAL)
+    Q_PROPERTY(CALayer layer READ layer NOTIFY changed FINAL)
+    Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel NOTIFY changed FINAL)
+    Q_PROPERTY(bool recognizesTaps READ recognizesTaps NOTIFY changed FINAL)
 
 public:
     UIView();

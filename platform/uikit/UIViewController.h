@@ -22,9 +22,9 @@ class UIViewController : public UIResponder, public std::enable_shared_from_this
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(UIView *view READ view CONSTANT)
-    Q_PROPERTY(UINavigationItem *navigationItem READ navigationItem CONSTANT)
-    Q_PROPERTY(QUrl viewUrl READ viewUrl CONSTANT)
+    Q_PROPERTY(UIView *view READ view CONSTANT FINAL)
+    Q_PROPERTY(UINavigationItem *navigationItem READ navigationItem CONSTANT FINAL)
+    Q_PROPERTY(QUrl viewUrl READ viewUrl CONSTANT FINAL)
 
 public:
     using Completion = std::function<void()>;

@@ -9,7 +9,7 @@ class UIWindow : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(UITransitionStack *presentation READ presentation CONSTANT)
+    Q_PROPERTY(UITransitionStack *presentation READ presentation CONSTANT FINAL)
 
 public:
     UIWindow();

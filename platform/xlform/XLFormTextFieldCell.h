@@ -11,7 +11,7 @@ class XLFormTextFieldCell : public XLFormCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a form")
     Q_CLASSINFO("view", "XLForm/XLFormTextFieldCellView.qml")
-    Q_PROPERTY(UITextField *textField READ textField CONSTANT)
+    Q_PROPERTY(UITextField *textField READ textField CONSTANT FINAL)
 
 public:
     explicit XLFormTextFieldCell(XLFormRowDescriptor &row) : XLFormCell(row)

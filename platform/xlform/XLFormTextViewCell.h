@@ -11,7 +11,7 @@ class XLFormTextViewCell : public XLFormCell {
     QML_ELEMENT
     QML_UNCREATABLE("made by a form")
     Q_CLASSINFO("view", "XLForm/XLFormTextViewCellView.qml")
-    Q_PROPERTY(UITextView *textView READ textView CONSTANT)
+    Q_PROPERTY(UITextView *textView READ textView CONSTANT FINAL)
 
 public:
     explicit XLFormTextViewCell(XLFormRowDescriptor &row) : XLFormCell(row)

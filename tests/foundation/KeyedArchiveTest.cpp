@@ -131,12 +131,14 @@ private Q_SLOTS:
     /// The layout that other readers of the format count on.
     void layout()
     {
-        const auto data = archived({{u"number"_s, qint64(7)},
+        const auto data = archived({{u"number"_s, qint64(-7)},
                                     {u"name"_s, u"same"_s},
                                     {u"alias"_s, u"same"_s},
                                     {u"date"_s, NSDate{0.5}},
                                     {u"flag"_s, true}});
         QVERIFY(data && data->startsWith("bplist00"));
+        const QByteArray signedInteger = "\x13" + bigEndian(quint64(-7), 8);
+        QVERIFY(data->contains(signedInteger));
         const auto list = PropertyList::fromData(*data);
         QCOMPARE(list->item(u"$version"_s).integer(), 100000);
         QCOMPARE(list->item(u"$archiver"_s).string(), u"NSKeyedArchiver"_s);
@@ -148,7 +150,7 @@ private Q_SLOTS:
         const PropertyListNode root = object(list->item(u"$top"_s), u"root"_s);
         const PropertyListNode date = object(root, u"date"_s);
         QCOMPARE(root.item(u"flag"_s).boolean(), true);
-        QCOMPARE(object(root, u"number"_s).integer(), 7);
+        QCOMPARE(object(root, u"number"_s).integer(), -7);
         QCOMPARE(object(root, u"name"_s).string(), u"same"_s);
         QCOMPARE(root.item(u"alias"_s).uid(), root.item(u"name"_s).uid());
         QCOMPARE(date.item(u"NS.time"_s).real(), 0.5);

@@ -8,9 +8,9 @@
 class EditActions : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem *editor MEMBER m_editor REQUIRED)
+    Q_PROPERTY(QQuickItem *editor MEMBER m_editor REQUIRED FINAL)
     /// Whether the text must not leave the editor.
-    Q_PROPERTY(bool secret MEMBER m_secret)
+    Q_PROPERTY(bool secret MEMBER m_secret FINAL)
 
 public:
     /// The titles of what can be done now.

@@ -10,7 +10,7 @@
 class KeyTaker : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged)
+    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged FINAL)
 
 public:
     /// What screen readers are told to have the keyboard.

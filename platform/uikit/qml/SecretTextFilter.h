@@ -9,8 +9,8 @@
 class SecretTextFilter : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem *editor READ editor WRITE setEditor REQUIRED)
-    Q_PROPERTY(bool enabled MEMBER m_enabled)
+    Q_PROPERTY(QQuickItem *editor READ editor WRITE setEditor REQUIRED FINAL)
+    Q_PROPERTY(bool enabled MEMBER m_enabled FINAL)
 
 public:
     [[nodiscard]] QQuickItem *editor() const { return m_editor; }

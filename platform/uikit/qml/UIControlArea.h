@@ -15,11 +15,11 @@
 class UIControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged)
+    Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged FINAL)
     /// Whether what scrolls may still take a touch that has pressed.
-    Q_PROPERTY(bool yields MEMBER m_yields)
+    Q_PROPERTY(bool yields MEMBER m_yields FINAL)
     /// Whether to show that the control has the keyboard.
-    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
+    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
 
 public:
     explicit UIControlArea(QQuickItem *parent = nullptr);

@@ -13,8 +13,8 @@
 class UIFocusItem : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged)
-    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged)
+    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged FINAL)
+    Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
 
 public:
     explicit UIFocusItem(QQuickItem *parent = nullptr);

@@ -15,8 +15,8 @@ class QSvgRenderer;
 class UIImagePicture : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed REQUIRED)
-    Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY changed)
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed REQUIRED FINAL)
+    Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY changed FINAL)
 
 public:
     explicit UIImagePicture(QQuickItem *parent = nullptr);

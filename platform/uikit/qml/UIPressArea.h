@@ -9,7 +9,7 @@
 class UIPressArea : public UIControlArea {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY highlightedChanged)
+    Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY highlightedChanged FINAL)
 
 public:
     explicit UIPressArea(QQuickItem *parent = nullptr);

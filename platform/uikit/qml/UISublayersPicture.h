@@ -12,7 +12,7 @@
 class UISublayersPicture : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(UIView *view READ view WRITE setView NOTIFY viewChanged REQUIRED)
+    Q_PROPERTY(UIView *view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
 
 public:
     [[nodiscard]] UIView *view() const { return m_view; }

@@ -13,7 +13,8 @@
 class UITapArea : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(UIView *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged REQUIRED)
+    Q_PROPERTY(
+        UIView *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged REQUIRED FINAL)
 
 public:
     [[nodiscard]] UIView *receiver() const { return m_receiver; }

@@ -81,7 +81,7 @@ private Q_SLOTS:
 
     void rowsFitTheirTexts_data()
     {
-        const QString words = u"many words "_s.repeated(10);
+        const QString words = u"many words "_s.repeated(9);
         addCases<Subtitle>({
             {"a title alone", u"One"_s, {}, 0, 1, 0},
             {"both", u"One"_s, u"<b>more</b>"_s, 0, 1, 1},
