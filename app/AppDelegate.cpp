@@ -6,6 +6,7 @@
 #include "app/WZTTabBarController.h"
 #include "platform/foundation/NSKeyedArchiver.h"
 #include "platform/foundation/NSKeyedUnarchiver.h"
+#include "platform/foundation/NSLog.h"
 #include "platform/uikit/Make.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabBarItem.h"
@@ -82,10 +83,14 @@ void AppDelegate::setCurrentUser(const WZTUser &user)
     m_currentUser = user;
     const auto data =
         NSKeyedArchiver::archivedDataWithRootObject(*m_currentUser, WZTUser::className);
-    if (!data)
+    if (!data) {
+        NSLog(u"The user's record cannot be archived and is not kept."_s);
+        forgetKeptUser();
         return;
+    }
     // Where nothing can be written the user is signed in until the application ends.
-    (void)m_defaults.setObject(data, currentUserKey);
+    if (!m_defaults.setObject(data, currentUserKey))
+        forgetKeptUser();
     reloadTabs();
 }
 
@@ -102,11 +107,18 @@ void AppDelegate::reloadTabs()
 void AppDelegate::logout()
 {
     m_currentUser = std::nullopt;
-    (void)m_defaults.removeObjectForKey(currentUserKey);
+    forgetKeptUser();
     m_rootVC->tableView()->reloadData();
     m_userVC->tableView()->reloadData();
     m_tabController->setSelectedIndex(0);
     presentLogin(true);
+}
+
+// The next start must not sign in somebody who has signed out, or whom another user has replaced.
+void AppDelegate::forgetKeptUser()
+{
+    if (!m_defaults.removeObjectForKey(currentUserKey))
+        NSLog(u"The user's record cannot be removed: the next start finds it."_s);
 }
 
 void AppDelegate::presentLogin(bool animated)

@@ -12,6 +12,8 @@
 #include <QFont>
 #include <QIcon>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -28,6 +30,9 @@ QString applicationId()
 
 int &prepared(int &argc)
 {
+    // A file that may not grow any further is a write that fails, not the end of the program. A
+    // handler, for programs started from here would inherit that the signal is ignored.
+    std::signal(SIGXFSZ, [](int) {});
     Renderer::choose();
     return argc;
 }

@@ -12,6 +12,7 @@
 #include "screens/WZTRootViewController.h"
 #include "screens/WZTUserViewController.h"
 #include "service/WZTAPI.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 #include "views/UIColorEx.h"
@@ -133,8 +134,47 @@ private Q_SLOTS:
         app.launch();
         const Reloads reloads(app);
         const WZTUser broken = someUser(u"J\0o"_s);
+        QTest::ignoreMessage(QtInfoMsg, "The user's record cannot be archived and is not kept.");
         app.delegate().setCurrentUser(broken);
         QVERIFY(app.delegate().currentUser() == broken && reloads.were(0));
+        QVERIFY(!app.keptData()); // least of all somebody else's
+    }
+
+    void whereNothingCanBeWrittenTheNextStartIsSignedOut()
+    {
+        for (const bool replaces : {false, true}) {
+            TestApp app;
+            app.keepUser(someUser());
+            app.launch();
+            const Reloads reloads(app);
+            {
+                const FullDisk disk;
+                if (replaces) {
+                    app.delegate().setCurrentUser(someUser(u"Joanna"_s));
+                } else {
+                    app.delegate().logout();
+                }
+            }
+            QVERIFY(reloads.were(1));
+            QCOMPARE(app.delegate().currentUser().has_value(), replaces);
+            QVERIFY(!app.keptData());
+        }
+    }
+
+    /// The record lies where a link leads to that, for now, leads to itself.
+    void aRecordThatCannotBeRemovedIsLogged()
+    {
+        TestApp app;
+        app.keepUser(someUser());
+        app.launch();
+        const QString folder =
+            app.folder() + u'/' + QDir(app.folder()).entryList(QDir::Dirs).back();
+        QVERIFY(QFile::rename(folder, folder + u".away"_s) && QFile::link(folder, folder));
+        QTest::ignoreMessage(QtInfoMsg,
+                             "The user's record cannot be removed: the next start finds it.");
+        app.delegate().logout();
+        QVERIFY(!app.delegate().currentUser() && app.top<WZTLoginViewController>());
+        QVERIFY(QFile::remove(folder) && QFile::rename(folder + u".away"_s, folder));
         QCOMPARE(app.keptData(), TestApp::archived(someUser()));
     }
 

@@ -3,9 +3,12 @@
 #include "tests/support/TestRunner.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
+
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +47,32 @@ private Q_SLOTS:
             QCOMPARE(program.readAll(), QByteArray());
             QCOMPARE(program.exitCode(), 0);
         }
+    }
+
+    /// Its log is a file that cannot grow.
+    void survivesAFullDisk()
+    {
+        const QTemporaryDir folder;
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_DEBUG_PLUGINS"_s, u"1"_s); // writes many lines
+        program.setProcessEnvironment(environment);
+        program.setStandardErrorFile(folder.filePath(u"log"_s));
+        program.setChildProcessModifier([] {
+            const rlimit none{0, 0};
+            setrlimit(RLIMIT_FSIZE, &none);
+        });
+        program.start(QStringLiteral(WZT_PROGRAM));
+        QVERIFY(program.waitForStarted());
+        const auto pid = static_cast<pid_t>(program.processId());
+        QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning
+                                     || caughtSignals(pid) >> (SIGTERM - 1) & 1,
+                                 20000);
+        QCOMPARE(program.state(), QProcess::Running);
+        kill(pid, SIGTERM);
+        QVERIFY(program.waitForFinished(5000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
     }
 };
 
