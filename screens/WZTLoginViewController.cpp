@@ -184,9 +184,12 @@ void WZTLoginViewController::registrationEnded(NSUInteger code, const std::optio
 
 void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
 {
+    // A reply to a screen that is gone comes too late: another one has signed somebody in.
+    UIViewController *presenter = presentingViewController();
+    if (!presenter)
+        return;
     if (user)
         WZTSession::shared()->setCurrentUser(*user);
     // Asked of the presenter, so that an alert opened meanwhile goes as well.
-    if (UIViewController *presenter = presentingViewController())
-        presenter->dismissViewControllerAnimated(true);
+    presenter->dismissViewControllerAnimated(true);
 }

@@ -61,7 +61,7 @@ public:
     void registerAccount(UIControl *sender);
 
     // What becomes of an operation, by its own codes: a message, the way out with or without
-    // a user, or, for a code that is none of them, nothing.
+    // a user, or nothing, for a code that is none of them and once the screen is dismissed.
     void loginEnded(NSUInteger code, const std::optional<WZTUser> &user);
     void resetEnded(NSUInteger code);
     void registrationEnded(NSUInteger code, const std::optional<WZTUser> &user);

@@ -40,10 +40,9 @@ std::optional<QString> currentEmail()
 
 // Signing out holds, and so does signing in as somebody else: a reply that was asked for with
 // another address comes too late.
-void acceptUser(const std::optional<WZTUser> &user, const std::optional<QString> &email)
+bool isSignedIn(const std::optional<QString> &email)
 {
-    if (user && WZTSession::shared()->currentUser() && email == currentEmail())
-        WZTSession::shared()->setCurrentUser(*user);
+    return WZTSession::shared()->currentUser() && email == currentEmail();
 }
 
 /// Nil for a text without a character.
@@ -119,7 +118,8 @@ void WZTUserViewController::refresh(UIControl *sender)
     const auto email = currentEmail();
     WZTAPI::userForAccount(email, [control, email](NSUInteger, const std::optional<WZTUser> &user) {
         dispatchAsyncMain([control, email, user] {
-            acceptUser(user, email);
+            if (user && isSignedIn(email))
+                WZTSession::shared()->setCurrentUser(*user);
             control->endRefreshing();
         });
     });
@@ -181,7 +181,10 @@ void WZTUserViewController::requestUpdate(const UIAlertController &alert,
 void WZTUserViewController::updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
                                         const std::optional<QString> &email)
 {
-    acceptUser(user, email);
+    if (!isSignedIn(email))
+        return;
+    if (user)
+        WZTSession::shared()->setCurrentUser(*user);
     presentMessage(*this, updateMessages, code);
 }
 

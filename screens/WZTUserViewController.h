@@ -36,8 +36,8 @@ public:
     /// Signs out at once.
     void logout(UIControl *sender);
 
-    /// What came of an update of the account of that address: takes over the user, unless somebody
-    /// else or nobody is signed in by now, and tells of it.
+    /// What came of an update of the account of that address: takes over the user and tells of it,
+    /// unless somebody else or nobody is signed in by now.
     void updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
                      const std::optional<QString> &email);
 

@@ -60,7 +60,12 @@ struct Update {
     QString alert;
 };
 
-using Leaving = std::tuple<const char *, bool, QString>;
+struct Leaving {
+    const char *name;
+    bool updates;
+    QString next;
+    QString alert;
+};
 
 } // namespace
 
@@ -142,26 +147,30 @@ private Q_SLOTS:
     void signingOutHolds_data()
     {
         addCases<Leaving>({
-            {"refresh, nobody", false, {}},
-            {"refresh, somebody else", false, u"kim@wzt.example"_s},
-            {"update, nobody", true, {}},
-            {"update, somebody else", true, u"kim@wzt.example"_s},
-            {"update, the same again", true, u"jo@wzt.example"_s},
+            {"refresh, nobody", false, {}, {}},
+            {"refresh, somebody else", false, u"kim@wzt.example"_s, {}},
+            {"update, nobody", true, {}, {}},
+            {"update, somebody else", true, u"kim@wzt.example"_s, {}},
+            {"update, the same again", true, u"jo@wzt.example"_s, updated},
         });
     }
 
     void signingOutHolds()
     {
-        const auto &[name, updates, next] = currentCase<Leaving>();
+        const auto &[name, updates, next, alert] = currentCase<Leaving>();
         Stage stage;
+        const auto screen = weak(&stage.screen());
+        const auto holders = screen.use_count();
         stage.app.service().stage(updates ? "/update.php" : "/user.php",
                                   Fault::json(another).after(100ms));
         updates ? stage.update(u"New||secret"_s) : stage.refreshControl().pull();
         stage.screen().logout(nullptr);
         if (!next.isEmpty())
             stage.app.delegate().setCurrentUser(WZTUser(1, next, u"Kim"_s));
+        // The late reply has come once it no longer keeps the screen or its spinner.
+        QTRY_COMPARE(screen.use_count(), holders);
         QTRY_VERIFY(!stage.refreshControl().isRefreshing());
-        QTRY_COMPARE(stage.app.alert(), updates ? updated : QString());
+        QCOMPARE(stage.app.alert(), alert);
         QCOMPARE(stage.app.delegate().currentUser().has_value(), !next.isEmpty());
         if (!next.isEmpty())
             QCOMPARE(stage.name(), next == u"jo@wzt.example" ? u"New"_s : u"Kim"_s);

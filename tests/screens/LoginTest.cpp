@@ -69,6 +69,13 @@ struct Ending {
     QString alert; // none for somebody who is signed in
 };
 
+struct Late {
+    const char *name;
+    const Flow *flow;
+    Fault reply;
+    bool signsOut;
+};
+
 } // namespace
 
 /// The sign-in screen's flows, from a touch to the service and back.
@@ -157,6 +164,36 @@ private Q_SLOTS:
         // The second one signs in while the first one's alert is still up: both go.
         QTRY_COMPARE(app.top<WZTTabBarController>(), app.delegate().tabController());
         QCOMPARE(app.service().requests().size(), 2);
+    }
+
+    void aReplyToAScreenThatIsGoneIsDropped_data()
+    {
+        addCases<Late>({
+            {"a sign-in, somebody signed in", &signIn, Fault::json(aUser), false},
+            {"a sign-in, signed out again", &signIn, Fault::json(aUser), true},
+            {"a registration, signed out again", &signUp, Fault::json(aUser), true},
+            {"a message", &signIn, result("Incorrect"), true},
+        });
+    }
+
+    void aReplyToAScreenThatIsGoneIsDropped()
+    {
+        const auto &[name, flow, reply, signsOut] = currentCase<Late>();
+        const WZTUser kim(7, u"kim@wzt.example"_s, u"Kim"_s);
+        TestApp app;
+        app.launch();
+        app.service().stage(flow->path, reply.after(std::chrono::milliseconds(50)));
+        flow->start(app, typed);
+        const QPointer<WZTLoginViewController> screen = &login(app);
+        screen->loginEnded(1, kim); // the reply to another tap, which is quicker
+        if (signsOut)
+            app.delegate().logout();
+        // The late reply has come once it no longer keeps the screen.
+        QTRY_VERIFY(!screen);
+        QCOMPARE(app.delegate().currentUser(), signsOut ? std::nullopt : std::optional(kim));
+        QCOMPARE(app.top<WZTLoginViewController>() != nullptr, signsOut);
+        QCOMPARE(app.alert(), QString());
+        QCOMPARE(app.service().requests().size(), 1);
     }
 };
 
