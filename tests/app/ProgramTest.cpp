@@ -106,7 +106,10 @@ private Q_SLOTS:
         program.start(QStringLiteral(WZT_PROGRAM));
         QVERIFY(program.waitForStarted());
         const auto pid = static_cast<pid_t>(program.processId());
-        QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (SIGTERM - 1) & 1, 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning
+                                     || caughtSignals(pid) >> (SIGTERM - 1) & 1,
+                                 20000);
+        QCOMPARE(program.state(), QProcess::Running);
         kill(pid, SIGTERM);
         QVERIFY(program.waitForFinished(5000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
