@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 # Cross-builds for 64-bit ARM with Debian's multiarch: the compilers of crossbuild-essential-arm64, the
-# :arm64 development packages, the build machine's own Qt tools, and QEMU to run what was built.
+# :arm64 development packages, and the build machine's own Qt tools.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 
@@ -16,5 +16,3 @@ execute_process(COMMAND dpkg-architecture -q DEB_BUILD_MULTIARCH
     OUTPUT_VARIABLE host_triplet OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 set(QT_HOST_PATH /usr CACHE PATH "where Qt's tools for this machine are")
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/${host_triplet}/cmake CACHE PATH "their CMake packages")
-
-find_program(CMAKE_CROSSCOMPILING_EMULATOR NAMES qemu-aarch64-static qemu-aarch64)
