@@ -59,10 +59,10 @@ function(wzt_module target)
     set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 endfunction()
 
-# One test program: wzt_test(test_model [WINDOW] SOURCES ... LIBS ...), run by CTest on its own HOME. One
-# that draws in a window has the label "window".
+# One test program: wzt_test(test_model [LABEL label] SOURCES ... LIBS ...), run by CTest on its own HOME.
+# Labels: "window", it draws in one; "bus", it starts a session bus.
 function(wzt_test name)
-    cmake_parse_arguments(ARG "WINDOW" "" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     wzt_common(${name})
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
@@ -75,7 +75,5 @@ function(wzt_test name)
         TIMEOUT 900
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1"
         ENVIRONMENT_MODIFICATION "DBUS_SESSION_BUS_ADDRESS=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_CACHE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;http_proxy=unset:;https_proxy=unset:;HTTP_PROXY=unset:;HTTPS_PROXY=unset:;ALL_PROXY=unset:;all_proxy=unset:")
-    if(ARG_WINDOW)
-        set_property(TEST ${name} PROPERTY LABELS window)
-    endif()
+    set_property(TEST ${name} PROPERTY LABELS ${ARG_LABEL})
 endfunction()

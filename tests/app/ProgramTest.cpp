@@ -42,6 +42,13 @@ class ProgramTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestRunner::startsPrograms()) {
+            QSKIP("No program can be started here.");
+        }
+    }
+
     void endsCleanlyWhenTold()
     {
         for (const int signalNumber : {SIGTERM, SIGINT, SIGHUP}) {

@@ -59,6 +59,13 @@ class ProgramTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!TestRunner::startsPrograms()) {
+            QSKIP("No program can be started here.");
+        }
+    }
+
     void demoAccountsAndIssuesAreMadeOnce()
     {
         const QTemporaryDir folder;

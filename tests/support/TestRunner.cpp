@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QProcess>
 #include <QTest>
 
 #include <csignal>
@@ -49,4 +50,11 @@ int TestRunner::run()
         ++classes;
     }
     return classes > 0 ? failures : 1;
+}
+
+bool TestRunner::startsPrograms()
+{
+    QProcess program;
+    program.start(QStringLiteral("true"));
+    return program.waitForFinished();
 }

@@ -22,6 +22,9 @@ void add(Maker make);
 /// Returns how many test functions failed, 0 for success; running no class at all is a failure.
 [[nodiscard]] int run();
 
+/// Whether programs can be started: not on every release of QEMU's emulation of a processor.
+[[nodiscard]] bool startsPrograms();
+
 template <class Test>
 struct Registration {
     Registration()
