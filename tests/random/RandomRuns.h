@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QStringList>
+#include <QTest>
+
+#include <functional>
+#include <span>
+
+/// Runs of random use, each of a seed of its own: as many as are asked for, from seed 1 on. With
+/// WZT_RANDOM_SECONDS they go on for that long, with WZT_RANDOM_SEED they begin there.
+namespace RandomRuns {
+
+/// `run` returns what went wrong, empty for nothing. The first fault is the last run.
+inline void each(quint32 count, const std::function<QString(quint32 seed)> &run)
+{
+    const int seconds = qEnvironmentVariableIntValue("WZT_RANDOM_SECONDS");
+    const auto first = static_cast<quint32>(qEnvironmentVariableIntValue("WZT_RANDOM_SEED"));
+    QElapsedTimer time;
+    time.start();
+    for (quint32 done = 0; seconds ? time.elapsed() < 1000 * seconds : done < count; ++done) {
+        const quint32 seed = qMax(first, 1U) + done;
+        const QString fault = run(seed);
+        if (!fault.isEmpty() || QTest::currentTestFailed())
+            QFAIL(qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(fault)));
+    }
+}
+
+/// The choices of one run.
+class Dice {
+public:
+    explicit Dice(quint32 seed) : m_generator(seed) {}
+
+    /// From 0 to one less than `end`.
+    int below(int end) { return m_generator.bounded(end); }
+    int between(int first, int last) { return m_generator.bounded(first, last + 1); }
+    /// One time in `times`.
+    bool once(int times) { return below(times) == 0; }
+    template <class List>
+    const auto &oneOf(const List &list)
+    {
+        return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];
+    }
+
+private:
+    QRandomGenerator m_generator;
+};
+
+} // namespace RandomRuns
