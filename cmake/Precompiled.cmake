@@ -21,8 +21,10 @@ if(WZT_BUILD_TESTS)
         <algorithm> <array> <chrono> <functional> <memory> <optional> <span> <vector>)
 endif()
 
+# Not for modules, whose code is made to be loaded anywhere: that setting has to be the same as well.
 function(wzt_precompiled_headers target)
-    if(TARGET wzt_precompiled)
+    get_target_property(type ${target} TYPE)
+    if(TARGET wzt_precompiled AND NOT type STREQUAL MODULE_LIBRARY)
         target_compile_options(${target} PRIVATE -pthread)
         target_precompile_headers(${target} REUSE_FROM wzt_precompiled)
     endif()
