@@ -89,6 +89,7 @@ void Tour::picture()
     const QString file = m_folder.filePath(QLatin1String(QTest::currentDataTag()) + u".png"_s);
     QVERIFY(m_folder.mkpath(QLatin1String(look->name)));
     QImage image = m_window->view().grabWindow();
+    image.setDevicePixelRatio(double(image.width()) / m_size.width());
     QPainter(&image).fillRect(0, m_size.height() - m_keyboard, m_size.width(), m_keyboard,
                               QColor(128, 128, 132));
     QVERIFY2(image.save(file), qPrintable(file));
