@@ -40,6 +40,8 @@ struct Manners {
     QLatin1StringView action = {};
 };
 
+// Only holds others. Since Qt 6.8 every delegate of a list view is one, even one to be ignored.
+constexpr quint32 filler = 20;
 constexpr quint32 application = 75;
 constexpr Manners allManners[] = {
     {2, "alert"_L1},
@@ -115,7 +117,9 @@ void ScreenReader::collect(Node node, QList<Node> &found) const
     const int actions = property(node, u"Action"_s, u"NActions"_s).toInt();
     for (int i = 0; i < actions; ++i)
         node.actions.append(call(node, u"Action"_s, u"GetName"_s, {i}).value(0).toString());
-    if (node.role != application)
+    const bool isPassedOver =
+        node.role == application || (node.role == filler && node.name.isEmpty());
+    if (!isPassedOver)
         found.append(node);
     for (const Node &child : children(node))
         collect(child, found);
