@@ -165,6 +165,7 @@ private Q_SLOTS:
     {
         addCases<std::tuple<const char *, QPoint, bool>>({
             {"more along than across", {100, 150}, true},
+            {"hardly more along than across", {110, 120}, true},
             {"more across than along", {150, 100}, false},
         });
     }
