@@ -155,6 +155,8 @@ private Q_SLOTS:
         const QRectF card = WindowDriver::rect(find(u"heart"_s)->parentItem());
         QCOMPARE(WindowDriver::rect(find(u"heart"_s)), QRectF(145, card.top(), 30, 30));
         QCOMPARE(WindowDriver::rect(find(u"thanks"_s)), card.adjusted(10, 34, -10, -4));
+        const QPoint heart = WindowDriver::centre(find(u"heart"_s));
+        QCOMPARE(stage.window->view().grabWindow().pixelColor(heart), QColor(Qt::red));
     }
 
     void theCardCutsTheFirstDivider()

@@ -32,6 +32,7 @@ class SampleTable : public UITableViewController {
 
 public:
     std::vector<int> rows;
+    QString word = QStringLiteral("Row");
     std::vector<NSIndexPath> chosen;
     std::function<void()> whenChosen = [] {};
     std::function<double(const NSIndexPath &)> height = [](const NSIndexPath &at) {
@@ -45,6 +46,10 @@ public:
     {
         tableView()->registerClass<SampleCell>(QStringLiteral("sample"));
     }
+    [[nodiscard]] QString text(const NSIndexPath &at) const
+    {
+        return QStringLiteral("%1 %2.%3").arg(word).arg(at.section).arg(at.row);
+    }
     [[nodiscard]] int numberOfSections() const override { return static_cast<int>(rows.size()); }
     [[nodiscard]] int numberOfRowsInSection(int section) const override
     {
@@ -55,7 +60,7 @@ public:
         if (makeRow)
             return makeRow();
         auto cell = tableView()->dequeueReusableCellWithIdentifier(QStringLiteral("sample"));
-        cell->textLabel()->setText(QStringLiteral("Row %1.%2").arg(at.section).arg(at.row));
+        cell->textLabel()->setText(text(at));
         if (at == NSIndexPath{0, 1})
             cell->imageView()->setImage(UIImage::imageNamed(QStringLiteral("testMark")));
         return cell;
