@@ -10,6 +10,8 @@ import UIKit
 KeyTaker {
     id: root
 
+    /// Opened the menu, closes it, and does what is chosen.
+    required property EditMenuTrigger trigger
     required property list<string> titles
     /// What the menu stands above, or below where there is no room; in the window.
     required property rect place
@@ -17,16 +19,12 @@ KeyTaker {
     readonly property real room: height - Metrics.covered(height)
     property int line: -1
 
-    signal chosen(title: string)
-    signal closed()
-
     function move(step: int) {
         line = (Math.max(line, step < 0 ? 0 : -1) + step + titles.length) % titles.length
     }
 
     anchors.fill: parent
     current: line < 0 ? card : items.itemAt(line)
-    onWidthChanged: closed() // not of the height, which an on-screen keyboard takes from
     LayoutMirroring.enabled: Metrics.direction < 0
     LayoutMirroring.childrenInherit: true
 
@@ -39,17 +37,23 @@ KeyTaker {
         if (event.isAutoRepeat)
             return // it was pressed before the menu was there
         if (chooses && line >= 0)
-            root.chosen(titles[line])
+            root.trigger.choose(titles[line])
         else if (event.key !== Qt.Key_Shift)
-            root.closed()
+            root.trigger.close()
     }
 
+    Connections {
+        target: root.parent // not its height, which an on-screen keyboard takes from
+        function onWidthChanged() {
+            root.trigger.close()
+        }
+    }
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
         hoverEnabled: true
-        onPressed: root.closed()
-        onWheel: root.closed()
+        onPressed: root.trigger.close()
+        onWheel: root.trigger.close()
     }
     Rectangle {
         id: card
@@ -88,7 +92,7 @@ KeyTaker {
                     title: modelData
                     first: index === 0
                     current: index === root.line
-                    onTriggered: root.chosen(modelData)
+                    onTriggered: root.trigger.choose(modelData)
                     Component.onCompleted: rows.widest = Math.max(rows.widest, implicitWidth)
                 }
             }

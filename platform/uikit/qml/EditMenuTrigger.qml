@@ -23,14 +23,22 @@ Item {
         const titles = actions.offered()
         if (titles.length > 0)
             menu.setSource("EditMenu.qml", {
+                "trigger": root,
                 "parent": Window.contentItem,
                 "titles": titles,
                 "place": mapToItem(null, place)
             })
     }
+    function close() {
+        menu.source = ""
+    }
+    function choose(title: string) {
+        close()
+        actions.perform(title)
+    }
 
     anchors.fill: parent
-    onEnabledChanged: menu.source = ""
+    onEnabledChanged: close()
 
     EditActions {
         id: actions
@@ -38,19 +46,9 @@ Item {
     }
     Loader { id: menu }
     Connections {
-        target: menu.item as EditMenu
-        function onClosed() {
-            menu.source = ""
-        }
-        function onChosen(title: string) {
-            menu.source = ""
-            actions.perform(title)
-        }
-    }
-    Connections {
         target: root.parent
         function onTextChanged() {
-            menu.source = "" // what it offers is no longer what can be done
+            root.close() // what it offers is no longer what can be done
         }
     }
     PointHandler {
