@@ -3,6 +3,7 @@
 #include "platform/linux/SingleInstance.h"
 
 #include <QDebug>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -84,23 +85,16 @@ SingleInstance::~SingleInstance()
 
 bool SingleInstance::claimOrHandOver(const QStringList &urls, QDeadlineTimer deadline)
 {
-    for (;;) {
-        const Claim result = claim(deadline);
-        if (result == Claim::Owner)
-            return true;
-        if (result == Claim::Refused) {
-            qInfo("The session bus does not give the name: this start is on its own.");
-            return true;
-        }
-        const QDBusError error = handOver(urls, deadline);
-        if (!error.isValid())
-            return false;
-        // The owner may end while it is being asked.
-        if (error.type() != QDBusError::ServiceUnknown || deadline.hasExpired()) {
-            qInfo("The application that runs does not answer: this start is on its own.");
-            return true;
-        }
+    const Claim claimed = claim(deadline);
+    if (claimed == Claim::OwnedByAnother && handOver(urls, deadline))
+        return false;
+    if (claimed == Claim::Refused) {
+        qInfo("The session bus does not give the name: this start is on its own.");
+    } else if (claimed == Claim::OwnedByAnother && claim(deadline) != Claim::Owner) {
+        // Unless the owner ended while it was asked.
+        qInfo("The application that runs does not answer: this start is on its own.");
     }
+    return true;
 }
 
 QDBusMessage SingleInstance::askBus(const QString &method, const QVariantList &arguments) const
@@ -127,7 +121,7 @@ SingleInstance::Claim SingleInstance::claim(QDeadlineTimer deadline)
                                                  : Claim::Refused;
 }
 
-QDBusError SingleInstance::handOver(const QStringList &urls, QDeadlineTimer deadline)
+bool SingleInstance::handOver(const QStringList &urls, QDeadlineTimer deadline)
 {
     const bool open = !urls.isEmpty();
     QDBusMessage message = QDBusMessage::createMethodCall(
@@ -136,7 +130,8 @@ QDBusError SingleInstance::handOver(const QStringList &urls, QDeadlineTimer dead
         message << urls;
     message << platformDataFromEnvironment();
     message.setAutoStartService(false);
-    return QDBusError(m_bus.call(message, QDBus::Block, int(deadline.remainingTime())));
+    return m_bus.call(message, QDBus::Block, int(deadline.remainingTime())).type()
+        == QDBusMessage::ReplyMessage;
 }
 
 void SingleInstance::Activate(const QVariantMap &platformData)
@@ -153,7 +148,8 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
     trimMemorySoon();
 }
 
-// A call may be long, and the allocator keeps what it once had. After this one has been let go.
+// A call may be long, and the allocator keeps what it once had. Once the bus connection's own
+// thread has let go of it as well.
 void SingleInstance::trimMemorySoon()
 {
     if (std::exchange(m_trimming, true))
@@ -162,7 +158,7 @@ void SingleInstance::trimMemorySoon()
         m_trimming = false;
         malloc_trim(0);
     };
-    QMetaObject::invokeMethod(this, trim, Qt::QueuedConnection);
+    QTimer::singleShot(std::chrono::seconds(1), this, trim);
 }
 
 // The desktop entry has no actions: whoever asks for one gets the application.

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusError>
 #include <QDBusMessage>
 #include <QDeadlineTimer>
 #include <QObject>
@@ -42,8 +41,8 @@ public Q_SLOTS:
 private:
     enum class Claim { Owner, OwnedByAnother, Refused };
     [[nodiscard]] Claim claim(QDeadlineTimer deadline);
-    /// The error if the owner did not take it.
-    [[nodiscard]] QDBusError handOver(const QStringList &urls, QDeadlineTimer deadline);
+    /// Whether the owner has answered.
+    [[nodiscard]] bool handOver(const QStringList &urls, QDeadlineTimer deadline);
     [[nodiscard]] QDBusMessage askBus(const QString &method, const QVariantList &arguments) const;
 
     void trimMemorySoon();

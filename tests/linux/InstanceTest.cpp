@@ -3,6 +3,7 @@
 #include "model/BuildConstants.h"
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
+#include "tests/support/MuteSocket.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDBusArgument>
@@ -10,10 +11,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,18 +29,6 @@ QByteArray start(const QStringList &urls, const QProcessEnvironment &environment
     process.start(QCoreApplication::applicationFilePath(), QStringList{u"--start"_s, name} + urls);
     [&] { QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 20000); }();
     return process.readAll();
-}
-
-/// A socket that connections can be made to; nobody ever answers them. Negative for none.
-int muteSocket(const QByteArray &path)
-{
-    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-    qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
-    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const bool listens =
-        bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0
-        && listen(descriptor, 5) == 0;
-    return listens ? descriptor : -1;
 }
 
 /// The memory of this process, in pages.
@@ -116,8 +101,7 @@ private Q_SLOTS:
     {
         const QString home = QDir::homePath();
         const QByteArray muteAddress = "unix:path=" + home.toUtf8() + "/mute%20bus";
-        const int mute = muteSocket(home.toUtf8() + "/mute bus");
-        QVERIFY(mute >= 0);
+        const MuteSocket mute(home.toUtf8() + "/mute bus");
         // It has the name and knows none of the calls.
         const FakeService stranger(u"example.wzt-test.Stranger"_s, u"/elsewhere"_s, {});
         const std::pair<QString, QByteArray> rows[] = {
@@ -133,7 +117,6 @@ private Q_SLOTS:
             const QByteArray output = start({}, environment, name);
             QVERIFY2(output.endsWith("only\n") && output.count('\n') == 2, output.constData());
         }
-        close(mute);
     }
 
     void keepsNothingOfWhatItIsSent()
