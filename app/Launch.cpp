@@ -40,8 +40,9 @@ int &prepared(int &argc)
 } // namespace
 
 Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
-    : m_application(prepared(argc), argv),
-      m_host(applicationId()),
+    : m_patienceLeft(LinuxHost::prepare()),
+      m_application(prepared(argc), argv),
+      m_host(applicationId(), m_patienceLeft),
       m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
     QGuiApplication::setApplicationName(applicationId());

@@ -43,6 +43,12 @@ void WZTLoginViewController::viewWillAppear(bool animated)
     m_emailTextField.becomeFirstResponder();
 }
 
+void WZTLoginViewController::viewDidLeave()
+{
+    UIViewController::viewDidLeave();
+    m_passwordTextField.erase();
+}
+
 void WZTLoginViewController::buildForm()
 {
     m_formContainer.setBackgroundColor(AdaptiveColors::cardBackground());

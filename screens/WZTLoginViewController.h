@@ -50,6 +50,8 @@ public:
     void viewDidLoad() override;
     /// Puts the keyboard into the e-mail field, at every appearance.
     void viewWillAppear(bool animated) override;
+    /// Forgets the password.
+    void viewDidLeave() override;
 
     /// A tap anywhere: takes the keyboard from the e-mail field, or else from the password field.
     void handleSingleTap(UITapGestureRecognizer *sender);

@@ -4,12 +4,13 @@
 
 #include <QCryptographicHash>
 
+#include <cstring>
+
 QString SHA256(const QString &text)
 {
     QByteArray bytes = text.toUtf8();
-    const qsizetype end = bytes.indexOf('\0');
-    if (end >= 0)
-        bytes.truncate(end);
-    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    const QByteArray digest =
+        QCryptographicHash::hash(QByteArrayView(bytes.constData()), QCryptographicHash::Sha256);
+    explicit_bzero(bytes.data(), size_t(bytes.size()));
     return QString::fromLatin1(digest.toHex());
 }

@@ -88,7 +88,6 @@ rules() {
     never '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
     never '^(?!platform/uikit/qml/|tests/|bench/|app/).*\.(h|cpp)$' '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     wrapped 'curl/' 'libcurl'
-    wrapped 'plist/' 'libplist'
     wrapped 'gio/' 'GIO'
     wrapped 'unicode/' 'ICU'
     wrapped 'boost/beast' 'Boost.Beast'

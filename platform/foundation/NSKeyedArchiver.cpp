@@ -26,25 +26,21 @@ public:
             const auto *boolean = std::get_if<bool>(&*value);
             m_objects[root].insert(value.key(),
                                    boolean ? PropertyList(*boolean)
-                                           : PropertyList::uid(referenceTo(*value)));
+                                           : PropertyList::reference(referenceTo(*value)));
         }
         setClass(root, className);
         return root;
     }
 
-    [[nodiscard]] PropertyList take()
+    [[nodiscard]] PropertyList list() const
     {
-        PropertyList array = PropertyList::array();
-        for (PropertyList &object : m_objects) {
-            array.append(std::move(object));
-        }
-        return array;
+        return {PropertyList::Type::Array, {}, {m_objects.begin(), m_objects.end()}};
     }
 
 private:
-    quint64 add(PropertyList object)
+    quint64 add(const PropertyList &object)
     {
-        m_objects.push_back(std::move(object));
+        m_objects.push_back(object);
         return m_objects.size() - 1;
     }
 
@@ -99,7 +95,7 @@ private:
             description.insert(u"$classes"_s, std::move(classes));
             known = m_classes.emplace(known, className, add(std::move(description)));
         }
-        m_objects[index].insert(u"$class"_s, PropertyList::uid(known->second));
+        m_objects[index].insert(u"$class"_s, PropertyList::reference(known->second));
     }
 
     /// A deque: objects stay where they are while others are added.
@@ -111,7 +107,7 @@ private:
 bool isStorable(const NSCoder::Value &value)
 {
     const auto *text = std::get_if<QString>(&value);
-    return !text || (text->isValidUtf16() && !text->contains(QChar(u'\0')));
+    return !text || text->isValidUtf16();
 }
 
 } // namespace
@@ -124,12 +120,12 @@ std::optional<QByteArray> NSKeyedArchiver::archivedDataWithCoder(const NSCoder &
     }
     ObjectList objects;
     PropertyList top = PropertyList::dictionary();
-    top.insert(u"root"_s, PropertyList::uid(objects.addRoot(coder, className)));
+    top.insert(u"root"_s, PropertyList::reference(objects.addRoot(coder, className)));
 
     PropertyList archive = PropertyList::dictionary();
     archive.insert(u"$version"_s, PropertyList(qint64(100000)));
     archive.insert(u"$archiver"_s, PropertyList(u"NSKeyedArchiver"_s));
     archive.insert(u"$top"_s, std::move(top));
-    archive.insert(u"$objects"_s, objects.take());
+    archive.insert(u"$objects"_s, objects.list());
     return archive.toData();
 }

@@ -11,7 +11,7 @@
 namespace NSKeyedArchiver {
 
 /// The archive of an object of class `className` with the values of `coder`. Equal objects are
-/// stored once. Nil when a text cannot be stored: one with a null character, or no valid Unicode.
+/// stored once. Nil when a text is no valid Unicode.
 [[nodiscard]] std::optional<QByteArray> archivedDataWithCoder(const NSCoder &coder,
                                                               const QString &className);
 

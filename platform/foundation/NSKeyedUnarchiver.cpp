@@ -5,6 +5,8 @@
 #include "platform/foundation/PropertyList.h"
 #include "platform/foundation/UTF8Reading.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <array>
 
@@ -15,7 +17,7 @@ namespace {
 using Value = NSCoder::Value;
 
 /// What stands for itself: a text, a number, a boolean, a date; anything else is nil.
-Value plainValue(const PropertyListNode &node)
+Value plainValue(const PropertyList &node)
 {
     if (const auto text = node.string()) {
         return *text == "$null"_L1 ? Value() : Value(*text);
@@ -33,13 +35,13 @@ Value plainValue(const PropertyListNode &node)
     return date ? Value(*date) : Value();
 }
 
-std::optional<double> asDouble(const PropertyListNode &node)
+std::optional<double> asDouble(const PropertyList &node)
 {
     const auto number = node.integer();
     return number ? std::optional(double(*number)) : node.real();
 }
 
-Value textOf(const PropertyListNode &object)
+Value textOf(const PropertyList &object)
 {
     if (const auto text = object.item(u"NS.string"_s).string()) {
         return *text;
@@ -48,7 +50,7 @@ Value textOf(const PropertyListNode &object)
     return bytes ? Value(textFromUTF8(*bytes)) : Value();
 }
 
-Value numberOf(const PropertyListNode &object)
+Value numberOf(const PropertyList &object)
 {
     for (const QString &key : {u"NS.number"_s, u"NS.intval"_s, u"NS.dblval"_s, u"NS.boolval"_s}) {
         const Value value = plainValue(object.item(key));
@@ -59,7 +61,7 @@ Value numberOf(const PropertyListNode &object)
     return {};
 }
 
-Value dateOf(const PropertyListNode &object)
+Value dateOf(const PropertyList &object)
 {
     const auto time = asDouble(object.item(u"NS.time"_s));
     return time ? Value(NSDate{*time}) : Value();
@@ -68,7 +70,7 @@ Value dateOf(const PropertyListNode &object)
 /// Classes whose objects are values that a record can hold.
 struct ReaderRow {
     QLatin1StringView className;
-    Value (*read)(const PropertyListNode &object);
+    Value (*read)(const PropertyList &object);
 };
 constexpr std::array readerTable{
     ReaderRow{"NSDate"_L1, dateOf},
@@ -90,9 +92,9 @@ public:
             && m_list.item(u"$archiver"_s).string();
     }
 
-    [[nodiscard]] std::optional<NSCoder> root(const QString &className) const
+    [[nodiscard]] std::optional<NSCoder> root(const QString &className)
     {
-        const PropertyListNode object = referred(m_list.item(u"$top"_s).item(u"root"_s).uid());
+        const PropertyList object = referred(m_list.item(u"$top"_s).item(u"root"_s).uid());
         if (!object.isDictionary() || !isOfClass(object, className)) {
             return std::nullopt;
         }
@@ -101,49 +103,56 @@ public:
 
 private:
     /// Nothing for what is no reference, or one to nowhere.
-    [[nodiscard]] PropertyListNode referred(std::optional<quint64> uid) const
+    [[nodiscard]] PropertyList referred(std::optional<quint64> uid) const
     {
         const bool exists = uid && *uid < quint64(m_objects.size());
-        return exists ? m_objects[qsizetype(*uid)] : PropertyListNode();
+        return exists ? m_objects[qsizetype(*uid)] : PropertyList();
     }
 
     /// The description of an object's class, or nothing.
-    [[nodiscard]] PropertyListNode classOf(const PropertyListNode &object) const
+    [[nodiscard]] PropertyList classOf(const PropertyList &object) const
     {
         return referred(object.item(u"$class"_s).uid());
     }
 
-    [[nodiscard]] bool isOfClass(const PropertyListNode &object, const QString &className) const
+    [[nodiscard]] bool isOfClass(const PropertyList &object, const QString &className) const
     {
-        const PropertyListNode description = classOf(object);
+        const PropertyList description = classOf(object);
         if (description.item(u"$classname"_s).string() == className) {
             return true;
         }
-        const QList<PropertyListNode> classes = description.item(u"$classes"_s).elements();
-        return std::any_of(classes.begin(), classes.end(), [&](const PropertyListNode &name) {
-            return name.string() == className;
-        });
+        const QList<PropertyList> classes = description.item(u"$classes"_s).elements();
+        return std::any_of(classes.begin(), classes.end(),
+                           [&](const PropertyList &name) { return name.string() == className; });
     }
 
-    [[nodiscard]] std::optional<NSCoder> values(const PropertyListNode &object) const
+    [[nodiscard]] std::optional<NSCoder> values(const PropertyList &object)
     {
         NSCoder coder;
-        const QMap<QString, PropertyListNode> items = object.items();
+        const QMap<QString, PropertyList> items = object.itemsByKey();
         for (auto item = items.begin(); item != items.end(); ++item) {
             const auto uid = item->uid();
-            const PropertyListNode target = referred(uid);
-            if (uid && !target.isPresent()) {
+            if (uid && !referred(uid).isPresent()) {
                 return std::nullopt;
             }
             if (item.key() != "$class"_L1) {
-                coder.encodeValue(uid ? valueOf(target) : plainValue(*item), item.key());
+                coder.encodeValue(uid ? valueAt(*uid) : plainValue(*item), item.key());
             }
         }
         return coder;
     }
 
+    /// Each object is decoded once, however often it is referred to.
+    [[nodiscard]] Value valueAt(quint64 uid)
+    {
+        const auto known = m_values.constFind(uid);
+        return known != m_values.constEnd()
+            ? *known
+            : *m_values.insert(uid, valueOf(m_objects[qsizetype(uid)]));
+    }
+
     /// Follows no reference further than to a class: a cycle is no danger.
-    [[nodiscard]] Value valueOf(const PropertyListNode &object) const
+    [[nodiscard]] Value valueOf(const PropertyList &object) const
     {
         const auto className = classOf(object).item(u"$classname"_s).string();
         const auto *row =
@@ -153,7 +162,9 @@ private:
     }
 
     const PropertyList &m_list;
-    QList<PropertyListNode> m_objects;
+    QList<PropertyList> m_objects;
+    /// Decoded so far, by UID.
+    QHash<quint64, Value> m_values;
 };
 
 } // namespace

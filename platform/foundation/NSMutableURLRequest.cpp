@@ -2,7 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSMutableURLRequest.h"
 
+#include <cstring>
+
 NSMutableURLRequest NSMutableURLRequest::requestWithURL(const QByteArray &url)
 {
     return NSMutableURLRequest(url);
+}
+
+NSMutableURLRequest::~NSMutableURLRequest()
+{
+    if (m_url.isDetached()) {
+        explicit_bzero(m_url.data(), size_t(m_url.size()));
+    }
 }

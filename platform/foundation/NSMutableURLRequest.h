@@ -5,11 +5,18 @@
 #include <QByteArray>
 
 /// One request: a URL and a method. There are no header fields and no body of its own, a "POST"
-/// carries everything in its URL and sends an empty body.
+/// carries everything in its URL and sends an empty body. The URL, which may hold a digest, is
+/// overwritten when the last request with it goes.
 class NSMutableURLRequest {
 public:
     /// `url`: absolute and percent-encoded, as NSURLComponents makes it. The method is "GET".
     [[nodiscard]] static NSMutableURLRequest requestWithURL(const QByteArray &url);
+
+    ~NSMutableURLRequest();
+    NSMutableURLRequest(const NSMutableURLRequest &) = default;
+    NSMutableURLRequest(NSMutableURLRequest &&) = default;
+    NSMutableURLRequest &operator=(const NSMutableURLRequest &) = default;
+    NSMutableURLRequest &operator=(NSMutableURLRequest &&) = default;
 
     [[nodiscard]] const QByteArray &URL() const { return m_url; }
 

@@ -4,7 +4,6 @@
 
 #include "platform/foundation/PrivateFile.h"
 #include "platform/foundation/PropertyList.h"
-#include "platform/foundation/PropertyListCheck.h"
 
 #include <QStandardPaths>
 
@@ -40,11 +39,14 @@ std::optional<PropertyList> readForChange(const PrivateFile &file, const Private
     return values;
 }
 
-bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values)
+/// Writes nothing that would be refused when it is read.
+bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values,
+           const QString &key)
 {
     const QByteArray content = values.toData();
-    // What would be refused when it is read must not be written.
-    return isBoundedPropertyList(content) && file.write(lock, content);
+    const std::optional<PropertyList> readBack = PropertyList::fromData(content);
+    return readBack && readBack->item(key).data() == values.item(key).data()
+        && file.write(lock, content);
 }
 
 } // namespace
@@ -54,7 +56,7 @@ NSUserDefaults::NSUserDefaults(const QString &applicationId, const QString &fold
                   ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
                   : folder)
                  + u'/' + applicationId,
-             applicationId + ".plist"_L1)
+             applicationId + ".plist"_L1, PropertyList::maximumLength)
 {
 }
 
@@ -82,7 +84,7 @@ bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QStr
         return false;
     }
     values->insert(key, PropertyList(*data));
-    return write(m_file, lock, *values);
+    return write(m_file, lock, *values, key);
 }
 
 bool NSUserDefaults::removeObjectForKey(const QString &key)
@@ -91,7 +93,8 @@ bool NSUserDefaults::removeObjectForKey(const QString &key)
     const PrivateFile::State state = m_file.read(&content);
     const std::optional<PropertyList> values = valuesIn(state, content);
     const bool isAbsent = values && !values->item(key).isPresent();
-    return isAbsent || writeWithout(key) || m_file.remove();
+    const bool isRemoved = isAbsent || writeWithout(key) || m_file.remove();
+    return m_file.removeMovedAside() && isRemoved;
 }
 
 bool NSUserDefaults::writeWithout(const QString &key)
@@ -102,5 +105,5 @@ bool NSUserDefaults::writeWithout(const QString &key)
         return false;
     }
     values->remove(key);
-    return values->items().isEmpty() ? m_file.remove() : write(m_file, lock, *values);
+    return values->items().isEmpty() ? m_file.remove() : write(m_file, lock, *values, key);
 }

@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <thread>
 
 #include <fcntl.h>
@@ -22,8 +23,9 @@ namespace {
 
 constexpr mode_t folderMode = 0700;
 constexpr mode_t fileMode = 0600;
-constexpr int lockAttempts = 50;
+constexpr auto lockPatience = 90ms;
 constexpr auto lockPause = 10ms;
+constexpr auto asideMark = ".damaged-";
 
 bool writeAll(int descriptor, const QByteArray &content)
 {
@@ -38,22 +40,33 @@ bool writeAll(int descriptor, const QByteArray &content)
     return true;
 }
 
-bool readAll(int descriptor, QByteArray *content)
+using State = PrivateFile::State;
+
+/// Stops beyond `maximumLength`: a file may grow, and some say that they are empty.
+State readAll(int descriptor, qsizetype maximumLength, QByteArray *content)
 {
     std::array<char, 16384> buffer{};
-    for (;;) {
+    while (content->size() <= maximumLength) {
         const ssize_t length = read(descriptor, buffer.data(), buffer.size());
         if (length == 0 || (length < 0 && errno != EINTR)) {
-            return length == 0;
+            return length == 0 ? State::Read : State::Unavailable;
         }
         content->append(buffer.data(), std::max(length, ssize_t(0)));
     }
+    return State::Unreadable;
 }
 
-bool isFile(int descriptor)
+bool isFileUpTo(int descriptor, qsizetype maximumLength)
 {
     struct stat status = {};
-    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)
+        && status.st_size <= maximumLength;
+}
+
+bool isLink(const QByteArray &path)
+{
+    struct stat status = {};
+    return lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 int openFolder(const QByteArray &path)
@@ -63,44 +76,47 @@ int openFolder(const QByteArray &path)
     return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-bool lockSoon(int descriptor)
+bool lockWithin(int descriptor, std::chrono::milliseconds patience)
 {
-    for (int attempt = 0; attempt < lockAttempts; ++attempt) {
+    for (;; patience -= lockPause) {
         // A file system that knows no locks keeps nobody out, and must not keep us out either.
         if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) {
             return true;
         }
+        if (patience < lockPause) {
+            return false;
+        }
         std::this_thread::sleep_for(lockPause);
     }
-    return false;
 }
 
 } // namespace
 
 PrivateFile::Lock::Lock(const PrivateFile &file) : m_folder(openFolder(file.m_folder))
 {
-    m_held =
-        m_folder.isOpen() && fchmod(m_folder.get(), folderMode) == 0 && lockSoon(m_folder.get());
+    const bool isPrivate =
+        m_folder.isOpen() && (isLink(file.m_folder) || fchmod(m_folder.get(), folderMode) == 0);
+    m_held = isPrivate && lockWithin(m_folder.get(), file.m_patient ? lockPatience : 0ms);
+    file.m_patient = m_held || !isPrivate;
 }
 
-PrivateFile::PrivateFile(const QString &folder, const QString &name)
-    : m_folder(QFile::encodeName(folder)), m_name(QFile::encodeName(name))
+PrivateFile::PrivateFile(const QString &folder, const QString &name, qsizetype maximumLength)
+    : m_folder(QFile::encodeName(folder)),
+      m_name(QFile::encodeName(name)),
+      m_maximumLength(maximumLength)
 {
 }
 
 PrivateFile::State PrivateFile::read(QByteArray *content) const
 {
-    const QByteArray path = m_folder + '/' + m_name;
-    const FileDescriptor file(open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const FileDescriptor file(open(path().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen()) {
         const bool absent = errno == ENOENT || errno == ENOTDIR;
         const bool closed = errno == EACCES || errno == ELOOP || errno == ENXIO;
         return absent ? State::Absent : closed ? State::Unreadable : State::Unavailable;
     }
-    if (!isFile(file.get())) {
-        return State::Unreadable;
-    }
-    return readAll(file.get(), content) ? State::Read : State::Unavailable;
+    return isFileUpTo(file.get(), m_maximumLength) ? readAll(file.get(), m_maximumLength, content)
+                                                   : State::Unreadable;
 }
 
 bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
@@ -111,7 +127,7 @@ bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
     const int folder = lock.m_folder.get();
     // Always the same name, so that a killed writer leaves no more than one, and the next one
     // clears it away.
-    const QByteArray temporary = m_name + ".tmp";
+    const QByteArray temporary = temporaryName();
     unlinkat(folder, temporary.constData(), 0);
     const FileDescriptor file(
         openat(folder, temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, fileMode));
@@ -128,8 +144,10 @@ bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
 
 bool PrivateFile::remove() const
 {
-    const QByteArray path = m_folder + '/' + m_name;
-    if (unlink(path.constData()) != 0) {
+    // First: a writer that stands still would put it in the file's place.
+    const QByteArray temporary = m_folder + '/' + temporaryName();
+    unlink(temporary.constData());
+    if (unlink(path().constData()) != 0) {
         return errno == ENOENT || errno == ENOTDIR;
     }
     const FileDescriptor folder(open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -139,7 +157,7 @@ bool PrivateFile::remove() const
 
 bool PrivateFile::moveAside(const Lock &lock) const
 {
-    QByteArray place = m_folder + '/' + m_name + ".damaged-XXXXXX";
+    QByteArray place = path() + asideMark + "XXXXXX";
     if (!lock.isHeld() || !mkdtemp(place.data())) {
         return false;
     }
@@ -149,4 +167,20 @@ bool PrivateFile::moveAside(const Lock &lock) const
         return false;
     }
     return true;
+}
+
+bool PrivateFile::removeMovedAside() const
+{
+    bool removed = true;
+    const QDir folder(QFile::decodeName(m_folder));
+    const QString pattern = QFile::decodeName(m_name + asideMark) + u'*';
+    for (const QString &entry : folder.entryList({pattern}, QDir::Dirs | QDir::NoSymLinks)) {
+        const QByteArray place = QFile::encodeName(folder.filePath(entry));
+        const QByteArray file = place + '/' + m_name;
+        const bool isGone = ::remove(file.constData()) == 0 || errno == ENOENT;
+        // A folder with something in it has never been one of these files.
+        removed = removed && (isGone || errno == ENOTEMPTY);
+        rmdir(place.constData());
+    }
+    return removed;
 }

@@ -2,260 +2,191 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/PropertyList.h"
 
-#include "platform/foundation/PropertyListCheck.h"
+#include "platform/foundation/BigEndian.h"
+#include "platform/foundation/PropertyListForms.h"
 #include "platform/foundation/UTF8Reading.h"
 
 #include <QtEndian>
 
-#include <clocale>
-#include <plist/plist.h>
-
-#include <cstdlib>
+#include <algorithm>
+#include <bit>
 
 namespace {
 
-/// Property lists write decimal points, whatever the user's language; the parser asks the locale.
-class PlainLocale {
-public:
-    PlainLocale() : m_previous(uselocale(m_plain)) {}
-    ~PlainLocale()
-    {
-        uselocale(m_previous);
-        freelocale(m_plain);
-    }
-    PlainLocale(const PlainLocale &) = delete;
-    PlainLocale &operator=(const PlainLocale &) = delete;
+constexpr char falseContent = 0x08;
+constexpr char trueContent = 0x09;
 
-private:
-    locale_t m_plain = newlocale(LC_ALL_MASK, "C", nullptr);
-    locale_t m_previous;
-};
-
-#ifdef WZT_PLIST_2_3
-plist_t newInteger(qint64 value)
+/// The fewest of 1, 2, 4 and 8 bytes; 8 for a negative number.
+QByteArray integerContent(qint64 value)
 {
-    return plist_new_int(value);
-}
-void parse(const char *bytes, uint32_t length, plist_t *node)
-{
-    plist_from_memory(bytes, length, node, nullptr);
-}
-#else
-// These releases read every integer of eight bytes as signed.
-plist_t newInteger(qint64 value)
-{
-    return plist_new_uint(quint64(value));
-}
-void parse(const char *bytes, uint32_t length, plist_t *node)
-{
-    plist_from_memory(bytes, length, node);
-}
-#endif
-
-bool isOfType(plist_t node, plist_type type)
-{
-    return node && plist_get_node_type(node) == type;
+    return bigEndian(quint64(value), bytesFor(quint64(value)));
 }
 
-/// The value of a node, nil unless it is of `type`.
-template <typename Result, typename Raw>
-std::optional<Result> valueOf(plist_t node, plist_type type, void (*get)(plist_t, Raw *))
+QByteArray realContent(double value)
 {
-    if (!isOfType(node, type)) {
-        return std::nullopt;
-    }
-    Raw value{};
-    get(node, &value);
-    return Result(value);
+    return bigEndian(std::bit_cast<quint64>(value), sizeof value);
+}
+
+double realIn(const QByteArray &content)
+{
+    return content.size() == sizeof(float)
+        ? double(std::bit_cast<float>(quint32(numberIn(content))))
+        : std::bit_cast<double>(numberIn(content));
+}
+
+QByteArray utf16Content(const QString &text)
+{
+    QByteArray content(text.size() * 2, Qt::Uninitialized);
+    qToBigEndian<char16_t>(text.utf16(), text.size(), content.data());
+    return content;
+}
+
+QString utf16In(const QByteArray &content)
+{
+    QString text(content.size() / 2, Qt::Uninitialized);
+    qFromBigEndian<char16_t>(content.constData(), text.size(), text.data());
+    return text;
+}
+
+bool isAscii(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
 } // namespace
 
-bool PropertyListNode::isDictionary() const
-{
-    return isOfType(m_node, PLIST_DICT);
-}
-
-bool PropertyListNode::isArray() const
-{
-    return isOfType(m_node, PLIST_ARRAY);
-}
-
-QMap<QString, PropertyListNode> PropertyListNode::items() const
-{
-    QMap<QString, PropertyListNode> result;
-    if (!isDictionary()) {
-        return result;
-    }
-    plist_dict_iter iterator = nullptr;
-    plist_dict_new_iter(m_node, &iterator);
-    for (;;) {
-        char *key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(m_node, iterator, &key, &value);
-        if (!value) {
-            break;
-        }
-        result.insert(textFromUTF8(key), PropertyListNode(value));
-        free(key);
-    }
-    free(iterator);
-    return result;
-}
-
-QList<PropertyListNode> PropertyListNode::elements() const
-{
-    QList<PropertyListNode> result;
-    if (!isArray()) {
-        return result;
-    }
-    plist_array_iter iterator = nullptr;
-    plist_array_new_iter(m_node, &iterator);
-    for (;;) {
-        plist_t value = nullptr;
-        plist_array_next_item(m_node, iterator, &value);
-        if (!value) {
-            break;
-        }
-        result.append(PropertyListNode(value));
-    }
-    free(iterator);
-    return result;
-}
-
-PropertyListNode PropertyListNode::item(const QString &key) const
-{
-    return PropertyListNode(isDictionary() ? plist_dict_get_item(m_node, key.toUtf8().constData())
-                                           : nullptr);
-}
-
-std::optional<bool> PropertyListNode::boolean() const
-{
-    return valueOf<bool>(m_node, PLIST_BOOLEAN, plist_get_bool_val);
-}
-
-std::optional<qint64> PropertyListNode::integer() const
-{
-    return valueOf<qint64>(m_node, PLIST_UINT, plist_get_uint_val);
-}
-
-std::optional<double> PropertyListNode::real() const
-{
-    return valueOf<double>(m_node, PLIST_REAL, plist_get_real_val);
-}
-
-std::optional<QString> PropertyListNode::string() const
-{
-    uint64_t length = 0;
-    const char *text =
-        isOfType(m_node, PLIST_STRING) ? plist_get_string_ptr(m_node, &length) : nullptr;
-    return text ? std::optional(textFromUTF8({text, qsizetype(length)})) : std::nullopt;
-}
-
-std::optional<QByteArray> PropertyListNode::data() const
-{
-    if (!isOfType(m_node, PLIST_DATA)) {
-        return std::nullopt;
-    }
-    uint64_t length = 0;
-    const char *bytes = plist_get_data_ptr(m_node, &length);
-    return QByteArray(bytes, qsizetype(length));
-}
-
-std::optional<NSDate> PropertyListNode::date() const
-{
-    if (!isOfType(m_node, PLIST_DATE)) {
-        return std::nullopt;
-    }
-    // The library's getter has 32 bits for the seconds and loses the sign of a fraction. The binary
-    // form of a date alone is a header of 8 bytes, a marker and the seconds as they are.
-    constexpr qsizetype place = 9;
-    const QByteArray binary = toData();
-    return NSDate{qFromBigEndian<double>(binary.constData() + place)};
-}
-
-std::optional<quint64> PropertyListNode::uid() const
-{
-    if (isDictionary() && plist_dict_get_size(m_node) == 1) {
-        const std::optional<qint64> number = item(QStringLiteral("CF$UID")).integer();
-        return number ? std::optional(quint64(*number)) : std::nullopt;
-    }
-    return valueOf<quint64>(m_node, PLIST_UID, plist_get_uid_val);
-}
-
 std::optional<PropertyList> PropertyList::fromData(const QByteArray &data)
 {
-    if (!isBoundedPropertyList(data)) {
+    if (data.size() > maximumLength) {
         return std::nullopt;
     }
-    const PlainLocale locale;
-    plist_t node = nullptr;
-    parse(data.constData(), uint32_t(data.size()), &node);
-    return node ? std::optional(PropertyList(Adopt(), node)) : std::nullopt;
+    return PropertyListForms::isBinary(data) ? PropertyListForms::readBinary(data)
+                                             : PropertyListForms::readXML(data);
 }
 
-PropertyList PropertyList::dictionary()
+QByteArray PropertyList::toData() const
 {
-    return {Adopt(), plist_new_dict()};
+    return PropertyListForms::writeBinary(*this);
 }
 
-PropertyList PropertyList::array()
+PropertyList::PropertyList(Type type, QByteArray content, QList<PropertyList> items)
+    : m_type(type), m_content(std::move(content)), m_items(std::move(items))
 {
-    return {Adopt(), plist_new_array()};
 }
 
-PropertyList PropertyList::uid(quint64 uid)
+PropertyList::PropertyList(bool value)
+    : PropertyList(Type::Simple, QByteArray(1, value ? trueContent : falseContent))
 {
-    return {Adopt(), plist_new_uid(uid)};
 }
 
-PropertyList::PropertyList(bool value) : PropertyList(Adopt(), plist_new_bool(value ? 1 : 0)) {}
+PropertyList::PropertyList(qint64 value) : PropertyList(Type::Integer, integerContent(value)) {}
 
-PropertyList::PropertyList(qint64 value) : PropertyList(Adopt(), newInteger(value)) {}
+PropertyList::PropertyList(double value) : PropertyList(Type::Real, realContent(value)) {}
 
-PropertyList::PropertyList(double value) : PropertyList(Adopt(), plist_new_real(value)) {}
-
-PropertyList::PropertyList(const QByteArray &value)
-    : PropertyList(Adopt(), plist_new_data(value.constData(), uint64_t(value.size())))
+PropertyList::PropertyList(NSDate value)
+    : PropertyList(Type::Date, realContent(value.timeIntervalSinceReferenceDate))
 {
 }
 
 PropertyList::PropertyList(const QString &value)
-    : PropertyList(Adopt(), plist_new_string(value.toUtf8().constData()))
+    : PropertyList(isAscii(value) ? Type::ASCII : Type::UTF16,
+                   isAscii(value) ? value.toLatin1() : utf16Content(value))
 {
 }
 
-QByteArray PropertyListNode::toData() const
+PropertyList PropertyList::reference(quint64 uid)
 {
-    char *bytes = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(m_node, &bytes, &length);
-    const QByteArray result(bytes, qsizetype(length));
-    free(bytes);
+    return {Type::UID, bigEndian(uid, bytesFor(uid))};
+}
+
+PropertyList PropertyList::item(const QString &key) const
+{
+    for (qsizetype i = 0; isDictionary() && i < m_items.size(); i += 2) {
+        if (m_items[i].string() == key) {
+            return m_items[i + 1];
+        }
+    }
+    return {};
+}
+
+QMap<QString, PropertyList> PropertyList::itemsByKey() const
+{
+    QMap<QString, PropertyList> result;
+    // From the end: the first of several values stays.
+    for (qsizetype i = isDictionary() ? m_items.size() : 0; i > 0; i -= 2) {
+        result.insert(m_items[i - 2].string().value_or(QString()), m_items[i - 1]);
+    }
     return result;
 }
 
-void PropertyList::insert(const QString &key, PropertyList item)
+QList<PropertyList> PropertyList::elements() const
 {
-    plist_dict_set_item(m_node, key.toUtf8().constData(), item.release());
+    return m_type == Type::Array ? m_items : QList<PropertyList>();
+}
+
+std::optional<bool> PropertyList::boolean() const
+{
+    const bool isBoolean =
+        m_type == Type::Simple && (m_content[0] == falseContent || m_content[0] == trueContent);
+    return isBoolean ? std::optional(m_content[0] == trueContent) : std::nullopt;
+}
+
+std::optional<qint64> PropertyList::integer() const
+{
+    return m_type == Type::Integer ? std::optional(qint64(numberIn(m_content))) : std::nullopt;
+}
+
+std::optional<double> PropertyList::real() const
+{
+    return m_type == Type::Real ? std::optional(realIn(m_content)) : std::nullopt;
+}
+
+std::optional<QString> PropertyList::string() const
+{
+    if (!isText()) {
+        return std::nullopt;
+    }
+    // Some writers put UTF-8 where the format has ASCII.
+    return m_type == Type::UTF16 ? utf16In(m_content) : textFromUTF8(m_content);
+}
+
+std::optional<QByteArray> PropertyList::data() const
+{
+    return m_type == Type::Data ? std::optional(m_content) : std::nullopt;
+}
+
+std::optional<NSDate> PropertyList::date() const
+{
+    return m_type == Type::Date ? std::optional(NSDate{realIn(m_content)}) : std::nullopt;
+}
+
+std::optional<quint64> PropertyList::uid() const
+{
+    if (isDictionary() && m_items.size() == 2) {
+        const std::optional<qint64> number = item(QStringLiteral("CF$UID")).integer();
+        return number ? std::optional(quint64(*number)) : std::nullopt;
+    }
+    return m_type == Type::UID ? std::optional(numberIn(m_content)) : std::nullopt;
+}
+
+void PropertyList::insert(const QString &key, const PropertyList &item)
+{
+    qsizetype place = 0;
+    while (place < m_items.size() && m_items[place].string() != key) {
+        place += 2;
+    }
+    remove(key);
+    m_items.insert(place, item);
+    m_items.insert(place, PropertyList(key));
 }
 
 void PropertyList::remove(const QString &key)
 {
-    plist_dict_remove_item(m_node, key.toUtf8().constData());
-}
-
-void PropertyList::append(PropertyList item)
-{
-    plist_array_append_item(m_node, item.release());
-}
-
-void *PropertyList::release()
-{
-    return m_owned.release();
-}
-
-void PropertyList::Freer::operator()(void *node) const
-{
-    plist_free(node);
+    QList<PropertyList> kept;
+    for (qsizetype i = 0; i < m_items.size(); i += 2) {
+        if (m_items[i].string() != key) {
+            kept << m_items[i] << m_items[i + 1];
+        }
+    }
+    m_items = kept;
 }

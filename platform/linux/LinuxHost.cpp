@@ -9,8 +9,21 @@
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"
 
-LinuxHost::LinuxHost(const QString &applicationId)
-    : m_applicationId(applicationId), m_bus(std::make_unique<SessionBus>())
+#include <QDeadlineTimer>
+#include <QDebug>
+
+std::chrono::milliseconds LinuxHost::prepare()
+{
+    const QDeadlineTimer deadline(patience);
+    if (!SessionBus::probe(deadline))
+        qInfo("The session bus does not answer: this start does without it.");
+    return std::chrono::milliseconds(deadline.remainingTime());
+}
+
+LinuxHost::LinuxHost(const QString &applicationId, std::chrono::milliseconds patienceLeft)
+    : m_applicationId(applicationId),
+      m_patienceLeft(patienceLeft),
+      m_bus(std::make_unique<SessionBus>())
 {
 }
 
@@ -61,7 +74,7 @@ bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
         return true;
     m_instance =
         std::make_unique<SingleInstance>(m_bus->connection(), m_applicationId, std::move(opened));
-    return m_instance->claimOrHandOver(urls);
+    return m_instance->claimOrHandOver(urls, QDeadlineTimer(m_patienceLeft));
 }
 
 void LinuxHost::resignOnlyInstance()

@@ -4,8 +4,7 @@
 
 #include "platform/uikit/UIHost.h"
 
-#include <QtGlobal>
-
+#include <chrono>
 #include <memory>
 
 class DesktopPalette;
@@ -18,8 +17,18 @@ class SingleInstance;
 /// absent. Made after the application object, destroyed before it; main thread only.
 class LinuxHost final : public UIHost {
 public:
+    /// How long a start waits for the desktop, all in all.
+    static constexpr std::chrono::milliseconds patience = std::chrono::seconds(1);
+
+    /// Makes sure that the session bus does not hold up the application object, whose plugins use
+    /// it: one that does not answer is out of use from then on. Before that object is made.
+    /// Returns what is left of `patience`.
+    [[nodiscard]] static std::chrono::milliseconds prepare();
+
     /// `applicationId` is the reverse-DNS name under which the desktop knows the application.
-    explicit LinuxHost(const QString &applicationId);
+    /// `patienceLeft` is what `prepare` returned.
+    explicit LinuxHost(const QString &applicationId,
+                       std::chrono::milliseconds patienceLeft = patience);
     ~LinuxHost() override;
     Q_DISABLE_COPY_MOVE(LinuxHost)
 
@@ -36,6 +45,7 @@ private:
     void tellAppearance();
 
     QString m_applicationId;
+    std::chrono::milliseconds m_patienceLeft;
     std::unique_ptr<SessionBus> m_bus;
     std::unique_ptr<DesktopSettings> m_settings;
     std::unique_ptr<DesktopPalette> m_palette;

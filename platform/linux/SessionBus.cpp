@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SessionBus.h"
 
+#include "platform/linux/BusProbe.h"
+
 #include <QUuid>
 
 #include <sys/stat.h>
@@ -20,27 +22,43 @@ bool isOwnSocket(const QByteArray &path)
         && status.st_uid == ::getuid();
 }
 
-// The two places where a running bus is found. The bus libraries know a third: to start one.
-bool busIsThere()
+// The address of the bus in the two places where a running one is found. The bus libraries know a
+// third: to start one.
+QByteArray knownAddress()
 {
-    if (!qEnvironmentVariableIsEmpty(addressVariable))
-        return true;
+    const QByteArray address = qgetenv(addressVariable);
+    if (!address.isEmpty())
+        return address;
     const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
-    return !folder.isEmpty() && isOwnSocket(folder + "/bus");
+    const QByteArray path = folder + "/bus";
+    return !folder.isEmpty() && isOwnSocket(path) ? "unix:path=" + path : QByteArray();
+}
+
+// Other libraries of this process (GIO when it launches a handler) would wait for a bus that says
+// nothing, or start one of their own where there is none.
+void disable()
+{
+    qputenv(addressVariable, "disabled:");
 }
 
 QDBusConnection connectToSession()
 {
     const QString name = u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    if (busIsThere())
+    if (!knownAddress().isEmpty())
         return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    // Other libraries of this process (GIO when it launches a handler) would start a bus of their
-    // own.
-    qputenv(addressVariable, "disabled:");
+    disable();
     return QDBusConnection(name);
 }
 
 } // namespace
+
+bool SessionBus::probe(QDeadlineTimer deadline)
+{
+    const bool alive = busAnswers(knownAddress(), deadline);
+    if (!alive)
+        disable();
+    return alive;
+}
 
 SessionBus::SessionBus() : m_connection(connectToSession()) {}
 

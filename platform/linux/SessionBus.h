@@ -3,12 +3,18 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDeadlineTimer>
 
 /// A connection of its own to the session bus, closed with the object; names and objects go with
 /// it. Without a bus it is a connection that is not connected: every use of it fails at once,
 /// silently.
 class SessionBus {
 public:
+    /// Asks the session bus whether it is alive and waits until `deadline` for an answer. False:
+    /// from then on there is no bus for this process and whatever it starts. Before the
+    /// application object is made, whose plugins would wait for the bus much longer.
+    static bool probe(QDeadlineTimer deadline);
+
     SessionBus();
     ~SessionBus();
     Q_DISABLE_COPY_MOVE(SessionBus)

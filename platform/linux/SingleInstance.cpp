@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SingleInstance.h"
 
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
+#include <QDebug>
+#include <QTimer>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <utility>
+
+#include <malloc.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int handOverMilliseconds = 2000;
 
 struct TokenName {
     QLatin1StringView platformData;
@@ -33,16 +36,33 @@ QVariantMap platformDataFromEnvironment()
     return data;
 }
 
-// Qt takes the token from the environment when a window asks to come to the front.
-void setEnvironment(const QVariantMap &platformData)
-{
-    for (const TokenName &name : tokenNames) {
-        if (const QString token = platformData.value(name.platformData).toString();
-            !token.isEmpty()) {
-            qputenv(name.environment, token.toUtf8());
+/// Where the entries of the environment lie: what setenv copies it never frees, and another thread
+/// may still read what putenv was given.
+constexpr size_t entryLength = 512;
+constinit std::array<std::array<char, entryLength>, tokenNames.size()> entries{};
+
+/// Has the tokens in the environment while it lives: Qt takes one from there when a window asks to
+/// come to the front.
+class EnvironmentTokens {
+public:
+    explicit EnvironmentTokens(const QVariantMap &platformData)
+    {
+        for (size_t i = 0; i < tokenNames.size(); ++i) {
+            const QString token = platformData.value(tokenNames[i].platformData).toString();
+            const QByteArray entry = tokenNames[i].environment + ('=' + token.toUtf8());
+            if (token.isEmpty() || size_t(entry.size()) >= entryLength)
+                continue;
+            std::copy_n(entry.constData(), entry.size() + 1, entries[i].data());
+            ::putenv(entries[i].data());
         }
     }
-}
+    ~EnvironmentTokens()
+    {
+        for (const TokenName &name : tokenNames)
+            qunsetenv(name.environment);
+    }
+    Q_DISABLE_COPY_MOVE(EnvironmentTokens)
+};
 
 } // namespace
 
@@ -59,24 +79,49 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
 
 SingleInstance::~SingleInstance()
 {
-    if (QDBusConnectionInterface *daemon = m_bus.interface())
-        daemon->unregisterService(m_name);
+    m_bus.send(askBus(u"ReleaseName"_s, {m_name}));
     m_bus.unregisterObject(m_path);
 }
 
-bool SingleInstance::claimOrHandOver(const QStringList &urls)
+bool SingleInstance::claimOrHandOver(const QStringList &urls, QDeadlineTimer deadline)
 {
-    // The owner may end while it is being asked.
-    return claim() || (!handOver(urls) && claim());
+    const Claim claimed = claim(deadline);
+    if (claimed == Claim::OwnedByAnother && handOver(urls, deadline))
+        return false;
+    if (claimed == Claim::Refused) {
+        qInfo("The session bus does not give the name: this start is on its own.");
+    } else if (claimed == Claim::OwnedByAnother && claim(deadline) != Claim::Owner) {
+        // Unless the owner ended while it was asked.
+        qInfo("The application that runs does not answer: this start is on its own.");
+    }
+    return true;
 }
 
-bool SingleInstance::claim()
+QDBusMessage SingleInstance::askBus(const QString &method, const QVariantList &arguments) const
 {
-    QDBusConnectionInterface *daemon = m_bus.interface();
-    return daemon && daemon->registerService(m_name) == QDBusConnectionInterface::ServiceRegistered;
+    const QString bus = u"org.freedesktop.DBus"_s;
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, method);
+    message.setArguments(arguments);
+    return message;
 }
 
-bool SingleInstance::handOver(const QStringList &urls)
+SingleInstance::Claim SingleInstance::claim(QDeadlineTimer deadline)
+{
+    constexpr uint doNotQueue = 4;
+    constexpr uint owner = 1;
+    constexpr uint ownedByAnother = 3;
+    constexpr uint alreadyOwner = 4;
+    const QDBusMessage reply = m_bus.call(askBus(u"RequestName"_s, {m_name, doNotQueue}),
+                                          QDBus::Block, int(deadline.remainingTime()));
+    const uint code =
+        reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toUInt() : 0;
+    return code == owner || code == alreadyOwner ? Claim::Owner
+        : code == ownedByAnother                 ? Claim::OwnedByAnother
+                                                 : Claim::Refused;
+}
+
+bool SingleInstance::handOver(const QStringList &urls, QDeadlineTimer deadline)
 {
     const bool open = !urls.isEmpty();
     QDBusMessage message = QDBusMessage::createMethodCall(
@@ -85,7 +130,7 @@ bool SingleInstance::handOver(const QStringList &urls)
         message << urls;
     message << platformDataFromEnvironment();
     message.setAutoStartService(false);
-    return m_bus.call(message, QDBus::Block, handOverMilliseconds).type()
+    return m_bus.call(message, QDBus::Block, int(deadline.remainingTime())).type()
         == QDBusMessage::ReplyMessage;
 }
 
@@ -96,8 +141,24 @@ void SingleInstance::Activate(const QVariantMap &platformData)
 
 void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformData)
 {
-    setEnvironment(platformData);
-    m_opened(urls);
+    {
+        const EnvironmentTokens tokens(platformData);
+        m_opened(urls);
+    }
+    trimMemorySoon();
+}
+
+// A call may be long, and the allocator keeps what it once had. Once the bus connection's own
+// thread has let go of it as well.
+void SingleInstance::trimMemorySoon()
+{
+    if (std::exchange(m_trimming, true))
+        return;
+    const auto trim = [this] {
+        m_trimming = false;
+        malloc_trim(0);
+    };
+    QTimer::singleShot(std::chrono::seconds(1), this, trim);
 }
 
 // The desktop entry has no actions: whoever asks for one gets the application.

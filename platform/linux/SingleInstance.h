@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
@@ -24,23 +26,30 @@ public:
     ~SingleInstance() override;
     Q_DISABLE_COPY_MOVE(SingleInstance)
 
-    /// True when this process owns the name now. Otherwise `urls` went to the owner; one that does
-    /// not answer within two seconds finds them when it wakes up.
-    [[nodiscard]] bool claimOrHandOver(const QStringList &urls);
+    /// False when `urls` went to a live owner of the name, which has answered. Otherwise this
+    /// process is to run: it owns the name now, or, as one line in the log says, the bus or the
+    /// owner refused or did not answer until `deadline`.
+    [[nodiscard]] bool claimOrHandOver(const QStringList &urls, QDeadlineTimer deadline);
 
 public Q_SLOTS:
-    // The methods on the bus.
+    // The methods on the bus. Nothing of what comes with a call is kept.
     void Activate(const QVariantMap &platformData);
     void Open(const QStringList &urls, const QVariantMap &platformData);
     void ActivateAction(const QString &name, const QVariantList &parameter,
                         const QVariantMap &platformData);
 
 private:
-    [[nodiscard]] bool claim();
-    [[nodiscard]] bool handOver(const QStringList &urls);
+    enum class Claim { Owner, OwnedByAnother, Refused };
+    [[nodiscard]] Claim claim(QDeadlineTimer deadline);
+    /// Whether the owner has answered.
+    [[nodiscard]] bool handOver(const QStringList &urls, QDeadlineTimer deadline);
+    [[nodiscard]] QDBusMessage askBus(const QString &method, const QVariantList &arguments) const;
+
+    void trimMemorySoon();
 
     QDBusConnection m_bus;
     QString m_name;
     QString m_path;
     std::function<void(const QStringList &)> m_opened;
+    bool m_trimming = false;
 };

@@ -39,6 +39,15 @@ void UIAlertController::viewWillAppear(bool animated)
         m_textFields.front()->becomeFirstResponder();
 }
 
+void UIAlertController::viewDidLeave()
+{
+    UIViewController::viewDidLeave();
+    for (const auto &field : m_textFields) {
+        if (field->isSecureTextEntry())
+            field->erase();
+    }
+}
+
 void UIAlertController::trigger(UIAlertAction *action)
 {
     if (!isOnTop())

@@ -10,7 +10,8 @@
 
 /// An alert: title, message, text fields one below the other, and actions. Any action dismisses
 /// it, animated; the action's handler runs when the alert has gone, and not at all when the alert
-/// is taken away otherwise. A handler must not hold its own alert strongly.
+/// is taken away otherwise. A handler must not hold its own alert strongly. What was typed into
+/// secure fields is gone after that.
 class UIAlertController : public UIViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -54,6 +55,7 @@ public:
 
     [[nodiscard]] UITransitionStack::Cover cover() const override;
     void viewWillAppear(bool animated) override;
+    void viewDidLeave() override;
 
 private:
     [[nodiscard]] QQmlListProperty<UIAlertAction> actionList();

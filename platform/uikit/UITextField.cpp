@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/UITextField.h"
 
+#include <cstring>
+#include <utility>
+
 namespace {
 
 QString inOneLine(QString text)
@@ -11,7 +14,40 @@ QString inOneLine(QString text)
     return text;
 }
 
+/// Text of its own, shared with nobody.
+std::optional<QString> copyOf(const std::optional<QString> &text)
+{
+    return text ? std::optional(QString(text->constData(), text->size())) : std::nullopt;
+}
+
+void overwrite(std::optional<QString> &text)
+{
+    // What somebody else holds as well is not this field's to change.
+    if (text && text->isDetached())
+        explicit_bzero(text->data(), size_t(text->size()) * sizeof(QChar));
+}
+
 } // namespace
+
+void UITextField::setText(const std::optional<QString> &text)
+{
+    if (!isSecureTextEntry() || text == m_text) {
+        assign(m_text, text);
+        return;
+    }
+    std::optional<QString> before = copyOf(text);
+    std::swap(m_text, before);
+    overwrite(before);
+    Q_EMIT changed();
+}
+
+void UITextField::erase()
+{
+    std::optional<QString> before = QString();
+    std::swap(m_text, before);
+    overwrite(before);
+    Q_EMIT changed();
+}
 
 void UITextField::setAttributedPlaceholder(const QString &placeholder, const UIColor &color)
 {

@@ -30,7 +30,10 @@ public:
     /// Empty until something is typed or set; nothing at all only when set so.
     [[nodiscard]] std::optional<QString> text() const { return m_text; }
     /// Sets the text without sending EditingChanged.
-    void setText(const std::optional<QString> &text) { assign(m_text, text); }
+    void setText(const std::optional<QString> &text);
+    /// Empties the field and overwrites what it held, for no secret is to outlive its use. Secure
+    /// text is overwritten whenever it is replaced, too.
+    void erase();
 
     [[nodiscard]] QString placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString &placeholder) { assign(m_placeholder, placeholder); }

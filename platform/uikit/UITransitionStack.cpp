@@ -219,6 +219,7 @@ void UITransitionStack::finishLeaving(int index)
         entry.entered();
     if (--entry.departure->remaining == 0 && entry.departure->completion)
         entry.departure->completion();
+    entry.controller->viewDidLeave();
 }
 
 // How far the controller at `index` is to come, given what is above it.

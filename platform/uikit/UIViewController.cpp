@@ -39,6 +39,7 @@ void UIViewController::loadViewIfNeeded()
 void UIViewController::viewDidLoad() {}
 void UIViewController::viewWillAppear(bool) {}
 void UIViewController::viewDidAppear(bool) {}
+void UIViewController::viewDidLeave() {}
 void UIViewController::appearanceStateDidChange(UITransitionStack::Motion) {}
 
 UITransitionStack::Cover UIViewController::cover() const

@@ -51,6 +51,9 @@ public:
     virtual void viewWillAppear(bool animated);
     /// Whenever the controller is shown, when the transition has ended.
     virtual void viewDidAppear(bool animated);
+    /// Once the controller has gone from where it was presented or pushed, when the transition has
+    /// ended and its completion has run.
+    virtual void viewDidLeave();
 
     /// True if the user must not dismiss the presented controller by a gesture.
     [[nodiscard]] virtual bool isModalInPresentation() const { return false; }

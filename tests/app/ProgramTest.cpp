@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "model/BuildConstants.h"
+#include "tests/support/MuteSocket.h"
 #include "tests/support/TestRunner.h"
 
 #include <QProcess>
@@ -65,6 +66,28 @@ private Q_SLOTS:
             QCOMPARE(program.readAll(), QByteArray());
             QCOMPARE(program.exitCode(), 0);
         }
+    }
+
+    /// Where Qt's plugins, too, would wait for the bus of the desktop.
+    void startsBesideAMuteBus()
+    {
+        const QTemporaryDir folder;
+        const MuteSocket bus(folder.filePath(u"bus"_s).toUtf8());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s,
+                           "unix:path="_L1 + folder.filePath(u"bus"_s));
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QStringLiteral(WZT_PROGRAM), runningArguments);
+        QVERIFY(program.waitForStarted());
+        const auto pid = static_cast<pid_t>(program.processId());
+        QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (SIGTERM - 1) & 1, 20000);
+        kill(pid, SIGTERM);
+        QVERIFY(program.waitForFinished(5000));
+        QCOMPARE(program.readAll(),
+                 "The session bus does not answer: this start does without it.\n");
+        QCOMPARE(program.exitCode(), 0);
     }
 
     void answersWithoutDisplay()

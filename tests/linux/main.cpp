@@ -14,9 +14,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The program as a later start of the application: uses all of the port, then says what it is.
-int startApplication(QStringList arguments)
+int startApplication(QStringList arguments, std::chrono::milliseconds patience)
 {
-    LinuxHost host(arguments.takeFirst());
+    LinuxHost host(arguments.takeFirst(), patience);
     host.observeAppearance([](const UIAppearance &) {});
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
@@ -28,8 +28,9 @@ int startApplication(QStringList arguments)
 int main(int argc, char **argv)
 {
     if (argc > 2 && qstrcmp(argv[1], "--start") == 0) {
+        const auto patience = LinuxHost::prepare();
         const QGuiApplication application(argc, argv);
-        return startApplication(QCoreApplication::arguments().sliced(2));
+        return startApplication(QCoreApplication::arguments().sliced(2), patience);
     }
     const TestSession session;
     qputenv("XDG_DATA_DIRS", QFile::encodeName(session.home()));

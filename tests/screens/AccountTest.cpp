@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "platform/uikit/Make.h"
 #include "platform/uikit/UIAlertController.h"
 #include "screens/WZTUserViewController.h"
 #include "service/TavloCategoryExtension.h"
@@ -34,12 +35,14 @@ struct Stage {
     void update(const QString &texts)
     {
         screen().editProfile(nullptr);
-        auto *alert = app.top<UIAlertController>();
+        const auto alert = strong(app.top<UIAlertController>());
         for (std::size_t i = 0; i < alert->textFields().size(); ++i) {
             const QString text = texts.section(u'|', int(i), int(i));
             alert->textFields()[i]->setText(text == u"-" ? std::nullopt : std::optional(text));
         }
         alert->trigger(alert->actions()[1].get());
+        for (const std::size_t secret : {1U, 2U})
+            QCOMPARE(alert->textFields()[secret]->text(), QString());
     }
     [[nodiscard]] QString name() { return app.delegate().currentUser()->userName.value_or(u"-"_s); }
     [[nodiscard]] UIRefreshControl &refreshControl()

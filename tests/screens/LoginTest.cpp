@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "platform/uikit/Make.h"
 #include "platform/uikit/UIAlertController.h"
 #include "screens/WZTLoginViewController.h"
 #include "service/TavloCategoryExtension.h"
@@ -23,10 +24,12 @@ WZTLoginViewController &login(TestApp &app)
 
 void answerAlert(TestApp &app, const QString &text)
 {
-    auto *alert = app.top<UIAlertController>();
+    const auto alert = strong(app.top<UIAlertController>());
     for (const auto &field : alert->textFields())
         field->edit(text);
     alert->triggerDefault();
+    for (const auto &field : alert->textFields())
+        QCOMPARE(field->text(), field->isSecureTextEntry() ? QString() : text);
 }
 
 const QString typed = u"\u00a0jo "_s;
@@ -116,6 +119,7 @@ private Q_SLOTS:
         TestApp app;
         app.launch();
         app.service().stage(flow->path, reply);
+        const auto screen = strong(&login(app));
         flow->start(app, typed);
         QCOMPARE(app.host().taps, 1);
         QVERIFY(login(app).activityIndicator()->isAnimating());
@@ -127,6 +131,8 @@ private Q_SLOTS:
             QVERIFY(!login(app).activityIndicator()->isAnimating());
             QVERIFY(!app.delegate().currentUser());
         }
+        const bool keepsPassword = flow == &signIn && !alert.isEmpty();
+        QCOMPARE(screen->passwordTextField()->text(), keepsPassword ? typed : QString());
         QCOMPARE(app.service().requests().size(), 1);
         QCOMPARE(app.service().requests()[0].target, flow->path + flow->query);
     }

@@ -24,7 +24,8 @@ std::unique_ptr<TestProcess> TestSession::startBus() const
     if (file.open(QIODevice::WriteOnly)) {
         file.write("<busconfig><type>session</type><listen>" + qgetenv("DBUS_SESSION_BUS_ADDRESS")
                    + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-                     "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+                     "<allow receive_sender=\"*\"/><allow own=\"*\"/>"
+                     "<deny own=\"example.wzt-test.Refused\"/></policy></busconfig>");
         file.close();
     }
     auto bus = std::make_unique<TestProcess>();

@@ -14,7 +14,8 @@ class TestSession {
 public:
     /// Before the application object is made: some libraries look at the environment once.
     TestSession();
-    /// After it is made. The bus ends with the process that is returned.
+    /// After it is made. The bus ends with the process that is returned. It gives every name but
+    /// "example.wzt-test.Refused".
     [[nodiscard]] std::unique_ptr<TestProcess> startBus() const;
 
     [[nodiscard]] QString home() const { return m_home.path(); }

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/BusProbe.h"
+
+#include <QByteArrayList>
+
+#include <algorithm>
+#include <cstddef>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr QByteArrayView transport = "unix:";
+
+/// The socket of an address such as "unix:path=/run/bus,guid=1", in the system's notation: one of
+/// the abstract kind begins with a null character. Empty for what is no socket's.
+QByteArray socketName(const QByteArray &address)
+{
+    for (const QByteArray &pair : address.mid(transport.size()).split(',')) {
+        QByteArray name = QByteArray::fromPercentEncoding(pair.mid(pair.indexOf('=') + 1));
+        if (pair.startsWith("path="))
+            return name;
+        if (pair.startsWith("abstract="))
+            return name.prepend('\0');
+    }
+    return {};
+}
+
+/// A socket that is connected to `name`, negative for none.
+int connectedSocket(const QByteArray &name)
+{
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    if (name.isEmpty() || size_t(name.size()) >= sizeof address.sun_path)
+        return -1;
+    std::copy(name.begin(), name.end(), address.sun_path);
+    const auto length = socklen_t(offsetof(sockaddr_un, sun_path) + size_t(name.size()));
+    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0)
+        return descriptor;
+    close(descriptor);
+    return -1;
+}
+
+/// Asks which ways to prove who one is there are, as every client may, and waits for any answer.
+bool answers(int descriptor, QDeadlineTimer deadline)
+{
+    constexpr char question[] = "\0AUTH\r\n";
+    constexpr ssize_t length = sizeof question - 1;
+    pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
+    return send(descriptor, question, size_t(length), MSG_NOSIGNAL) != length
+        || poll(&waiting, 1, int(deadline.remainingTime())) != 0;
+}
+
+} // namespace
+
+bool busAnswers(const QByteArray &address, QDeadlineTimer deadline)
+{
+    // Of several the libraries take the first that accepts. What is refused is no reason to wait.
+    for (const QByteArray &one : address.split(';')) {
+        if (!one.startsWith(transport))
+            return true;
+        const int descriptor = connectedSocket(socketName(one));
+        if (descriptor < 0)
+            continue;
+        const bool answered = answers(descriptor, deadline);
+        close(descriptor);
+        return answered;
+    }
+    return true;
+}

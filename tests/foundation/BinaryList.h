@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+/// Binary property lists put together by hand: references and offsets of four bytes.
+namespace BinaryList {
+
+inline QByteArray number(quint64 value, int size)
+{
+    QByteArray bytes;
+    for (int shift = 8 * size - 8; shift >= 0; shift -= 8)
+        bytes.append(char(value >> shift));
+    return bytes;
+}
+
+inline QByteArray reference(qsizetype index)
+{
+    return number(quint64(index), 4);
+}
+
+/// The list of objects that begin at `offsets` of `objects`, the first of them its value.
+inline QByteArray around(const QByteArray &objects, const QList<qsizetype> &offsets, quint64 count)
+{
+    QByteArray data = "bplist00" + objects;
+    const QByteArray table = number(quint64(data.size()), 8);
+    for (const qsizetype offset : offsets)
+        data += number(quint64(offset) + 8, 4);
+    return data + QByteArray(6, '\0') + "\4\4" + number(count, 8) + number(0, 8) + table;
+}
+
+/// The list of these objects; `count`: how many it says that there are.
+inline QByteArray of(const QByteArrayList &objects, quint64 count)
+{
+    QList<qsizetype> offsets;
+    qsizetype offset = 0;
+    for (const QByteArray &object : objects) {
+        offsets.append(offset);
+        offset += object.size();
+    }
+    return around(objects.join(), offsets, count);
+}
+
+inline QByteArray of(const QByteArrayList &objects)
+{
+    return of(objects, quint64(objects.size()));
+}
+
+} // namespace BinaryList
