@@ -139,8 +139,9 @@ private Q_SLOTS:
         Client client(service.port(), service.caFile());
         throws = true;
         QCOMPARE(client.get("/user.php").status, 500);
-        service.stage("/user.php", sandbox::Fault::json("{}"));
+        service.stage("/user.php", sandbox::Fault::json("{}"), -1);
         QVERIFY(client.get("/user.php").error != 0);
+        service.clear();
         throws = false;
         QCOMPARE(client.get("/user.php").status, 400);
     }
