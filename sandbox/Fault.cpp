@@ -12,6 +12,8 @@ namespace sandbox {
 
 namespace {
 
+constexpr std::chrono::milliseconds surplusPause{100};
+
 QByteArray hostOf(const Request &request, quint16 port)
 {
     return request.header("Host").value_or("localhost:" + QByteArray::number(port));
@@ -224,6 +226,11 @@ Transmission Fault::transmission(const Request &request, const Reply &real, quin
     const qsizetype sent = m_isHalved ? reply.body.size() / 2 : reply.body.size();
     const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent) + m_surplus;
     transmission.bytes = whole.left(m_cut.value_or(whole.size()));
+    if (!m_surplus.isEmpty()) {
+        // Later, or it would be found and the connection given up.
+        transmission.pieceSize = whole.size() - m_surplus.size();
+        transmission.pause = surplusPause;
+    }
     return transmission;
 }
 

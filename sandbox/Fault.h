@@ -43,7 +43,7 @@ public:
     /// The real answer compressed, with so many bytes missing at its end, under the length that it
     /// then has.
     static Fault gzip(qint64 missing = 0);
-    /// The real answer, and behind it these bytes, which nobody asked for.
+    /// The real answer, and a moment later these bytes, which nobody asked for.
     static Fault surplus(const QByteArray &bytes);
     /// The real answer's body under another HTTP status (200 to 999).
     static Fault status(int code);

@@ -97,7 +97,7 @@ constexpr std::array faultWords{
     FaultWord{"gzip"_L1, 1, [](Arguments &a) { return Fault::gzip(a.number(0, 0, maximum)); },
               "gzip MISSING           the real answer compressed, less so many bytes at its end"},
     FaultWord{"surplus"_L1, 1, [](Arguments &a) { return Fault::surplus(unescaped(a.bytes(0))); },
-              "surplus BYTES          the real answer, and behind it these bytes"},
+              "surplus BYTES          the real answer, and a moment later these bytes"},
     FaultWord{"drip"_L1, 2,
               [](Arguments &a) { return Fault::drip(a.number(0, 1, maximum), a.time(1)); },
               "drip BYTES MS          the real answer in pieces, with pauses"},
