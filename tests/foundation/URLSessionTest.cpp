@@ -151,6 +151,8 @@ private Q_SLOTS:
             {"any status", "GET", Fault::json("no", 503), 0, "no"},
             {"slow drip", "GET", Fault::drip(50, 50ms), 0, {}, 1, 2s},
             {"compressed", "GET", Fault::json("hello").compressed(), 0, "hello"},
+            {"compressed and cut", "GET", Fault::json("hello").compressed(1), undecodable},
+            {"compressed and cut away", "GET", Fault::json("hello").compressed(99), undecodable},
             {"strung together", "GET",
              coded(sandbox::gzipped("hel") + sandbox::gzipped("lo"), "x-gzip"), 0, "hello"},
             {"longest body", "GET", Fault::json(longest).compressed()},
