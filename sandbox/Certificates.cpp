@@ -71,6 +71,18 @@ std::shared_ptr<SSL_CTX> makeContext(const std::optional<Certificate> &certifica
     return context;
 }
 
+std::shared_ptr<SSL_CTX> makeOldContext(const Certificate &certificate)
+{
+    std::shared_ptr<SSL_CTX> context = makeContext(certificate);
+    if (context) {
+        // At any other level the signatures of that time are refused.
+        SSL_CTX_set_security_level(context.get(), 0);
+        SSL_CTX_set_min_proto_version(context.get(), TLS1_VERSION);
+        SSL_CTX_set_max_proto_version(context.get(), TLS1_1_VERSION);
+    }
+    return context;
+}
+
 } // namespace
 
 QString Certificates::caFile(const QString &directory)
@@ -135,6 +147,8 @@ QString Certificates::makeContexts(qint64 now)
         makeContext(issue(m_authority, rightNames, now - 30 * day, now - day)),
         makeContext(issue(m_authority, wrongNames, now - 3600, now + leafLife)),
         makeContext(issue(*stranger, rightNames, now - 3600, now + leafLife)),
+        makeOldContext(m_leaf),
+        makeContext(m_leaf),
     };
     for (const auto &context : m_contexts) {
         if (!context) {

@@ -32,7 +32,7 @@ private:
 
     Certificate m_authority;
     Certificate m_leaf;
-    std::array<std::shared_ptr<SSL_CTX>, 4> m_contexts;
+    std::array<std::shared_ptr<SSL_CTX>, 6> m_contexts;
 };
 
 } // namespace sandbox

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/ControlSocket.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
 #include <fcntl.h>
@@ -17,6 +18,8 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#include <list>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +27,8 @@ namespace sandbox {
 
 namespace {
 
-constexpr int patience = 5000;
+constexpr int patienceMilliseconds = 5000;
+constexpr size_t mostClients = 64;
 constexpr qsizetype longestLine = qsizetype{1} << 20;
 
 QString failure()
@@ -67,10 +71,11 @@ int makeSocket()
     return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 }
 
-bool sendLine(int file, const QString &line)
+bool sendLine(int file, const QString &line, int flags = 0)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
-    return ::send(file, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL) == bytes.size();
+    return ::send(file, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL | flags)
+        == bytes.size();
 }
 
 bool receiveSome(int file, QByteArray &bytes)
@@ -82,6 +87,15 @@ bool receiveSome(int file, QByteArray &bytes)
 }
 
 } // namespace
+
+/// Somebody who has connected.
+struct ControlSocket::Client {
+    explicit Client(int accepted) : file(accepted) { lastWord.start(); }
+
+    File file;
+    QByteArray bytes;
+    QElapsedTimer lastWord;
+};
 
 ControlSocket::~ControlSocket()
 {
@@ -111,39 +125,53 @@ QString ControlSocket::open(const QString &directory, Handler handler)
     return {};
 }
 
-// False as well when the socket is to end.
-bool ControlSocket::waitFor(int file, int milliseconds) const
-{
-    std::array<pollfd, 2> files{{{file, POLLIN, 0}, {m_end, POLLIN, 0}}};
-    int count = 0;
-    do {
-        count = ::poll(files.data(), files.size(), milliseconds);
-    } while (count < 0 && errno == EINTR);
-    return count > 0 && files[1].revents == 0;
-}
-
 void ControlSocket::serve()
 {
-    while (waitFor(m_listener, -1)) {
-        const File client(::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC));
-        if (client.number >= 0) {
-            converse(client.number);
+    std::list<Client> clients;
+    for (;;) {
+        // More of them than this wait until one goes.
+        const short forNew = clients.size() < mostClients ? POLLIN : 0;
+        std::vector<pollfd> files{{m_end, POLLIN, 0}, {m_listener, forNew, 0}};
+        int wait = -1;
+        for (const Client &client : clients) {
+            files.push_back({client.file.number, POLLIN, 0});
+            wait = patienceMilliseconds;
         }
-    }
-}
-
-void ControlSocket::converse(int client)
-{
-    QByteArray bytes;
-    while (bytes.size() < longestLine && waitFor(client, patience) && receiveSome(client, bytes)) {
-        for (qsizetype end = bytes.indexOf('\n'); end >= 0; end = bytes.indexOf('\n')) {
-            const QString problem = m_handler(QString::fromUtf8(bytes.left(end)));
-            bytes.remove(0, end + 1);
-            if (!sendLine(client, problem.isEmpty() ? u"ok"_s : u"error: "_s + problem)) {
-                return;
+        const bool isReady = ::poll(files.data(), files.size(), wait) > 0;
+        if (isReady && files[0].revents != 0) {
+            return;
+        }
+        auto ready = files.cbegin() + 2;
+        std::erase_if(clients, [&](Client &client) {
+            const bool hasSpoken = isReady && (ready++)->revents != 0;
+            return hasSpoken ? !converse(client) : client.lastWord.hasExpired(patienceMilliseconds);
+        });
+        if (isReady && files[1].revents != 0) {
+            const int accepted = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+            if (accepted >= 0) {
+                clients.emplace_back(accepted);
             }
         }
     }
+}
+
+bool ControlSocket::converse(Client &client)
+{
+    client.lastWord.start();
+    if (!receiveSome(client.file.number, client.bytes)) {
+        return false;
+    }
+    QByteArray &bytes = client.bytes;
+    for (qsizetype end = bytes.indexOf('\n'); end >= 0; end = bytes.indexOf('\n')) {
+        const QString problem = m_handler(QString::fromUtf8(bytes.left(end)));
+        bytes.remove(0, end + 1);
+        const QString answer = problem.isEmpty() ? u"ok"_s : u"error: "_s + problem;
+        // Whoever does not read the answers is not waited for either.
+        if (!sendLine(client.file.number, answer, MSG_DONTWAIT)) {
+            return false;
+        }
+    }
+    return bytes.size() < longestLine;
 }
 
 QString ControlSocket::send(const QString &directory, const QString &line)

@@ -10,8 +10,8 @@
 namespace sandbox {
 
 /// The Unix socket `control` in the service's directory, for its owner alone. It takes lines of
-/// UTF-8 and answers each with one: "ok", or "error: " and what is wrong. One client is served at a
-/// time, and let go of when it has said nothing for five seconds.
+/// UTF-8 and answers each with one: "ok", or "error: " and what is wrong. Nobody waits for a client
+/// who says nothing, and who does so for five seconds is let go of.
 class ControlSocket {
 public:
     /// Takes a line, and returns an empty text or what is wrong with it. Called on the socket's
@@ -32,9 +32,10 @@ public:
     static QString send(const QString &directory, const QString &line);
 
 private:
+    struct Client;
     void serve();
-    void converse(int client);
-    bool waitFor(int file, int milliseconds) const;
+    /// False when the client is to go.
+    [[nodiscard]] bool converse(Client &client);
 
     Handler m_handler;
     int m_listener = -1;

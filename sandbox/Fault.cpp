@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/Fault.h"
 
+#include "sandbox/Gzip.h"
 #include "sandbox/HttpMessage.h"
 #include "sandbox/Request.h"
 
@@ -10,6 +11,8 @@
 namespace sandbox {
 
 namespace {
+
+constexpr std::chrono::milliseconds surplusPause{100};
 
 QByteArray hostOf(const Request &request, quint16 port)
 {
@@ -46,6 +49,13 @@ Fault Fault::reset()
     return fault;
 }
 
+Fault Fault::cut(qint64 size)
+{
+    Fault fault = Fault().ending(Transmission::Ending::Cut);
+    fault.m_cut = size;
+    return fault;
+}
+
 Fault Fault::wrongLength(qint64 difference)
 {
     Fault fault = Fault().ending(Transmission::Ending::Close);
@@ -58,6 +68,18 @@ Fault Fault::drip(qint64 pieceSize, std::chrono::milliseconds pause)
     Fault fault;
     fault.m_manner.pieceSize = pieceSize;
     fault.m_manner.pause = pause;
+    return fault;
+}
+
+Fault Fault::gzip(qint64 missing)
+{
+    return Fault().compressed(missing);
+}
+
+Fault Fault::surplus(const QByteArray &bytes)
+{
+    Fault fault;
+    fault.m_surplus = bytes;
     return fault;
 }
 
@@ -92,6 +114,11 @@ Fault Fault::endless()
     return fault;
 }
 
+Fault Fault::keyUpdates()
+{
+    return raw({}).ending(Transmission::Ending::KeyUpdates);
+}
+
 Fault Fault::redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location)
 {
     Fault fault;
@@ -111,6 +138,13 @@ Fault Fault::redirect(const QByteArray &location, int code)
 Fault Fault::redirectLoop(int code)
 {
     return redirectTo(code, [](const Request &request, quint16) { return request.target; });
+}
+
+Fault Fault::redirectFurther(int code)
+{
+    return redirectTo(code, [](const Request &request, quint16) {
+        return QByteArray(request.target + "&further");
+    });
 }
 
 Fault Fault::redirectToHttp(int code)
@@ -155,6 +189,13 @@ Fault Fault::withoutLength() const
     return fault;
 }
 
+Fault Fault::compressed(qint64 missing) const
+{
+    Fault fault = withHeader("Content-Encoding", "gzip");
+    fault.m_missing = missing;
+    return fault;
+}
+
 Fault Fault::ending(Transmission::Ending ending) const
 {
     Fault fault = *this;
@@ -173,13 +214,23 @@ Transmission Fault::transmission(const Request &request, const Reply &real, quin
     }
     reply.status = m_status.value_or(reply.status);
     reply.headers += m_headers;
+    if (m_missing) {
+        reply.body = gzipped(reply.body);
+        reply.body.chop(*m_missing);
+    }
     const bool keepsAlive = transmission.ending == Transmission::Ending::KeepOpen;
     std::optional<qint64> length;
     if (m_hasLength) {
         length = std::max(qint64{0}, reply.body.size() + m_lengthDifference);
     }
     const qsizetype sent = m_isHalved ? reply.body.size() / 2 : reply.body.size();
-    transmission.bytes = headOf(reply, keepsAlive, length) + reply.body.left(sent);
+    const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent) + m_surplus;
+    transmission.bytes = whole.left(m_cut.value_or(whole.size()));
+    if (!m_surplus.isEmpty()) {
+        // Later, or it would be found and the connection given up.
+        transmission.pieceSize = whole.size() - m_surplus.size();
+        transmission.pause = surplusPause;
+    }
     return transmission;
 }
 

@@ -19,8 +19,9 @@ struct Request;
 /// below, and then, if wanted, delayed, given headers, or ended otherwise:
 ///     Fault::json("{\"result\":\"Incorrect\"}").after(200ms)
 ///
-/// The faults that send the real answer (delay, reset, wrongLength, drip, status without a body)
-/// let the endpoint do its work first; with all others accounts and issues are left as they are.
+/// The faults that send the real answer (delay, reset, cut, wrongLength, drip, gzip, surplus,
+/// status without a body) let the endpoint do its work first; with all others accounts and issues
+/// are left as they are.
 class Fault {
 public:
     /// The real answer, so much later.
@@ -31,11 +32,19 @@ public:
     static Fault close();
     /// Headers and the first half of the real answer's body, then a TCP reset.
     static Fault reset();
+    /// The first so many bytes of the real answer, its head among them; then TCP is closed without
+    /// the TLS farewell.
+    static Fault cut(qint64 size);
     /// The real answer under a Content-Length that is off by so many bytes (never below 0); then
     /// the connection is closed. With 0 the length is right.
     static Fault wrongLength(qint64 difference);
     /// The real answer in pieces of so many bytes, with a pause between them.
     static Fault drip(qint64 pieceSize, std::chrono::milliseconds pause);
+    /// The real answer compressed, with so many bytes missing at its end, under the length that it
+    /// then has.
+    static Fault gzip(qint64 missing = 0);
+    /// The real answer, and a moment later these bytes, which nobody asked for.
+    static Fault surplus(const QByteArray &bytes);
     /// The real answer's body under another HTTP status (200 to 999).
     static Fault status(int code);
     /// This body, as application/json, under this HTTP status.
@@ -44,10 +53,14 @@ public:
     static Fault raw(const QByteArray &bytes);
     /// HTTP headers without a length and a body of blanks that never ends.
     static Fault endless();
+    /// No answer, but TLS key updates without end.
+    static Fault keyUpdates();
     /// A redirect to this Location, sent as it stands.
     static Fault redirect(const QByteArray &location, int code = 302);
     /// A redirect to the request's own target: a loop for as many requests as it is staged for.
     static Fault redirectLoop(int code = 302);
+    /// A redirect to the request's own target, made longer: another one each time.
+    static Fault redirectFurther(int code = 302);
     /// A redirect to the same target over plain http.
     static Fault redirectToHttp(int code = 302);
     /// A redirect to the same target of this service under its other name: from "localhost" to
@@ -62,6 +75,8 @@ public:
     [[nodiscard]] Fault withHeader(const QByteArray &name, const QByteArray &value) const;
     /// The same, without a Content-Length field: the end of the connection ends the body.
     [[nodiscard]] Fault withoutLength() const;
+    /// The same compressed, with so many bytes missing at its end.
+    [[nodiscard]] Fault compressed(qint64 missing = 0) const;
     /// The same, with the connection ended in this way after the last byte.
     [[nodiscard]] Fault ending(Transmission::Ending ending) const;
 
@@ -81,6 +96,10 @@ private:
     std::optional<int> m_status;
     QList<Header> m_headers;
     qint64 m_lengthDifference = 0;
+    /// Missing at the end of the compressed body. Absent: it is not compressed.
+    std::optional<qint64> m_missing;
+    std::optional<qint64> m_cut;
+    QByteArray m_surplus;
     bool m_hasLength = true;
     bool m_isRaw = false;
     bool m_isHalved = false;

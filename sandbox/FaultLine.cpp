@@ -48,6 +48,9 @@ Fault redirect(Arguments &arguments)
     if (where == "loop"_L1) {
         return Fault::redirectLoop();
     }
+    if (where == "further"_L1) {
+        return Fault::redirectFurther();
+    }
     if (where == "http"_L1) {
         return Fault::redirectToHttp();
     }
@@ -81,9 +84,20 @@ constexpr std::array faultWords{
               "close                  closed without an answer"},
     FaultWord{"reset"_L1, 0, [](Arguments &) { return Fault::reset(); },
               "reset                  half the real answer, then a TCP reset"},
+    FaultWord{
+        "cut"_L1, 1, [](Arguments &a) { return Fault::cut(a.number(0, 0, maximum)); },
+        "cut BYTES              so much of the real answer, then TCP is closed and TLS is not"},
     FaultWord{"length"_L1, 1,
               [](Arguments &a) { return Fault::wrongLength(a.number(0, -maximum, maximum)); },
               "length DIFFERENCE      the real answer, its Content-Length off by so many bytes"},
+    FaultWord{"unmeasured"_L1, 0,
+              [](Arguments &) { return Fault().withoutLength().ending(Transmission::Ending::Cut); },
+              "unmeasured             the real answer without a length, then TCP is closed and TLS "
+              "is not"},
+    FaultWord{"gzip"_L1, 1, [](Arguments &a) { return Fault::gzip(a.number(0, 0, maximum)); },
+              "gzip MISSING           the real answer compressed, less so many bytes at its end"},
+    FaultWord{"surplus"_L1, 1, [](Arguments &a) { return Fault::surplus(unescaped(a.bytes(0))); },
+              "surplus BYTES          the real answer, and a moment later these bytes"},
     FaultWord{"drip"_L1, 2,
               [](Arguments &a) { return Fault::drip(a.number(0, 1, maximum), a.time(1)); },
               "drip BYTES MS          the real answer in pieces, with pauses"},
@@ -97,16 +111,20 @@ constexpr std::array faultWords{
         "raw BYTES              these bytes and nothing else; \\r \\n \\t \\\\ \\xNN are bytes"},
     FaultWord{"endless"_L1, 0, [](Arguments &) { return Fault::endless(); },
               "endless                a body without an end"},
-    FaultWord{
-        "redirect"_L1, 1, redirect,
-        "redirect WHERE         loop, http, host (this service's other name), /path or a URL"},
+    FaultWord{"key-updates"_L1, 0, [](Arguments &) { return Fault::keyUpdates(); },
+              "key-updates            TLS key updates without an end"},
+    FaultWord{"redirect"_L1, 1, redirect,
+              "redirect WHERE         loop, further, http, host (this service's other name), "
+              "/path, a URL"},
 };
 
-constexpr std::array<std::pair<QLatin1StringView, Reception>, 5> receptions{{
+constexpr std::array<std::pair<QLatin1StringView, Reception>, 7> receptions{{
     {"normal"_L1, Reception::Normal},
     {"expired"_L1, Reception::Expired},
     {"wrong-host"_L1, Reception::WrongHost},
     {"untrusted"_L1, Reception::Untrusted},
+    {"old-tls"_L1, Reception::OldTls},
+    {"late"_L1, Reception::Late},
     {"mute"_L1, Reception::Mute},
 }};
 

@@ -4,6 +4,7 @@
 
 #include "sandbox/QueryItems.h"
 
+#include <openssl/err.h>
 #include <openssl/ssl.h>
 
 #include <boost/asio/post.hpp>
@@ -35,7 +36,8 @@ namespace {
 constexpr auto handshakeTime = 10s;
 constexpr auto idleTime = 60s;
 constexpr auto farewellTime = 1s;
-constexpr std::uint32_t headerLimit = 98'304;
+// A field of 64 KiB is more than the parser has room for.
+constexpr std::uint32_t headerLimit = 65'536;
 constexpr std::uint64_t bodyLimit = 65'536;
 
 int problemOf(const error_code &error)
@@ -57,30 +59,17 @@ asio::ssl::context shared(SSL_CTX *context)
 }
 
 // Every operation below runs on the server's thread, and is followed by at most one other.
-class Connection final : public HttpsConnection, public std::enable_shared_from_this<Connection> {
+class Connection final : public std::enable_shared_from_this<Connection> {
 public:
-    Connection(tcp::socket socket, SSL_CTX *context, const HttpsServer::Handler &handler,
-               HttpsConnection::Set &all)
+    Connection(tcp::socket socket, SSL_CTX *context, const HttpsServer::Handler &handler)
         : m_context(shared(context)),
           m_stream(std::move(socket), m_context),
           m_timer(m_stream.get_executor()),
-          m_handler(handler),
-          m_all(all)
+          m_handler(handler)
     {
-        m_all.insert(this);
     }
-    ~Connection() override { m_all.erase(this); }
 
-    void handshake()
-    {
-        tcpStream().expires_after(handshakeTime);
-        m_stream.async_handshake(asio::ssl::stream_base::server,
-                                 [self = shared_from_this()](error_code error) {
-                                     if (!error) {
-                                         self->read();
-                                     }
-                                 });
-    }
+    void welcome(std::chrono::milliseconds delay) { pauseThen(delay, &Connection::handshake); }
 
     // Reads and drops whatever comes, until the client goes.
     template <typename Stream>
@@ -97,20 +86,22 @@ public:
 
     void outwait() { outwait(tcpStream()); }
 
-    void closeWhenIdle() override
-    {
-        m_isLeaving = true;
-        if (m_isIdle) {
-            tcpStream().close();
-        }
-    }
-
 private:
     beast::tcp_stream &tcpStream() { return m_stream.next_layer(); }
 
+    void handshake()
+    {
+        tcpStream().expires_after(handshakeTime);
+        m_stream.async_handshake(asio::ssl::stream_base::server,
+                                 [self = shared_from_this()](error_code error) {
+                                     if (!error) {
+                                         self->read();
+                                     }
+                                 });
+    }
+
     void read()
     {
-        m_isIdle = true;
         m_parser.emplace();
         m_parser->header_limit(headerLimit);
         m_parser->body_limit(bodyLimit);
@@ -122,7 +113,6 @@ private:
 
     void haveRead(const error_code &error)
     {
-        m_isIdle = false;
         if (error == http::error::end_of_stream) {
             return farewell();
         }
@@ -174,19 +164,19 @@ private:
     {
         m_transmission = std::move(transmission);
         m_sent = 0;
-        pauseThenWrite(m_transmission.delay);
+        pauseThen(m_transmission.delay, &Connection::write);
     }
 
-    void pauseThenWrite(std::chrono::milliseconds time)
+    void pauseThen(std::chrono::milliseconds time, void (Connection::*step)())
     {
         if (time <= 0ms) {
-            return write();
+            return (this->*step)();
         }
         tcpStream().expires_never();
         m_timer.expires_after(time);
-        m_timer.async_wait([self = shared_from_this()](error_code error) {
+        m_timer.async_wait([self = shared_from_this(), step](error_code error) {
             if (!error) {
-                self->write();
+                (self.get()->*step)();
             }
         });
     }
@@ -206,7 +196,7 @@ private:
                                   return;
                               }
                               self->m_sent += written;
-                              self->pauseThenWrite(self->m_transmission.pause);
+                              self->pauseThen(self->m_transmission.pause, &Connection::write);
                           });
     }
 
@@ -226,7 +216,7 @@ private:
     {
         switch (m_transmission.ending) {
         case Transmission::Ending::KeepOpen:
-            return m_isLeaving ? tcpStream().close() : read();
+            return read();
         case Transmission::Ending::Close:
             return farewell();
         case Transmission::Ending::Cut:
@@ -238,39 +228,84 @@ private:
         }
         case Transmission::Ending::Silence:
             return outwait(m_stream);
+        case Transmission::Ending::KeyUpdates:
+            return startKeyUpdates();
+        }
+    }
+
+    // Past the stream, which sends none without a byte of data.
+    void startKeyUpdates()
+    {
+        tcp::socket &socket = tcpStream().socket();
+        error_code ignored;
+        socket.non_blocking(true, ignored);
+        SSL_set0_wbio(m_stream.native_handle(),
+                      BIO_new_socket(socket.native_handle(), BIO_NOCLOSE));
+        sendKeyUpdates();
+    }
+
+    void sendKeyUpdates()
+    {
+        // As many as there is room for: a client that reads them in one go never comes to an end.
+        constexpr int atOnce = 100'000;
+        SSL *ssl = m_stream.native_handle();
+        int state = SSL_ERROR_NONE;
+        for (int i = 0; i < atOnce && state == SSL_ERROR_NONE; ++i) {
+            SSL_key_update(ssl, SSL_KEY_UPDATE_NOT_REQUESTED);
+            ERR_clear_error();
+            state = SSL_get_error(ssl, SSL_do_handshake(ssl));
+        }
+        if (state == SSL_ERROR_NONE || state == SSL_ERROR_WANT_WRITE) {
+            tcpStream().socket().async_wait(tcp::socket::wait_write,
+                                            [self = shared_from_this()](error_code error) {
+                                                if (!error) {
+                                                    self->sendKeyUpdates();
+                                                }
+                                            });
         }
     }
 
     void farewell()
     {
         tcpStream().expires_after(farewellTime);
-        m_stream.async_shutdown([self = shared_from_this()](error_code) {});
+        m_stream.async_shutdown([self = shared_from_this()](error_code) { self->drain(); });
+    }
+
+    // Closing while something is still unread would take the answer back.
+    void drain()
+    {
+        error_code ignored;
+        tcpStream().socket().shutdown(tcp::socket::shutdown_send, ignored);
+        tcpStream().async_read_some(asio::buffer(m_dropped),
+                                    [self = shared_from_this()](error_code error, size_t) {
+                                        if (!error) {
+                                            self->drain();
+                                        }
+                                    });
     }
 
     asio::ssl::context m_context;
     asio::ssl::stream<beast::tcp_stream> m_stream;
     asio::steady_timer m_timer;
     const HttpsServer::Handler &m_handler;
-    HttpsConnection::Set &m_all;
     beast::flat_buffer m_buffer;
     std::optional<http::request_parser<http::string_body>> m_parser;
     Transmission m_transmission;
     size_t m_sent = 0;
-    bool m_isIdle = false;
-    bool m_isLeaving = false;
     std::array<char, 4096> m_dropped{};
 };
 
 } // namespace
 
-void HttpsConnection::start(tcp::socket socket, SSL_CTX *context,
-                            const HttpsServer::Handler &handler, Set &all)
+void HttpsConnection::start(tcp::socket socket, const HttpsServer::Welcome &welcome,
+                            const HttpsServer::Handler &handler)
 {
     error_code ignored;
     socket.set_option(tcp::no_delay(true), ignored);
-    const auto connection = std::make_shared<Connection>(std::move(socket), context, handler, all);
-    if (context) {
-        connection->handshake();
+    const auto connection =
+        std::make_shared<Connection>(std::move(socket), welcome.context, handler);
+    if (welcome.context) {
+        connection->welcome(welcome.delay);
     } else {
         connection->outwait();
     }

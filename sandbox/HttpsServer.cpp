@@ -6,12 +6,11 @@
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/post.hpp>
 #include <boost/asio/steady_timer.hpp>
 
 #include <array>
 #include <atomic>
-#include <future>
+#include <csignal>
 #include <thread>
 
 namespace asio = boost::asio;
@@ -61,12 +60,27 @@ struct Listener {
 struct HttpsServer::State {
     Handler handler;
     Receiver receiver;
-    HttpsConnection::Set connections;
     std::atomic<int> accepted{0};
     quint16 port = 0;
     asio::io_context io{1};
     std::array<Listener, 2> listeners{Listener(io), Listener(io)};
     std::thread thread;
+
+    void run()
+    {
+        // Key updates are written past everything that would keep this signal away.
+        sigset_t signals{};
+        sigemptyset(&signals);
+        sigaddset(&signals, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+        while (!io.stopped()) {
+            try {
+                io.run();
+            } catch (...) {
+                continue;
+            }
+        }
+    }
 
     // Somebody else at the same port of ::1 would be asked first by a client of "localhost".
     error_code listenOnBoth(quint16 wanted)
@@ -92,7 +106,7 @@ struct HttpsServer::State {
                 return rest(listener);
             }
             ++accepted;
-            HttpsConnection::start(std::move(socket), receiver(), handler, connections);
+            HttpsConnection::start(std::move(socket), receiver(), handler);
             accept(listener);
         });
     }
@@ -134,7 +148,7 @@ QString HttpsServer::start(quint16 port)
             m_state->accept(listener);
         }
     }
-    m_state->thread = std::thread([state = m_state.get()] { state->io.run(); });
+    m_state->thread = std::thread([state = m_state.get()] { state->run(); });
     return {};
 }
 
@@ -154,21 +168,6 @@ quint16 HttpsServer::port() const
 int HttpsServer::connectionCount() const
 {
     return m_state->accepted;
-}
-
-void HttpsServer::closeIdleConnections()
-{
-    if (!m_state->thread.joinable()) {
-        return;
-    }
-    std::promise<void> done;
-    asio::post(m_state->io, [&] {
-        for (HttpsConnection *connection : m_state->connections) {
-            connection->closeWhenIdle();
-        }
-        done.set_value();
-    });
-    done.get_future().wait();
 }
 
 } // namespace sandbox

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -15,16 +16,24 @@ using SSL_CTX = struct ssl_ctx_st;
 namespace sandbox {
 
 /// HTTPS on the loopback addresses: accepts, reads requests, sends what it is told to. It knows
-/// nothing of paths, accounts or faults, and all its waiting is done on one thread of its own.
+/// nothing of paths, accounts or faults, and all its waiting is done on one thread of its own,
+/// which survives whatever is thrown there: the connection that it was thrown for is closed.
 class HttpsServer {
 public:
     /// Takes the bytes that answer a request, once, on any thread, as late as it likes.
     using Answer = std::function<void(Transmission)>;
     /// Called on the server's thread with each request; must not block.
     using Handler = std::function<void(Request, const Answer &)>;
-    /// Called on the server's thread for each connection: the certificate to show it, or null to
-    /// leave it without a handshake. The server keeps a reference of its own.
-    using Receiver = std::function<SSL_CTX *()>;
+    /// How a connection is received.
+    struct Welcome {
+        /// The certificate to show it; null leaves it without a handshake. The server keeps a
+        /// reference of its own.
+        SSL_CTX *context = nullptr;
+        /// Before the handshake.
+        std::chrono::milliseconds delay{0};
+    };
+    /// Called on the server's thread for each connection.
+    using Receiver = std::function<Welcome()>;
 
     HttpsServer(Handler handler, Receiver receiver);
     ~HttpsServer();
@@ -41,9 +50,6 @@ public:
     [[nodiscard]] quint16 port() const;
     /// TCP connections accepted so far.
     [[nodiscard]] int connectionCount() const;
-    /// Closes the connections that wait for a request before it returns, and those on which one is
-    /// being answered after the answer. Not to be called by the handler.
-    void closeIdleConnections();
 
 private:
     struct State;

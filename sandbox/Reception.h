@@ -14,6 +14,10 @@ enum class Reception {
     WrongHost,
     /// For the right names and in date, issued by an authority that nobody knows.
     Untrusted,
+    /// The ordinary certificate, by TLS 1.1 and nothing newer.
+    OldTls,
+    /// The ordinary certificate, two seconds after the connection was accepted.
+    Late,
     /// Accepted, and then not a byte: not even the TLS handshake.
     Mute,
 };

@@ -145,11 +145,6 @@ int Sandbox::connectionCount() const
     return m_service->server.connectionCount();
 }
 
-void Sandbox::closeIdleConnections()
-{
-    m_service->server.closeIdleConnections();
-}
-
 QByteArrayList Sandbox::messages() const
 {
     return m_service->outbox.messages();

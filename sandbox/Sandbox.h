@@ -107,13 +107,10 @@ public:
     /// Forgets all that is staged, and the requests seen. Answers under way are not affected.
     void clear();
 
-    /// Every request read so far, in the order in which they came.
+    /// The requests read so far, in the order in which they came: the last thousand of them.
     [[nodiscard]] QList<Request> requests() const;
     /// TCP connections accepted so far, whatever became of them.
     [[nodiscard]] int connectionCount() const;
-    /// Closes the connections that wait for a request before it returns, and those on which one is
-    /// being answered after the answer.
-    void closeIdleConnections();
 
     /// The reset messages written so far, oldest first, each a complete RFC 5322 message.
     [[nodiscard]] QByteArrayList messages() const;

@@ -14,6 +14,13 @@ using namespace Qt::StringLiterals;
 
 namespace sandbox {
 
+namespace {
+
+constexpr qsizetype mostRequests = 1000;
+constexpr auto late = std::chrono::seconds(2);
+
+} // namespace
+
 Service::Service(const Sandbox::Options &given)
     : m_options(given),
       m_temporary(given.directory.isEmpty() ? std::make_unique<QTemporaryDir>() : nullptr),
@@ -24,7 +31,7 @@ Service::Service(const Sandbox::Options &given)
       m_accountEndpoints(store, hasher, outbox, clock),
       server([this](const Request &request,
                     const HttpsServer::Answer &answer) { handle(request, answer); },
-             [this] { return m_certificates.context(book.takeReception()); })
+             [this] { return welcome(book.takeReception()); })
 {
     m_router.add(m_accountEndpoints.endpoints());
     m_router.add(m_issueEndpoints.endpoints());
@@ -69,11 +76,20 @@ void Service::clear()
     book.clear();
 }
 
+HttpsServer::Welcome Service::welcome(Reception reception) const
+{
+    return {m_certificates.context(reception),
+            reception == Reception::Late ? late : std::chrono::seconds(0)};
+}
+
 void Service::handle(const Request &request, const HttpsServer::Answer &answer)
 {
     std::optional<Fault> fault;
     if (!request.malformed) {
         const std::lock_guard guard(m_mutex);
+        if (m_requests.size() == mostRequests) {
+            m_requests.removeFirst();
+        }
         m_requests.append(request);
         fault = book.takeFault(request.path);
     }
@@ -82,11 +98,21 @@ void Service::handle(const Request &request, const HttpsServer::Answer &answer)
         return answer(fault->transmission(request, {}, server.port()));
     }
     m_pool.start([this, request, answer, fault] {
-        const Reply reply = m_router.answer(request);
-        log(request, QString::number(reply.status));
+        const Reply reply = answerTo(request);
         answer(fault ? fault->transmission(request, reply, server.port())
                      : transmissionOf(request, reply));
     });
+}
+
+Reply Service::answerTo(const Request &request) const
+{
+    try {
+        const Reply reply = m_router.answer(request);
+        log(request, QString::number(reply.status));
+        return reply;
+    } catch (...) {
+        return resultReply("Internal Server Error"_L1, 500);
+    }
 }
 
 // The path is the client's own text unless it is one of ours.

@@ -30,6 +30,8 @@ public:
     void clear();
 
 private:
+    [[nodiscard]] HttpsServer::Welcome welcome(Reception reception) const;
+    [[nodiscard]] Reply answerTo(const Request &request) const;
     void handle(const Request &request, const HttpsServer::Answer &answer);
     void log(const Request &request, const QString &outcome) const;
 

@@ -21,6 +21,8 @@ struct Transmission {
         Reset,
         /// Nothing more ever happens until the client goes.
         Silence,
+        /// TLS changes its keys over and over, and nothing else happens, until the client goes.
+        KeyUpdates,
     };
 
     /// Before the first byte.

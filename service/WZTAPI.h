@@ -50,7 +50,7 @@ public:
     static void userForAccount(const Text &email, UserCompletion completion);
 
     /// Lists a project's issues in the service's order. 1: the issues. 0: there are none, and nil.
-    /// 2: anything else.
+    /// 2: anything else, more than 100,000 issues among it.
     static void issuesForPackageIdentifier(const Text &identifier, IssuesCompletion completion);
 
     /// Files an issue against a project, in the name of who is signed in, and logs what it sends.

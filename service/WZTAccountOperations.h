@@ -27,7 +27,6 @@ namespace WZTAccountOperations {
 using namespace Qt::StringLiterals;
 
 using Method = WZTRequest::Method;
-using Repetition = WZTRequest::Repetition;
 using Sent = WZTParameter::Sent;
 
 inline constexpr WZTParameter loginParameters[] = {
@@ -39,7 +38,7 @@ inline constexpr WZTResultCode loginResults[] = {
     {"Incorrect"_L1, 0},
 };
 inline constexpr WZTAccountOperation login{
-    .request = {"/login.php"_L1, Method::Get, Repetition::Harmful, loginParameters},
+    .request = {"/login.php"_L1, Method::Get, loginParameters},
     .transportError = 3,
     .user = 1,
     .results = loginResults,
@@ -56,7 +55,7 @@ inline constexpr WZTResultCode registrationResults[] = {
     {"Improper request"_L1, 1},
 };
 inline constexpr WZTAccountOperation registration{
-    .request = {"/register.php"_L1, Method::Get, Repetition::Harmful, registrationParameters},
+    .request = {"/register.php"_L1, Method::Get, registrationParameters},
     .transportError = 4,
     .user = 2,
     .results = registrationResults,
@@ -72,8 +71,7 @@ inline constexpr WZTResultCode passwordResetResults[] = {
     {"User Not Found"_L1, 3},
 };
 inline constexpr WZTAccountOperation passwordReset{
-    .request = {"/passwordreset.php"_L1, Method::Post, Repetition::Harmful,
-                passwordResetParameters},
+    .request = {"/passwordreset.php"_L1, Method::Post, passwordResetParameters},
     .transportError = 2,
     .user = std::nullopt,
     .results = passwordResetResults,
@@ -91,7 +89,7 @@ inline constexpr WZTResultCode updateResults[] = {
     {"Incorrect"_L1, 0},
 };
 inline constexpr WZTAccountOperation update{
-    .request = {"/update.php"_L1, Method::Post, Repetition::Harmful, updateParameters},
+    .request = {"/update.php"_L1, Method::Post, updateParameters},
     .transportError = 3,
     .user = 1,
     .results = updateResults,
@@ -106,7 +104,7 @@ inline constexpr WZTResultCode fetchResults[] = {
     {"Invalid Request"_L1, 2},
 };
 inline constexpr WZTAccountOperation fetch{
-    .request = {"/user.php"_L1, Method::Get, Repetition::Harmless, fetchParameters},
+    .request = {"/user.php"_L1, Method::Get, fetchParameters},
     .transportError = 2,
     .user = 0,
     .results = fetchResults,

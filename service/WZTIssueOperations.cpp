@@ -16,14 +16,16 @@ using namespace Qt::StringLiterals;
 using WZTIssueOperations::list;
 using WZTIssueOperations::submission;
 
-/// What is no object makes no issue.
-QList<WZTPackageIssue> issuesIn(const QJsonArray &elements)
+/// What is no object makes no issue. Nil for too many.
+std::optional<QList<WZTPackageIssue>> issuesIn(const QJsonArray &elements)
 {
     QList<WZTPackageIssue> issues;
-    issues.reserve(elements.size());
     for (const QJsonValue element : elements) {
-        if (element.isObject())
-            issues.append(WZTPackageIssue::initWithIssueParams(element.toObject()));
+        if (!element.isObject())
+            continue;
+        if (issues.size() == list.most)
+            return std::nullopt;
+        issues.append(WZTPackageIssue::initWithIssueParams(element.toObject()));
     }
     return issues;
 }
@@ -37,9 +39,10 @@ void decodeList(const WZTRequestFrame::Reply &reply, const WZTAPI::IssuesComplet
     const QJsonArray elements = reply->array();
     if (elements.isEmpty()) {
         completion(list.emptyList, std::nullopt);
-    } else {
-        completion(list.issues, issuesIn(elements));
+        return;
     }
+    const auto issues = issuesIn(elements);
+    completion(issues ? list.issues : list.failure, issues);
 }
 
 NSUInteger codeForSubmission(const WZTRequestFrame::Reply &reply)

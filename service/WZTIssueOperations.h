@@ -8,10 +8,11 @@
 /// The list of a project's issues: its request, and the codes that its outcomes are reported as.
 struct WZTIssueListOperation {
     WZTRequest request;
-    /// For a transport error and whatever is no list.
+    /// For a transport error, whatever is no list, and a list of more issues than `most`.
     NSUInteger failure = 0;
     NSUInteger emptyList = 0;
     NSUInteger issues = 0;
+    qsizetype most = 0;
 };
 
 /// The submission of an issue. What is said under "result" does not count, only that it is said.
@@ -28,17 +29,17 @@ namespace WZTIssueOperations {
 using namespace Qt::StringLiterals;
 
 using Method = WZTRequest::Method;
-using Repetition = WZTRequest::Repetition;
 using Sent = WZTParameter::Sent;
 
 inline constexpr WZTParameter listParameters[] = {
     {"packageId"_L1},
 };
 inline constexpr WZTIssueListOperation list{
-    .request = {"/issues.php"_L1, Method::Get, Repetition::Harmless, listParameters},
+    .request = {"/issues.php"_L1, Method::Get, listParameters},
     .failure = 2,
     .emptyList = 0,
     .issues = 1,
+    .most = 100'000,
 };
 
 inline constexpr WZTParameter submissionParameters[] = {
@@ -48,7 +49,7 @@ inline constexpr WZTParameter submissionParameters[] = {
     {"description"_L1, Sent::UnlessNil},
 };
 inline constexpr WZTIssueSubmissionOperation submission{
-    .request = {"/submitissue.php"_L1, Method::Post, Repetition::Harmful, submissionParameters},
+    .request = {"/submitissue.php"_L1, Method::Post, submissionParameters},
     .accepted = 0,
     .refused = 1,
 };

@@ -35,7 +35,6 @@ NSMutableURLRequest urlRequest(const WZTRequest &request,
     // A text that is no valid Unicode makes no URL; the session refuses the empty one.
     auto result = NSMutableURLRequest::requestWithURL(components.URL().value_or(QByteArray()));
     result.setHTTPMethod(request.method == WZTRequest::Method::Get ? "GET" : "POST");
-    result.setRepeatable(request.repetition == WZTRequest::Repetition::Harmless);
     return result;
 }
 

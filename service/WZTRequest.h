@@ -24,12 +24,9 @@ struct WZTParameter {
 /// URL's query, and no header fields and no body are its own.
 struct WZTRequest {
     enum class Method { Get, Post };
-    enum class Repetition { Harmful, Harmless };
 
     QLatin1StringView path;
     Method method = Method::Get;
-    /// Whether the service may be sent it twice when a connection turns out to be dead.
-    Repetition repetition = Repetition::Harmful;
     /// In the order in which they are sent.
     std::span<const WZTParameter> parameters;
 };

@@ -10,7 +10,8 @@
 #include <memory>
 #include <optional>
 
-/// Any number of HTTPS transfers at a time, on one thread: the one that makes it and calls wait().
+/// Any number of HTTPS transfers at a time, on one thread: the one that calls wait(). It may be
+/// made on another, and reads the environment there and then only.
 /// Rules and limits are those of NSURLSession.
 class HTTPLoader {
 public:

@@ -24,16 +24,9 @@ public:
     /// "GET" or "POST"; a task with any other method fails with NSURLErrorUnsupportedURL.
     void setHTTPMethod(const QByteArray &method) { m_method = method; }
 
-    /// Whether sending the request twice does no harm. False, as by default, sends it exactly
-    /// once, over a connection of its own. True may reuse an open connection, and sends again
-    /// when the server turns out to have closed it.
-    [[nodiscard]] bool isRepeatable() const { return m_repeatable; }
-    void setRepeatable(bool repeatable) { m_repeatable = repeatable; }
-
 private:
     explicit NSMutableURLRequest(const QByteArray &url) : m_url(url) {}
 
     QByteArray m_url;
     QByteArray m_method = "GET";
-    bool m_repeatable = false;
 };

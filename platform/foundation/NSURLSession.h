@@ -4,25 +4,27 @@
 
 #include "platform/foundation/NSURLSessionConfiguration.h"
 #include "platform/foundation/NSURLSessionDataTask.h"
-
-#include <thread>
+#include "platform/foundation/NSURLSessionThread.h"
 
 /// An asynchronous HTTPS client on one thread of its own, asleep while nothing is under way.
 ///
-/// HTTPS only, HTTP/1.1. A redirect is followed for "GET" and only to the same host and port, at
-/// most 20 in a row; any other redirect is an error. Sent header fields are Host, Accept and
-/// Accept-Encoding, and for "POST" a Content-Length of 0. No cookies, no cache, no credentials.
-/// Proxy variables of the environment are honoured, except for loopback addresses.
+/// HTTPS only, TLS 1.2 at least, HTTP/1.1. Every request goes over a connection of its own, and so
+/// exactly once. A redirect is followed for "GET" and only to the same host and port, at most 20 in
+/// a row and to no URL that was asked before; any other redirect is an error. Sent header fields
+/// are Host, Accept and Accept-Encoding, and for "POST" a Content-Length of 0. No cookies, no
+/// cache, no credentials. Proxy variables of the environment are honoured, except for loopback
+/// addresses; they are read when the session is made.
 ///
-/// A body is delivered only when the reply ended as it announced. Two truncations cannot be seen
-/// here: a reply without a length whose connection is closed early, and a compressed body that was
-/// cut before it was sent with its shorter length. What decodes the body has to notice.
+/// A body is delivered only when the reply ended as it announced. One truncation cannot be seen
+/// here: a body that was cut before it was sent with its shorter length, unless it is compressed.
+/// What decodes the body has to notice.
 class NSURLSession {
 public:
     explicit NSURLSession(const NSURLSessionConfiguration &configuration);
 
     /// Completes every task under way with NSURLErrorCancelled, on the session's thread, and
-    /// returns when the last completion has returned. Never call it from a completion.
+    /// returns when the last completion has returned. If that takes more than a second, the thread
+    /// is left behind, and what has not completed never does. Never call it from a completion.
     /// A session that was installed as the shared one is uninstalled at the end.
     ~NSURLSession();
 
@@ -47,5 +49,5 @@ public:
 
 private:
     std::shared_ptr<NSURLSessionQueue> m_queue;
-    std::thread m_thread;
+    NSURLSessionThread m_thread;
 };

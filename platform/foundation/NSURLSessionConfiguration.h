@@ -16,11 +16,11 @@ struct NSURLSessionConfiguration {
     /// "127.0.0.1:8443". The server must still prove to be the URL's host. Empty: as the URL says.
     QString connectTo;
 
-    /// A request fails with NSURLErrorTimedOut when nothing has been sent or received for so long.
-    /// A reply that keeps coming, however slowly, is never timed out.
+    /// A request fails with NSURLErrorTimedOut when no step of connecting was done and nothing of
+    /// the reply received for so long. A reply that keeps coming, however slowly, is not timed out.
     std::chrono::milliseconds timeoutIntervalForRequest = std::chrono::seconds(60);
 
     /// Longest body, in bytes after decompression; a longer one is
-    /// NSURLErrorDataLengthExceedsMaximum.
+    /// NSURLErrorDataLengthExceedsMaximum, as is one of more than 64 MiB before.
     qsizetype maximumBodyLength = qsizetype(16) * 1024 * 1024;
 };

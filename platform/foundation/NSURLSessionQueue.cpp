@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSURLSessionQueue.h"
 
-#include "platform/foundation/HTTPLoader.h"
 #include "platform/foundation/NSURLSessionDataTask.h"
+
+NSURLSessionQueue::NSURLSessionQueue(const NSURLSessionConfiguration &configuration)
+    : m_loader(configuration)
+{
+}
 
 bool NSURLSessionQueue::enqueue(const Task &task)
 {
@@ -12,9 +16,7 @@ bool NSURLSessionQueue::enqueue(const Task &task)
         return false;
     }
     m_incoming.push_back(task);
-    if (m_loader) {
-        m_loader->wake();
-    }
+    m_loader.wake();
     return true;
 }
 
@@ -22,29 +24,22 @@ void NSURLSessionQueue::stop()
 {
     const std::lock_guard lock(m_mutex);
     m_stopping = true;
-    if (m_loader) {
-        m_loader->wake();
-    }
+    m_loader.wake();
 }
 
-void NSURLSessionQueue::run(const NSURLSessionConfiguration &configuration)
+void NSURLSessionQueue::run()
 {
-    HTTPLoader loader(configuration);
-    setLoader(&loader);
     for (;;) {
         const Arrival arrival = takeArrivals();
         for (const Task &task : arrival.tasks) {
-            loader.start(task->originalRequest(), [task](const HTTPLoader::Result &result) {
-                task->complete(result.body, result.error);
-            });
+            start(task);
         }
         if (arrival.stopping) {
             break;
         }
-        loader.wait();
+        m_loader.wait();
     }
-    setLoader(nullptr);
-    loader.cancelAll();
+    m_loader.cancelAll();
     cancelArrivals();
 }
 
@@ -54,10 +49,17 @@ NSURLSessionQueue::Arrival NSURLSessionQueue::takeArrivals()
     return {std::exchange(m_incoming, {}), m_stopping};
 }
 
-void NSURLSessionQueue::setLoader(HTTPLoader *loader)
+void NSURLSessionQueue::start(const Task &task)
 {
-    const std::lock_guard lock(m_mutex);
-    m_loader = loader;
+    m_loader.start(task->originalRequest(),
+                   [this, task](const HTTPLoader::Result &result) { complete(task, result); });
+}
+
+void NSURLSessionQueue::complete(const Task &task, const HTTPLoader::Result &result) const
+{
+    if (!m_abandoned) {
+        task->complete(result.body, result.error);
+    }
 }
 
 /// Completions may resume further tasks; the queue closes when there are no more.
@@ -72,7 +74,7 @@ void NSURLSessionQueue::cancelArrivals()
         const std::vector<Task> tasks = std::exchange(m_incoming, {});
         lock.unlock();
         for (const Task &task : tasks) {
-            task->complete({}, NSURLErrorCancelled);
+            complete(task, {{}, NSURLErrorCancelled});
         }
     }
 }

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSURLSessionConfiguration.h"
+#include "platform/foundation/HTTPLoader.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <vector>
 
-class HTTPLoader;
 class NSURLSessionDataTask;
 
 /// Hands resumed tasks over to the thread of their session.
@@ -16,14 +16,19 @@ class NSURLSessionQueue {
 public:
     using Task = std::shared_ptr<NSURLSessionDataTask>;
 
+    explicit NSURLSessionQueue(const NSURLSessionConfiguration &configuration);
+
     /// False, and nothing done, once run() no longer takes tasks. Any thread.
     [[nodiscard]] bool enqueue(const Task &task);
 
     /// Makes run() cancel what is under way and return. Any thread.
     void stop();
 
+    /// From now on no completion is called. Any thread.
+    void abandon() { m_abandoned = true; }
+
     /// The life of the session's thread: runs tasks until stop().
-    void run(const NSURLSessionConfiguration &configuration);
+    void run();
 
 private:
     struct Arrival {
@@ -31,12 +36,14 @@ private:
         bool stopping = false;
     };
     Arrival takeArrivals();
-    void setLoader(HTTPLoader *loader);
+    void start(const Task &task);
+    void complete(const Task &task, const HTTPLoader::Result &result) const;
     void cancelArrivals();
 
+    HTTPLoader m_loader;
+    std::atomic<bool> m_abandoned = false;
     std::mutex m_mutex;
     std::vector<Task> m_incoming;
-    HTTPLoader *m_loader = nullptr;
     bool m_stopping = false;
     bool m_closed = false;
 };

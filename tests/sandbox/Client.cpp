@@ -42,7 +42,8 @@ Client::Client(quint16 port, const QString &caFile)
 {
 }
 
-Answer Client::send(const QByteArray &method, const QByteArray &target, long timeout)
+Answer Client::send(const QByteArray &method, const QByteArray &target, long timeout,
+                    const QByteArray &field)
 {
     CURL *handle = m_handle.get();
     Answer answer;
@@ -55,6 +56,10 @@ Answer Client::send(const QByteArray &method, const QByteArray &target, long tim
     curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, timeout);
+    const std::unique_ptr<curl_slist, void (*)(curl_slist *)> fields(
+        field.isEmpty() ? nullptr : curl_slist_append(nullptr, field.constData()),
+        curl_slist_free_all);
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, fields.get());
     if (method == "POST") {
         curl_easy_setopt(handle, CURLOPT_POST, 1L);
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, "");

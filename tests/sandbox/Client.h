@@ -28,8 +28,9 @@ class Client {
 public:
     Client(quint16 port, const QString &caFile);
 
-    /// The target is sent byte for byte.
-    Answer send(const QByteArray &method, const QByteArray &target, long timeout = 20'000);
+    /// The target is sent byte for byte, and so is one more header field if there is one.
+    Answer send(const QByteArray &method, const QByteArray &target, long timeout = 20'000,
+                const QByteArray &field = {});
     Answer get(const QByteArray &target) { return send("GET", target); }
     Answer post(const QByteArray &target) { return send("POST", target); }
 

@@ -9,6 +9,9 @@
 #include <QJsonArray>
 #include <QTest>
 
+#include <atomic>
+#include <stdexcept>
+
 using namespace Qt::StringLiterals;
 using sandbox::Sandbox;
 
@@ -96,7 +99,7 @@ private Q_SLOTS:
              {"POST /login.php", "GET /update.php",
               "GET /submitissue.php?{id}&title=t&reporterId=1"}},
             {"404 Not Found", {"GET /LOGIN.php"}},
-            {"414 URI Too Long", {"GET /user.php?" + QByteArray(70'000, 'x')}},
+            {"414 URI Too Long", {"GET /user.php?" + QByteArray(63'000, 'x')}},
             {"431 Request Header Fields Too Large", {"GET /" + QByteArray(100'000, 'x')}},
         };
         for (const auto &[outcome, requests] : rows) {
@@ -111,6 +114,49 @@ private Q_SLOTS:
         QCOMPARE(m_service.accountCount(), 1);
         QCOMPARE(m_service.issueCount(), 0);
         QVERIFY(get("/login.php?{e}=a&{p}={wrong}&{jo}&{p}={right}").isUser()); // the last counts
+    }
+
+    void aHeadTooLongIsAnsweredAndForgotten()
+    {
+        for (const int length : {65'533, 65'536, 70'000, 500'000}) {
+            const Answer answer =
+                m_client.send("GET", "/user.php", 20'000, "X: " + QByteArray(length, 'x'));
+            QCOMPARE(answer.error, 0);
+            QCOMPARE(answer.status, 431);
+            QVERIFY(answer.head.contains("Connection: close\r\n"));
+        }
+        QCOMPARE(m_client.send("GET", "/user.php", 20'000, "X: " + QByteArray(60'000, 'x')).status,
+                 400);
+    }
+
+    void whatIsThrownEndsNothing()
+    {
+        std::atomic<bool> throws = false;
+        Sandbox service(Sandbox::Options{.log = [&](const QString &) {
+            if (throws)
+                throw std::runtime_error("no room");
+        }});
+        Client client(service.port(), service.caFile());
+        throws = true;
+        QCOMPARE(client.get("/user.php").status, 500);
+        service.stage("/user.php", sandbox::Fault::json("{}"), -1);
+        QVERIFY(client.get("/user.php").error != 0);
+        service.clear();
+        throws = false;
+        QCOMPARE(client.get("/user.php").status, 400);
+    }
+
+    void requestsAreRememberedUpToANumber()
+    {
+        Sandbox service;
+        Client client(service.port(), service.caFile());
+        service.stage("*", sandbox::Fault::json("{}"), -1);
+        for (int i = 0; i < 1002; ++i)
+            (void)client.get('/' + QByteArray::number(i));
+        const auto requests = service.requests();
+        QCOMPARE(requests.size(), 1000);
+        QCOMPARE(requests.first().path, "/2");
+        QCOMPARE(requests.last().path, "/1001");
     }
 
     void aRegistrationIsKeptAsTyped()

@@ -1,12 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "sandbox/ControlSocket.h"
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
 #include "tests/support/TestRunner.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <curl/curl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -41,9 +49,12 @@ private Q_SLOTS:
             {"/user.php length -100000", CURLE_OK, 200},
             {"/user.php drip 50 20", CURLE_OK, 200},
             {"/user.php drip 1 5000", CURLE_OPERATION_TIMEDOUT, 0},
+            {"/user.php gzip 3", CURLE_OK, 200},
+            {"/user.php surplus x", CURLE_OK, 200},
             {"/user.php status 503", CURLE_OK, 503},
             {"/user.php endless", CURLE_WRITE_ERROR, 200},
             {"/user.php redirect loop", CURLE_OK, 302},
+            {"/user.php redirect further", CURLE_OK, 302},
             {"/user.php redirect http", CURLE_OK, 302},
             {"/user.php redirect host", CURLE_OK, 302},
             {"/user.php redirect /x.php", CURLE_OK, 302},
@@ -51,6 +62,8 @@ private Q_SLOTS:
             {"connection expired", CURLE_PEER_FAILED_VERIFICATION, 0},
             {"connection wrong-host 1", CURLE_PEER_FAILED_VERIFICATION, 0},
             {"connection untrusted", CURLE_PEER_FAILED_VERIFICATION, 0},
+            {"connection old-tls", CURLE_SSL_CONNECT_ERROR, 0},
+            {"connection late", CURLE_OK, 200},
             {"connection mute", CURLE_OPERATION_TIMEDOUT, 0},
         };
         for (const auto &[line, error, status] : rows) {
@@ -59,6 +72,46 @@ private Q_SLOTS:
             const Answer seen = answer(isLate ? 500 : 20'000);
             QVERIFY2(seen.error == error && (isLate || seen.status == status), line);
             QVERIFY2(answer().isUser(), line); // staged once
+        }
+    }
+
+    /// What libcurl makes of these depends on its version.
+    void stagedCuts()
+    {
+        for (const char *line :
+             {"/user.php cut 20", "/user.php unmeasured", "/user.php key-updates"})
+            QCOMPARE(m_service.stageLine(QString::fromLatin1(line)), QString());
+        const Answer cut = answer();
+        QVERIFY(cut.head.startsWith("HTTP/1.1 200 OK\r\n") && !cut.head.contains("Content-"));
+        const Answer unmeasured = answer();
+        QVERIFY(unmeasured.isUser() && !unmeasured.head.contains("Content-Length"));
+        m_service.stageLine(u"clear"_s);
+    }
+
+    void silentHoldersOfTheSocketDelayNobody()
+    {
+        const QTemporaryDir folder;
+        sandbox::ControlSocket control;
+        QCOMPARE(control.open(folder.path(), [](const QString &line) { return line; }), QString());
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        const QByteArray path = folder.filePath(u"control"_s).toLocal8Bit();
+        std::ranges::copy(path, address.sun_path);
+        std::array<int, 3> holders{};
+        for (int &holder : holders) {
+            holder = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+            QCOMPARE(
+                ::connect(holder, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+            QCOMPARE(::send(holder, "ha", 2, MSG_NOSIGNAL), 2);
+        }
+        QCOMPARE(sandbox::ControlSocket::send(folder.path(), u"in time"_s), u"error: in time"_s);
+        for (const int holder : holders) {
+            char answer[64];
+            // They are still there: nobody's turn had to end first.
+            QCOMPARE(::send(holder, "lf\n", 3, MSG_NOSIGNAL), 3);
+            const ssize_t length = ::recv(holder, answer, sizeof answer, 0);
+            QCOMPARE(QByteArray(answer, std::max(ssize_t(0), length)), "error: half\n");
+            ::close(holder);
         }
     }
 
@@ -85,9 +138,9 @@ private Q_SLOTS:
         for (const char *line :
              {"", "clear now", "login.php close", "/user.php", "/user.php sulk",
               "/user.php close x", "/user.php close 0", "/user.php close 1 1", "/user.php delay",
-              "/user.php delay -1", "/user.php drip 0 5", "/user.php status 99",
-              "/user.php json 200", "/user.php redirect elsewhere", "connection", "connection odd",
-              "connection mute x"})
+              "/user.php delay -1", "/user.php drip 0 5", "/user.php cut -1", "/user.php gzip",
+              "/user.php status 99", "/user.php json 200", "/user.php redirect elsewhere",
+              "connection", "connection odd", "connection mute x"})
             QVERIFY2(!m_service.stageLine(QString::fromLatin1(line)).isEmpty(), line);
         QVERIFY(answer().isUser());
     }

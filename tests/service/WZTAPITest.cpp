@@ -209,8 +209,11 @@ private Q_SLOTS:
     void listsBecomeIssues()
     {
         // The code, and the titles where a list is handed over.
-        const std::tuple<const char *, NSUInteger, std::optional<QStringList>> rows[] = {
+        const QByteArray most = '[' + QByteArray("1,{},").repeated(100'000);
+        const std::tuple<QByteArray, NSUInteger, std::optional<QStringList>> rows[] = {
             {"[]", 0, {}},
+            {most + "1]", 1, QStringList(100'000, u"nil"_s)},
+            {most + "{}]", 2, {}},
             {R"([1,{"title":"b"},null,"b",[{"title":"c"}],{}])", 1, {{u"b"_s, u"nil"_s}}},
             {R"([1,null,"b",[]])", 1, QStringList()},
             {R"({"title":"a"})", 2, {}},
@@ -220,8 +223,8 @@ private Q_SLOTS:
         };
         for (const auto &[body, code, titles] : rows) {
             const Outcome outcome = outcomeOfReply("/issues.php", body);
-            QVERIFY2(outcome.code == code, body);
-            QVERIFY2(outcome.issues.has_value() == titles.has_value(), body);
+            QVERIFY2(outcome.code == code, body.left(80).constData());
+            QVERIFY2(outcome.issues.has_value() == titles.has_value(), body.left(80).constData());
             QStringList found;
             for (const WZTPackageIssue &issue : outcome.issues.value_or(QList<WZTPackageIssue>()))
                 found.append(issue.title.value_or(u"nil"_s));
@@ -245,13 +248,15 @@ private Q_SLOTS:
             init();
             // Leaves a connection open that a careless client would use, lose and make up for.
             QCOMPARE(outcomeOf(operations.at("/user.php").start).code, 1);
-            m_service.stage("*", Fault::close(), -1);
+            m_service.stage("*", Fault::close());
+            m_service.stage("*", Fault::raw("HTTP/1.1 200 OK\r\n"));
+            m_service.stage("*", Fault::redirectLoop(), -1);
             const NSUInteger code = allCodes.at(path).transportError;
-            QCOMPARE(outcomeOf(operation.start).code, code);
+            for (int i = 0; i < 3; ++i)
+                QCOMPARE(outcomeOf(operation.start).code, code);
             m_session.reset();
             QCOMPARE(outcomeOf(operation.start).code, code);
-            if (path != "/user.php" && path != "/issues.php")
-                QCOMPARE(m_service.requests().size(), 2);
+            QCOMPARE(m_service.requests().size(), 4);
         }
     }
 

@@ -11,12 +11,12 @@ struct bio_st;
 struct ssl_ctx_st;
 
 /// One TLS connection and nothing around it: a request's bytes go out, its reply's come in.
-class KeptConnection {
+class BareConnection {
 public:
     /// Connects to that port of this machine, which `caFile` is to vouch for as "localhost".
-    KeptConnection(quint16 port, const QString &caFile);
-    ~KeptConnection();
-    Q_DISABLE_COPY_MOVE(KeptConnection)
+    BareConnection(quint16 port, const QString &caFile);
+    ~BareConnection();
+    Q_DISABLE_COPY_MOVE(BareConnection)
 
     /// The reply to `request`, read until it ends in `end`.
     QByteArray exchange(const QByteArray &request, const QByteArray &end);

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "bench/KeptConnection.h"
+#include "bench/BareConnection.h"
 
 #include <openssl/bio.h>
 #include <openssl/ssl.h>
 
-KeptConnection::KeptConnection(quint16 port, const QString &caFile)
+BareConnection::BareConnection(quint16 port, const QString &caFile)
     : m_context(SSL_CTX_new(TLS_client_method()), SSL_CTX_free),
       m_stream(BIO_new_ssl_connect(m_context.get()), BIO_free_all)
 {
@@ -20,9 +20,9 @@ KeptConnection::KeptConnection(quint16 port, const QString &caFile)
         qFatal("no connection to the service");
 }
 
-KeptConnection::~KeptConnection() = default;
+BareConnection::~BareConnection() = default;
 
-QByteArray KeptConnection::exchange(const QByteArray &request, const QByteArray &end)
+QByteArray BareConnection::exchange(const QByteArray &request, const QByteArray &end)
 {
     BIO_write(m_stream.get(), request.constData(), int(request.size()));
     QByteArray reply;

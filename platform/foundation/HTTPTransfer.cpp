@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/HTTPTransfer.h"
+
+#include "platform/foundation/HTTPErrors.h"
+
+#include <curl/curl.h>
+
+#include <array>
+
+namespace {
+
+constexpr int maximumRedirects = 20;
+constexpr size_t maximumHeadLength = size_t(256) * 1024;
+
+constexpr std::array stepsOfConnecting{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
+                                       CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
+
+/// What a URL asks its host for: path and query.
+QByteArray askedBy(const QByteArray &url)
+{
+    const QByteArray text = url.split('#').first();
+    const qsizetype path = text.indexOf('/', text.indexOf("://") + 3);
+    return path < 0 ? QByteArray("/") : text.mid(path);
+}
+
+} // namespace
+
+std::optional<NSURLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLRequest &request)
+{
+    const std::optional<URLOrigin> origin = URLOrigin::of(request.URL());
+    if (!origin) {
+        return NSURLErrorBadURL;
+    }
+    const QByteArray &method = request.HTTPMethod();
+    const bool supported = origin->scheme == "https" && (method == "GET" || method == "POST");
+    return supported ? std::nullopt : std::optional(NSURLErrorUnsupportedURL);
+}
+
+HTTPTransfer::HTTPTransfer(const NSMutableURLRequest &request,
+                           const NSURLSessionConfiguration &configuration, const HTTPProxy &proxy)
+    : m_request(request),
+      m_origin(URLOrigin::of(request.URL()).value_or(URLOrigin())),
+      m_maximumBodyLength(configuration.maximumBodyLength),
+      m_easy(curl_easy_init(), curl_easy_cleanup),
+      m_headers(nullptr, curl_slist_free_all),
+      m_connectTo(nullptr, curl_slist_free_all),
+      m_asked{askedBy(request.URL())},
+      m_body(m_maximumBodyLength)
+{
+    setConnection(configuration);
+    setRequest(proxy);
+    setCallbacks();
+}
+
+void HTTPTransfer::setConnection(const NSURLSessionConfiguration &configuration)
+{
+    CURL *easy = handle();
+    HTTPSecurity::apply(easy, configuration, &m_farewell);
+    if (!configuration.connectTo.isEmpty()) {
+        const QByteArray everything = "::" + configuration.connectTo.toLatin1();
+        m_connectTo.reset(curl_slist_append(nullptr, everything.constData()));
+        curl_easy_setopt(easy, CURLOPT_CONNECT_TO, m_connectTo.get());
+    }
+    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+    curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
+    // Over a connection that was open before, an unanswered request would be sent again, and what
+    // the server had left there would be taken for the answer.
+    curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
+    curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
+    curl_easy_setopt(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
+    curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    // A name look-up that hangs must not hold up the end of the session.
+    curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
+}
+
+void HTTPTransfer::setRequest(const HTTPProxy &proxy)
+{
+    CURL *easy = handle();
+    const QByteArray coding = QByteArray("Accept-Encoding: ") + HTTPBody::offered;
+    m_headers.reset(curl_slist_append(nullptr, coding.constData()));
+    if (m_request.HTTPMethod() == "POST") {
+        curl_slist_append(m_headers.get(), "Content-Type:");
+        curl_easy_setopt(easy, CURLOPT_POST, 1L);
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDS, "");
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE, 0L);
+    }
+    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
+    curl_easy_setopt(easy, CURLOPT_URL, m_request.URL().constData());
+    // Even if there are none: libcurl reads the environment for what it is not told.
+    curl_easy_setopt(easy, CURLOPT_PROXY, proxy.url.constData());
+    curl_easy_setopt(easy, CURLOPT_NOPROXY,
+                     m_origin.isLoopback() ? "*" : proxy.exceptions.constData());
+}
+
+void HTTPTransfer::setCallbacks()
+{
+    CURL *easy = handle();
+    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, onHeader);
+    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, onBody);
+    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    curl_easy_setopt(easy, CURLOPT_XFERINFOFUNCTION, onProgress);
+    curl_easy_setopt(easy, CURLOPT_XFERINFODATA, this);
+    curl_easy_setopt(easy, CURLOPT_NOPROGRESS, 0L);
+}
+
+size_t HTTPTransfer::onHeader(const char *line, size_t, size_t length, void *user)
+{
+    auto *transfer = static_cast<HTTPTransfer *>(user);
+    transfer->m_lastActivity = Clock::now();
+    transfer->m_headLength += length;
+    const QByteArrayView text(line, qsizetype(length));
+    if (transfer->m_headLength > maximumHeadLength) {
+        transfer->m_refusal = NSURLErrorDataLengthExceedsMaximum;
+    } else if (text == "\r\n" || text == "\n") {
+        transfer->takeHead();
+    }
+    return transfer->m_refusal ? 0 : length;
+}
+
+size_t HTTPTransfer::onBody(const char *bytes, size_t, size_t length, void *user)
+{
+    auto *transfer = static_cast<HTTPTransfer *>(user);
+    transfer->m_lastActivity = Clock::now();
+    transfer->m_refusal = transfer->m_body.append(bytes, length);
+    return transfer->m_refusal ? 0 : length;
+}
+
+int HTTPTransfer::onProgress(void *user, std::int64_t, std::int64_t, std::int64_t, std::int64_t)
+{
+    auto *transfer = static_cast<HTTPTransfer *>(user);
+    std::int64_t connecting = 0;
+    for (const CURLINFO step : stepsOfConnecting) {
+        curl_off_t microseconds = 0;
+        curl_easy_getinfo(transfer->handle(), step, &microseconds);
+        connecting += microseconds;
+    }
+    if (connecting != transfer->m_connecting) {
+        transfer->m_connecting = connecting;
+        transfer->m_lastActivity = Clock::now();
+    }
+    return 0;
+}
+
+/// Called at the empty line that ends a head. Of an interim one, with a status below 200, nothing
+/// counts; without the final one there is no reply, which libcurl does not notice.
+void HTTPTransfer::takeHead()
+{
+    if (m_hasHead || status() < 200) {
+        return;
+    }
+    m_hasHead = true;
+    // Any other would be decoded by libcurl, however much of it is missing.
+    const QByteArray framing = field("Transfer-Encoding").toLower();
+    if (!framing.isEmpty() && framing != "chunked") {
+        m_refusal = NSURLErrorBadServerResponse;
+    } else if (!m_body.setCoding(field("Content-Encoding"))) {
+        m_refusal = NSURLErrorCannotDecodeContentData;
+    }
+}
+
+std::optional<NSURLErrorCode> HTTPTransfer::failure(int reported) const
+{
+    if (m_refusal) {
+        return m_refusal;
+    }
+    if (reported != CURLE_OK) {
+        return HTTPErrors::codeOf(handle(), reported);
+    }
+    if (!m_hasHead || isCutOff()) {
+        return NSURLErrorNetworkConnectionLost;
+    }
+    return m_body.isWhole() ? std::nullopt : std::optional(NSURLErrorCannotDecodeContentData);
+}
+
+/// A body that only the end of its connection ends, and that end is none in good order.
+bool HTTPTransfer::isCutOff() const
+{
+    curl_off_t length = -1;
+    curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
+    const bool hasEnd =
+        length >= 0 || !field("Transfer-Encoding").isEmpty() || status() == 204 || status() == 304;
+    return !hasEnd && !*m_farewell;
+}
+
+long HTTPTransfer::status() const
+{
+    long status = 0;
+    curl_easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
+    return status;
+}
+
+/// The values of the final head's fields of that name.
+QByteArray HTTPTransfer::field(const char *name) const
+{
+    QByteArrayList values;
+    curl_header *found = nullptr;
+    while (curl_easy_header(handle(), name, size_t(values.size()), CURLH_HEADER, -1, &found)
+           == CURLHE_OK) {
+        values.append(QByteArray(found->value).trimmed());
+    }
+    return values.join(", ");
+}
+
+QByteArray HTTPTransfer::redirectTarget() const
+{
+    const char *target = nullptr;
+    curl_easy_getinfo(handle(), CURLINFO_REDIRECT_URL, &target);
+    return target;
+}
+
+/// Redirects are followed here and not by libcurl, which would go to any host, ask the same thing
+/// over and over and, for a "POST", send it again or turn it into a "GET".
+std::optional<NSURLErrorCode> HTTPTransfer::redirect(const QByteArray &target)
+{
+    if (m_request.HTTPMethod() != "GET" || URLOrigin::of(target) != m_origin) {
+        return NSURLErrorBadServerResponse;
+    }
+    if (m_asked.contains(askedBy(target)) || m_asked.size() > maximumRedirects) {
+        return NSURLErrorHTTPTooManyRedirects;
+    }
+    m_asked.append(askedBy(target));
+    m_body = HTTPBody(m_maximumBodyLength);
+    m_hasHead = false;
+    m_connecting = 0;
+    m_lastActivity = Clock::now();
+    curl_easy_setopt(handle(), CURLOPT_URL, target.constData());
+    return std::nullopt;
+}

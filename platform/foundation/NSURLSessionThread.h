@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <future>
+#include <thread>
+
+/// The thread of a URL session. It leaves every signal to the others, and keeps no program from
+/// ending.
+class NSURLSessionThread {
+public:
+    /// Starts it: it calls `life`, and ends.
+    explicit NSURLSessionThread(std::function<void()> life);
+    /// After end().
+    ~NSURLSessionThread() = default;
+    NSURLSessionThread(const NSURLSessionThread &) = delete;
+    NSURLSessionThread &operator=(const NSURLSessionThread &) = delete;
+
+    /// Waits until `life` has returned, for a second at most. False: it has not, and the thread is
+    /// left alone from now on, until the process ends.
+    [[nodiscard]] bool end();
+
+private:
+    std::future<void> m_ended;
+    std::thread m_thread;
+};

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+namespace sandbox {
+
+/// The bytes in the format of gzip.
+QByteArray gzipped(const QByteArray &bytes);
+
+} // namespace sandbox
