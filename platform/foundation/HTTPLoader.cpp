@@ -29,7 +29,7 @@ struct HTTPLoader::State {
     std::unique_ptr<Running> take(const Running *running);
     void finish(const Running *running, std::optional<NSURLErrorCode> error);
     void ended(Running &running, CURLcode result);
-    void redirect(Running &running, const QByteArray &target);
+    void redirect(Running &running, const NSMutableURLRequest &next);
     void finishTimedOut();
     [[nodiscard]] int pollTimeout() const;
 };
@@ -54,16 +54,16 @@ void HTTPLoader::State::ended(Running &running, CURLcode result)
 {
     if (const auto error = running.transfer.failure(result)) {
         finish(&running, error);
-    } else if (const QByteArray target = running.transfer.redirectTarget(); !target.isEmpty()) {
-        redirect(running, target);
+    } else if (const auto next = running.transfer.redirection()) {
+        redirect(running, *next);
     } else {
         finish(&running, std::nullopt);
     }
 }
 
-void HTTPLoader::State::redirect(Running &running, const QByteArray &target)
+void HTTPLoader::State::redirect(Running &running, const NSMutableURLRequest &next)
 {
-    if (const auto objection = running.transfer.redirect(target)) {
+    if (const auto objection = running.transfer.redirect(next)) {
         finish(&running, objection);
     } else {
         curl_multi_remove_handle(multi, running.transfer.handle());

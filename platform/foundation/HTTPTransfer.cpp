@@ -6,22 +6,26 @@
 
 #include <curl/curl.h>
 
+#include <QByteArrayList>
+
+#include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr int maximumRedirects = 20;
+constexpr size_t maximumRedirects = 20;
 constexpr size_t maximumHeadLength = size_t(256) * 1024;
 
 constexpr std::array stepsOfConnecting{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
                                        CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
 
 /// What a URL asks its host for: path and query.
-QByteArray askedBy(const QByteArray &url)
+QByteArrayView askedBy(QByteArrayView url)
 {
-    const QByteArray text = url.split('#').first();
+    const qsizetype fragment = url.indexOf('#');
+    const QByteArrayView text = fragment < 0 ? url : url.first(fragment);
     const qsizetype path = text.indexOf('/', text.indexOf("://") + 3);
-    return path < 0 ? QByteArray("/") : text.mid(path);
+    return path < 0 ? QByteArrayView("/") : text.sliced(path);
 }
 
 } // namespace
@@ -39,13 +43,12 @@ std::optional<NSURLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLReques
 
 HTTPTransfer::HTTPTransfer(const NSMutableURLRequest &request,
                            const NSURLSessionConfiguration &configuration, const HTTPProxy &proxy)
-    : m_request(request),
+    : m_asked{request},
       m_origin(URLOrigin::of(request.URL()).value_or(URLOrigin())),
       m_maximumBodyLength(configuration.maximumBodyLength),
       m_easy(curl_easy_init(), curl_easy_cleanup),
       m_headers(nullptr, curl_slist_free_all),
       m_connectTo(nullptr, curl_slist_free_all),
-      m_asked{askedBy(request.URL())},
       m_body(m_maximumBodyLength)
 {
     setConnection(configuration);
@@ -79,14 +82,14 @@ void HTTPTransfer::setRequest(const HTTPProxy &proxy)
     CURL *easy = handle();
     const QByteArray coding = QByteArray("Accept-Encoding: ") + HTTPBody::offered;
     m_headers.reset(curl_slist_append(nullptr, coding.constData()));
-    if (m_request.HTTPMethod() == "POST") {
+    if (m_asked.front().HTTPMethod() == "POST") {
         curl_slist_append(m_headers.get(), "Content-Type:");
         curl_easy_setopt(easy, CURLOPT_POST, 1L);
         curl_easy_setopt(easy, CURLOPT_POSTFIELDS, "");
         curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE, 0L);
     }
     curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
-    curl_easy_setopt(easy, CURLOPT_URL, m_request.URL().constData());
+    curl_easy_setopt(easy, CURLOPT_URL, m_asked.front().URL().constData());
     // Even if there are none: libcurl reads the environment for what it is not told.
     curl_easy_setopt(easy, CURLOPT_PROXY, proxy.url.constData());
     curl_easy_setopt(easy, CURLOPT_NOPROXY,
@@ -203,28 +206,31 @@ QByteArray HTTPTransfer::field(const char *name) const
     return values.join(", ");
 }
 
-QByteArray HTTPTransfer::redirectTarget() const
+std::optional<NSMutableURLRequest> HTTPTransfer::redirection() const
 {
     const char *target = nullptr;
     curl_easy_getinfo(handle(), CURLINFO_REDIRECT_URL, &target);
-    return target;
+    return target ? std::optional(NSMutableURLRequest::requestWithURL(target)) : std::nullopt;
 }
 
 /// Redirects are followed here and not by libcurl, which would go to any host, ask the same thing
 /// over and over and, for a "POST", send it again or turn it into a "GET".
-std::optional<NSURLErrorCode> HTTPTransfer::redirect(const QByteArray &target)
+std::optional<NSURLErrorCode> HTTPTransfer::redirect(const NSMutableURLRequest &next)
 {
-    if (m_request.HTTPMethod() != "GET" || URLOrigin::of(target) != m_origin) {
+    const QByteArrayView target = askedBy(next.URL());
+    if (m_asked.front().HTTPMethod() != "GET" || URLOrigin::of(next.URL()) != m_origin) {
         return NSURLErrorBadServerResponse;
     }
-    if (m_asked.contains(askedBy(target)) || m_asked.size() > maximumRedirects) {
+    const bool isAskedAgain = std::ranges::any_of(
+        m_asked, [&](const NSMutableURLRequest &asked) { return askedBy(asked.URL()) == target; });
+    if (isAskedAgain || m_asked.size() > maximumRedirects) {
         return NSURLErrorHTTPTooManyRedirects;
     }
-    m_asked.append(askedBy(target));
+    m_asked.push_back(next);
     m_body = HTTPBody(m_maximumBodyLength);
     m_hasHead = false;
     m_connecting = 0;
     m_lastActivity = Clock::now();
-    curl_easy_setopt(handle(), CURLOPT_URL, target.constData());
+    curl_easy_setopt(handle(), CURLOPT_URL, next.URL().constData());
     return std::nullopt;
 }

@@ -8,10 +8,11 @@
 #include "platform/foundation/NSMutableURLRequest.h"
 #include "platform/foundation/URLOrigin.h"
 
-#include <QByteArrayList>
-
 #include <chrono>
 #include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
 
 struct curl_slist;
 
@@ -38,11 +39,11 @@ public:
     /// Why there is no whole reply. `reported`: the CURLcode that the transfer ended with.
     [[nodiscard]] std::optional<NSURLErrorCode> failure(int reported) const;
 
-    /// Where a whole reply says that the answer is; empty if it is the answer.
-    [[nodiscard]] QByteArray redirectTarget() const;
+    /// Asks where a whole reply says that the answer is; nil if it is the answer.
+    [[nodiscard]] std::optional<NSMutableURLRequest> redirection() const;
 
-    /// Makes ready to ask `target` instead, or says why it must not be asked.
-    [[nodiscard]] std::optional<NSURLErrorCode> redirect(const QByteArray &target);
+    /// Makes ready to send `next` instead, or says why it must not be sent.
+    [[nodiscard]] std::optional<NSURLErrorCode> redirect(const NSMutableURLRequest &next);
 
     /// The decoded body of a whole reply.
     [[nodiscard]] const QByteArray &body() const { return m_body.decoded(); }
@@ -63,7 +64,8 @@ private:
     [[nodiscard]] long status() const;
     [[nodiscard]] QByteArray field(const char *name) const;
 
-    NSMutableURLRequest m_request;
+    /// The request, and those that it was redirected to.
+    std::vector<NSMutableURLRequest> m_asked;
     URLOrigin m_origin;
     qsizetype m_maximumBodyLength;
     HTTPSecurity::Farewell m_farewell;
@@ -71,7 +73,6 @@ private:
     Owned<curl_slist> m_headers;
     Owned<curl_slist> m_connectTo;
 
-    QByteArrayList m_asked;
     Clock::time_point m_lastActivity = Clock::now();
     std::int64_t m_connecting = 0;
     size_t m_headLength = 0;

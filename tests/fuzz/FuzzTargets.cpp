@@ -10,7 +10,7 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/foundation/URLOrigin.h"
 #include "service/WZTAPI.h"
-#include "tests/fuzz/ReplySession.h"
+#include "tests/fuzz/FixedReply.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +38,7 @@ QString utf16(const QByteArray &bytes)
 
 void readReply(const QByteArray &bytes)
 {
-    ReplySession session(bytes);
+    completeEveryTaskWith(bytes);
     int completions = 0;
     const auto userWith = [&](NSUInteger success) {
         return [&completions, success](NSUInteger code, const std::optional<WZTUser> &user) {
@@ -46,7 +46,7 @@ void readReply(const QByteArray &bytes)
             require((code == success) == user.has_value(), "one code comes with a user");
         };
     };
-    const auto code = [&](NSUInteger) { ++completions; };
+    const auto completed = [&](NSUInteger) { ++completions; };
     const auto issues = [&](NSUInteger code, const std::optional<QList<WZTPackageIssue>> &list) {
         ++completions;
         require((code == 1) == list.has_value(), "one code comes with issues");
@@ -55,11 +55,11 @@ void readReply(const QByteArray &bytes)
     const WZTAPI::Text text = u"x"_s;
     WZTAPI::loginToAccount(text, text, userWith(1));
     WZTAPI::registerEmail(text, text, text, userWith(2));
-    WZTAPI::resetAccountPassword(text, code);
+    WZTAPI::resetAccountPassword(text, completed);
     WZTAPI::updateAccount(text, text, text, text, userWith(1));
     WZTAPI::userForAccount(text, userWith(0));
     WZTAPI::issuesForPackageIdentifier(text, issues);
-    WZTAPI::submitIssueForPackage(text, text, text, code);
+    WZTAPI::submitIssueForPackage(text, text, text, completed);
     require(completions == 7, "each operation completes once");
 }
 

@@ -1,26 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/fuzz/ReplySession.h"
+#include "tests/fuzz/FixedReply.h"
+
+#include "platform/foundation/NSURLSession.h"
 
 namespace {
 
-NSURLSession *shared = nullptr;
+NSURLSession *installed = nullptr;
 QByteArray currentReply;
 
 } // namespace
 
-NSURLSession::NSURLSession(const NSURLSessionConfiguration &) {}
+NSURLSession::NSURLSession(const NSURLSessionConfiguration &) : m_thread([] {}) {}
 
-NSURLSession::~NSURLSession() = default;
+NSURLSession::~NSURLSession()
+{
+    (void)m_thread.end();
+}
 
 NSURLSession *NSURLSession::sharedSession()
 {
-    return shared;
+    return installed;
 }
 
 void NSURLSession::setSharedSession(NSURLSession *session)
 {
-    shared = session;
+    installed = session;
 }
 
 std::shared_ptr<NSURLSessionDataTask>
@@ -47,13 +52,9 @@ void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<NSURLE
     m_completion(data, std::nullopt);
 }
 
-ReplySession::ReplySession(const QByteArray &reply) : m_session(NSURLSessionConfiguration())
+void completeEveryTaskWith(const QByteArray &reply)
 {
+    static NSURLSession session{NSURLSessionConfiguration()};
+    NSURLSession::setSharedSession(&session);
     currentReply = reply;
-    NSURLSession::setSharedSession(&m_session);
-}
-
-ReplySession::~ReplySession()
-{
-    NSURLSession::setSharedSession(nullptr);
 }
