@@ -114,9 +114,11 @@ Fault Fault::endless()
     return fault;
 }
 
-Fault Fault::keyUpdates()
+Fault Fault::keyUpdates(int count)
 {
-    return raw({}).ending(Transmission::Ending::KeyUpdates);
+    Fault fault;
+    fault.m_manner.keyUpdates = count;
+    return fault;
 }
 
 Fault Fault::redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location)

@@ -20,8 +20,8 @@ struct Request;
 ///     Fault::json("{\"result\":\"Incorrect\"}").after(200ms)
 ///
 /// The faults that send the real answer (delay, reset, cut, wrongLength, drip, gzip, surplus,
-/// status without a body) let the endpoint do its work first; with all others accounts and issues
-/// are left as they are.
+/// keyUpdates, status without a body) let the endpoint do its work first; with all others accounts
+/// and issues are left as they are.
 class Fault {
 public:
     /// The real answer, so much later.
@@ -53,8 +53,8 @@ public:
     static Fault raw(const QByteArray &bytes);
     /// HTTP headers without a length and a body of blanks that never ends.
     static Fault endless();
-    /// No answer, but TLS key updates without end.
-    static Fault keyUpdates();
+    /// The real answer after so many TLS key updates; then TCP is closed.
+    static Fault keyUpdates(int count);
     /// A redirect to this Location, sent as it stands.
     static Fault redirect(const QByteArray &location, int code = 302);
     /// A redirect to the request's own target: a loop for as many requests as it is staged for.

@@ -111,8 +111,9 @@ constexpr std::array faultWords{
         "raw BYTES              these bytes and nothing else; \\r \\n \\t \\\\ \\xNN are bytes"},
     FaultWord{"endless"_L1, 0, [](Arguments &) { return Fault::endless(); },
               "endless                a body without an end"},
-    FaultWord{"key-updates"_L1, 0, [](Arguments &) { return Fault::keyUpdates(); },
-              "key-updates            TLS key updates without an end"},
+    FaultWord{"key-updates"_L1, 1,
+              [](Arguments &a) { return Fault::keyUpdates(a.number(0, 1, maximum)); },
+              "key-updates NUMBER     the real answer after so many TLS key updates"},
     FaultWord{"redirect"_L1, 1, redirect,
               "redirect WHERE         loop, further, http, host (this service's other name), "
               "/path, a URL"},

@@ -183,6 +183,9 @@ private:
 
     void write()
     {
+        if (m_transmission.keyUpdates > 0) {
+            return startKeyUpdates();
+        }
         const size_t left = size_t(m_transmission.bytes.size()) - m_sent;
         if (left == 0) {
             return m_transmission.isEndless ? writeBlanks() : end();
@@ -228,8 +231,6 @@ private:
         }
         case Transmission::Ending::Silence:
             return outwait(m_stream);
-        case Transmission::Ending::KeyUpdates:
-            return startKeyUpdates();
         }
     }
 
@@ -246,23 +247,28 @@ private:
 
     void sendKeyUpdates()
     {
-        // As many as there is room for: a client that reads them in one go never comes to an end.
-        constexpr int atOnce = 100'000;
+        constexpr int atOnce = 1000;
         SSL *ssl = m_stream.native_handle();
         int state = SSL_ERROR_NONE;
-        for (int i = 0; i < atOnce && state == SSL_ERROR_NONE; ++i) {
+        for (int i = 0; i < atOnce && m_transmission.keyUpdates > 0 && state == SSL_ERROR_NONE;
+             ++i, --m_transmission.keyUpdates) {
             SSL_key_update(ssl, SSL_KEY_UPDATE_NOT_REQUESTED);
             ERR_clear_error();
             state = SSL_get_error(ssl, SSL_do_handshake(ssl));
         }
-        if (state == SSL_ERROR_NONE || state == SSL_ERROR_WANT_WRITE) {
-            tcpStream().socket().async_wait(tcp::socket::wait_write,
-                                            [self = shared_from_this()](error_code error) {
-                                                if (!error) {
-                                                    self->sendKeyUpdates();
-                                                }
-                                            });
+        if (state != SSL_ERROR_NONE && state != SSL_ERROR_WANT_WRITE) {
+            return;
         }
+        if (state == SSL_ERROR_NONE && m_transmission.keyUpdates == 0) {
+            SSL_write(ssl, m_transmission.bytes.constData(), int(m_transmission.bytes.size()));
+            return tcpStream().close();
+        }
+        tcpStream().socket().async_wait(tcp::socket::wait_write,
+                                        [self = shared_from_this()](error_code error) {
+                                            if (!error) {
+                                                self->sendKeyUpdates();
+                                            }
+                                        });
     }
 
     void farewell()

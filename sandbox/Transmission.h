@@ -21,8 +21,6 @@ struct Transmission {
         Reset,
         /// Nothing more ever happens until the client goes.
         Silence,
-        /// TLS changes its keys over and over, and nothing else happens, until the client goes.
-        KeyUpdates,
     };
 
     /// Before the first byte.
@@ -30,6 +28,8 @@ struct Transmission {
     QByteArray bytes = {};
     /// Bytes sent at once; 0 is all of them.
     qint64 pieceSize = 0;
+    /// So often TLS changes its keys before the first byte; TCP is closed after the last one then.
+    int keyUpdates = 0;
     /// Between two pieces.
     std::chrono::milliseconds pause{0};
     /// Blanks follow the bytes until the client goes.
