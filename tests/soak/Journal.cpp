@@ -61,7 +61,9 @@ void Journal::noteHome()
     QFile file(QStringLiteral("/proc/self/statm"));
     if (!file.open(QFile::ReadOnly))
         return;
-    const qint64 pages = file.readAll().split(' ').at(1).toLongLong();
+    // Without what is mapped from files: fonts come into sight one by one.
+    const QByteArrayList sizes = file.readAll().split(' ');
+    const qint64 pages = sizes.at(1).toLongLong() - sizes.at(2).toLongLong();
     note("home " + QByteArray::number(living) + ' '
          + QByteArray::number(pages * ::sysconf(_SC_PAGESIZE) / 1024));
 }

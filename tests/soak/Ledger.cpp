@@ -51,7 +51,7 @@ void Ledger::take(const QByteArray &line)
         ++m_submitted[QString::fromUtf8(what)];
     } else if (event == "told") {
         ++m_told[QString::fromUtf8(what)];
-    } else if (event == "untold") {
+    } else if (event == "missing") {
         ++m_missing;
     } else if (event == "asks") {
         ++m_requests;

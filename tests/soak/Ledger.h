@@ -13,7 +13,7 @@
 ///     is USER             what the next start is to find
 ///     submits TITLE       a report goes out
 ///     told TITLE          the user was told that it is sent
-///     untold              nobody was told what became of a report
+///     missing             what became of something was awaited in vain
 ///     asks N, answered N  a request, and its completion
 ///     home OBJECTS KIB    what lives, and the memory, when nothing but Home is in sight
 class Ledger {

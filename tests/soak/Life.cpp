@@ -26,6 +26,8 @@
 
 #include <atomic>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -65,7 +67,7 @@ XLFormRowDescriptor &titleOf(const Form &form)
 
 class Person : public QObject {
 public:
-    explicit Person(quint32 life) : m_dice(life), m_life(life)
+    Person(quint32 life, useconds_t alarm) : m_dice(life), m_life(life), m_alarm(alarm)
     {
         otherMessages = qInstallMessageHandler(hearLog);
         connect(&m_shown, &UITransitionStack::topChanged, this, &Person::hearAlert);
@@ -84,9 +86,11 @@ private:
             &Person::tap,    &Person::tap,   &Person::tap,    &Person::tap,      &Person::drag,
             &Person::key,    &Person::key,   &Person::signIn, &Person::signIn,   &Person::change,
             &Person::change, &Person::ask,   &Person::ask,    &Person::fillDisk, &Person::report,
-            &Person::report, &Person::goHome};
+            &Person::report, &Person::goHome, &Person::goHome};
         note("step");
         (this->*m_dice.oneOf(std::span(steps)))();
+        if (m_alarm)
+            change();
         if (m_dice.once(3))
             WindowDriver::settle(m_view);
         else
@@ -122,24 +126,25 @@ private:
         login->passwordTextField()->setText(Life::password);
         login->login(nullptr);
         const auto isAnswered = [&] { return m_shown.top() != login; };
-        if (m_dice.once(2))
+        if (m_dice.below(4) > 0)
             (void)QTest::qWaitFor(isAnswered, patience);
     }
 
-    // As replies do, at any moment.
+    // As replies do, at any moment; perhaps the last thing that this process does.
     void change()
     {
-        if (!m_session.currentUser())
-            return;
-        if (m_dice.once(4)) {
-            m_session.logout();
-            return;
-        }
         const int place = m_dice.below(static_cast<int>(Life::addresses.size()));
         const QString address = Life::addresses.at(place);
         WZTUser user(place + 1, address, address);
         user.redditUsername = QString(m_dice.below(20000), u'x');
-        m_session.setCurrentUser(user);
+        auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
+        ::ualarm(m_dice.once(3) ? m_alarm : 0, 0);
+        if (login)
+            login->loginEnded(1, user);
+        else if (m_session.currentUser() && m_dice.once(4))
+            m_session.logout();
+        else if (m_session.currentUser())
+            m_session.setCurrentUser(user);
     }
 
     void ask()
@@ -213,7 +218,7 @@ private:
         filled->submitPressed(nullptr);
         const auto isOver = [&] { return untold.value(title) <= 0 || form() != filled; };
         if (m_dice.once(2) && !QTest::qWaitFor(isOver, patience))
-            note("untold");
+            note("missing");
     }
     void openForm()
     {
@@ -240,15 +245,17 @@ private:
             WindowDriver::settle(m_view);
         }
         m_delegate.rootVC()->navigationController()->popToRootViewControllerAnimated(true);
-        (void)QTest::qWaitFor([] { return pending == 0; }, patience);
+        if (!QTest::qWaitFor([] { return pending == 0; }, patience))
+            note("missing");
         WindowDriver::settle(m_view);
-        if (m_shown.top() == &m_tabs && m_titles > 1)
+        if (m_shown.top() == &m_tabs && m_titles > 0)
             Journal::noteHome();
     }
 
     QTimer m_next;
     RandomRuns::Dice m_dice;
     quint32 m_life;
+    useconds_t m_alarm;
     int m_titles = 0;
     int m_requests = 0;
     QQuickView &m_view =
@@ -270,9 +277,10 @@ int Life::live(int &argc, char *argv[])
     configuration.connectTo = u"127.0.0.1:%1"_s.arg(QLatin1StringView(argv[2]));
     configuration.certificateAuthorityFile = QString::fromLocal8Bit(argv[3]);
     configuration.timeoutIntervalForRequest = std::chrono::seconds(2);
+    const auto alarm = QByteArray(argv[4]).toUInt();
     argc = 1;
     Launch launch(argc, argv, configuration);
     std::unique_ptr<Person> person;
-    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life); });
+    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm); });
     return launch.run({});
 }

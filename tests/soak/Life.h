@@ -15,7 +15,8 @@ inline const QStringList addresses{QStringLiteral("jo@wzt.example"),
 inline const QString password = QStringLiteral("secret");
 
 /// The arguments behind the first: the life's number, which is its seed and tells its reports from
-/// those of others, the service's port and its authority. Returns the exit status.
+/// those of others, the service's port, its authority, and after how many microseconds of a change
+/// of the session the process dies; 0 for never. Returns the exit status.
 [[nodiscard]] int live(int &argc, char *argv[]);
 
 } // namespace Life

@@ -19,6 +19,8 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -28,7 +30,7 @@ using sandbox::Fault;
 using sandbox::Reception;
 using sandbox::Sandbox;
 
-constexpr int livesOfAShortRun = 6;
+constexpr int livesOfAShortRun = 8;
 constexpr int stepsOfAShortRun = 100;
 
 // None that lies: where the service says that it has a report, it has it.
@@ -45,7 +47,6 @@ const Fault faults[] = {
     Fault::json("[]").after(30ms),
     Fault::raw("HTTP/1.1 200 OK\r\n"),
     Fault::raw("\r\n\r\n"),
-    Fault::endless(),
     Fault::redirectLoop(),
     Fault::redirectToOtherHost(),
 };
@@ -75,7 +76,7 @@ public:
         const auto isTime = [&](int part) { return time.elapsed() >= part * seconds; };
         for (int lives = 0; seconds ? !isTime(500) : lives < livesOfAShortRun; ++lives)
             killOne();
-        live(Ledger::End::InOrder, [&, steps = 0](const QByteArray &line) mutable {
+        live(Ledger::End::InOrder, 0, [&, steps = 0](const QByteArray &line) mutable {
             steps += line == "step" ? 1 : 0;
             return seconds ? isTime(1000) : steps == stepsOfAShortRun;
         });
@@ -111,33 +112,28 @@ private:
         }
     }
 
-    // After some lines, and in half of the lives while a user is written.
+    // After some lines, or while somebody signs in or out.
     void killOne()
     {
-        const int lines = m_dice.between(1, 120);
-        const bool whileWritten = m_dice.once(2);
-        const auto delay = static_cast<unsigned long>(m_dice.below(3000));
-        live(Ledger::End::Killed, [&, taken = 0](const QByteArray &line) mutable {
-            if (++taken < lines || (whileWritten && !line.startsWith("may ")))
-                return false;
-            QThread::usleep(delay);
-            return true;
-        });
+        const int lines = m_dice.between(1, 80);
+        const int alarm = m_dice.once(3) ? 0 : m_dice.between(1, 1 << m_dice.between(4, 13));
+        live(Ledger::End::Killed, alarm,
+             [&, taken = 0](const QByteArray &) mutable { return ++taken == lines; });
     }
 
-    void live(Ledger::End wanted, const std::function<bool(const QByteArray &line)> &isEnough)
+    void live(Ledger::End wanted, int alarm,
+              const std::function<bool(const QByteArray &line)> &isEnough)
     {
         m_ledger.begin();
         TestProcess life;
         life.start(QCoreApplication::applicationFilePath(),
                    {QString::number(++m_life), QString::number(m_port),
-                    m_state.filePath(u"ca.pem"_s)});
+                    m_state.filePath(u"ca.pem"_s), QString::number(alarm)});
         bool isAsked = false;
         const auto takeLines = [&] {
             while (life.canReadLine()) {
                 const QByteArray line = life.readLine().trimmed();
                 m_ledger.take(line);
-                if (qEnvironmentVariableIsSet("DBG")) fprintf(stderr, "%s\n", line.constData());
                 if (line == "step")
                     makeTrouble();
                 if (!isAsked && isEnough(line)) {
@@ -151,8 +147,10 @@ private:
         life.waitForFinished(-1);
         takeLines();
         const bool inOrder = life.exitStatus() == QProcess::NormalExit && life.exitCode() == 0;
-        const bool asWanted = isAsked && (inOrder || wanted == Ledger::End::Killed);
-        if (qEnvironmentVariableIsSet("DBG")) fprintf(stderr, "life %u status %d code %d asked %d\n", m_life, int(life.exitStatus()), life.exitCode(), isAsked);
+        const bool isKilled = life.exitStatus() == QProcess::CrashExit
+            && (life.exitCode() == SIGKILL || (alarm && life.exitCode() == SIGALRM));
+        const bool asWanted = wanted == Ledger::End::Killed ? isKilled : isAsked && inOrder;
+        if (qEnvironmentVariableIsSet("DBG")) fprintf(stderr, "life %u status %d code %d asked %d alarm %d\n", m_life, int(life.exitStatus()), life.exitCode(), isAsked, alarm);
         m_ledger.end(asWanted ? wanted : Ledger::End::Crashed, takeDamaged());
     }
 
@@ -194,7 +192,7 @@ private:
 // [SECONDS [SEED]], or what Life takes.
 int main(int argc, char *argv[])
 {
-    if (argc == 4)
+    if (argc == 5)
         return Life::live(argc, argv);
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
