@@ -15,7 +15,7 @@ qint64 Ledger::Growth::end() const
 // What is made once and kept is no growth without bound.
 bool Ledger::Growth::isBounded() const
 {
-    return values.size() > 1 && end() <= values.first() + values.first() / 4;
+    return values.size() > 1 && end() <= values.first() + values.first() / 2;
 }
 
 int Ledger::beyond(const Counts &counts, const Counts &others)

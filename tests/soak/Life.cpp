@@ -35,8 +35,6 @@ namespace {
 using Form = WZTIssueReporterViewController;
 using Journal::note;
 
-constexpr int patience = 60000;
-
 // No key that writes: a report keeps the title that it was submitted with.
 constexpr Qt::Key keys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Up,  Qt::Key_Down,
                             Qt::Key_Return, Qt::Key_Escape,  Qt::Key_F5,  Qt::Key_PageUp,
@@ -57,6 +55,16 @@ void hearLog(QtMsgType type, const QMessageLogContext &context, const QString &m
         ++untold[match.captured(1)];
     } else if (type != QtInfoMsg) {
         otherMessages(type, context, message);
+    }
+}
+
+/// Waits for what must come. Once something has not, the verdict stands and no time is lost.
+void await(const std::function<bool()> &hasCome)
+{
+    static int patience = 60000;
+    if (!QTest::qWaitFor(hasCome, patience)) {
+        note("missing");
+        patience = 500;
     }
 }
 
@@ -83,9 +91,9 @@ private:
     void step()
     {
         static constexpr void (Person::*steps[])() = {
-            &Person::tap,    &Person::tap,   &Person::tap,    &Person::tap,      &Person::drag,
-            &Person::key,    &Person::key,   &Person::signIn, &Person::signIn,   &Person::change,
-            &Person::change, &Person::ask,   &Person::ask,    &Person::fillDisk, &Person::report,
+            &Person::tap,    &Person::tap,    &Person::tap,    &Person::tap,      &Person::drag,
+            &Person::key,    &Person::key,    &Person::signIn, &Person::signIn,   &Person::change,
+            &Person::change, &Person::ask,    &Person::ask,    &Person::fillDisk, &Person::report,
             &Person::report, &Person::goHome, &Person::goHome};
         note("step");
         (this->*m_dice.oneOf(std::span(steps)))();
@@ -127,7 +135,7 @@ private:
         login->login(nullptr);
         const auto isAnswered = [&] { return m_shown.top() != login; };
         if (m_dice.below(4) > 0)
-            (void)QTest::qWaitFor(isAnswered, patience);
+            await(isAnswered);
     }
 
     // As replies do, at any moment; perhaps the last thing that this process does.
@@ -217,8 +225,8 @@ private:
         const QString title = row.value().value_or(QString());
         filled->submitPressed(nullptr);
         const auto isOver = [&] { return untold.value(title) <= 0 || form() != filled; };
-        if (m_dice.once(2) && !QTest::qWaitFor(isOver, patience))
-            note("missing");
+        if (m_dice.once(2))
+            await(isOver);
     }
     void openForm()
     {
@@ -245,8 +253,7 @@ private:
             WindowDriver::settle(m_view);
         }
         m_delegate.rootVC()->navigationController()->popToRootViewControllerAnimated(true);
-        if (!QTest::qWaitFor([] { return pending == 0; }, patience))
-            note("missing");
+        await([] { return pending == 0; });
         WindowDriver::settle(m_view);
         if (m_shown.top() == &m_tabs && m_titles > 0)
             Journal::noteHome();

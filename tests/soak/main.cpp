@@ -150,7 +150,6 @@ private:
         const bool isKilled = life.exitStatus() == QProcess::CrashExit
             && (life.exitCode() == SIGKILL || (alarm && life.exitCode() == SIGALRM));
         const bool asWanted = wanted == Ledger::End::Killed ? isKilled : isAsked && inOrder;
-        if (qEnvironmentVariableIsSet("DBG")) fprintf(stderr, "life %u status %d code %d asked %d alarm %d\n", m_life, int(life.exitStatus()), life.exitCode(), isAsked, alarm);
         m_ledger.end(asWanted ? wanted : Ledger::End::Crashed, takeDamaged());
     }
 
