@@ -4,12 +4,18 @@
 
 #include <csignal>
 
+#include <linux/close_range.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 TestProcess::TestProcess()
 {
     setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    setChildProcessModifier([] {
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        // A port of the test's is not held open by the program.
+        ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+    });
 }
 
 TestProcess::~TestProcess()

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "tests/soak/Ledger.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+
+// A reply that is still awaited holds its screen.
+qint64 Ledger::Growth::end() const
+{
+    return *std::min_element(values.end() - (values.size() + 3) / 4, values.end());
+}
+
+// What is made once and kept is no growth without bound.
+bool Ledger::Growth::isBounded() const
+{
+    return values.size() > 1 && end() <= values.first() + values.first() / 2;
+}
+
+int Ledger::beyond(const Counts &counts, const Counts &others)
+{
+    int excess = 0;
+    for (auto each = counts.begin(); each != counts.end(); ++each)
+        excess += std::max(0, each.value() - others.value(each.key()));
+    return excess;
+}
+
+void Ledger::begin()
+{
+    ++m_lives;
+    m_isTorn = false;
+    m_pending.clear();
+    m_objects = m_memory = {};
+}
+
+void Ledger::take(const QByteArray &line)
+{
+    const qsizetype blank = line.indexOf(' ');
+    const QByteArray event = line.left(blank);
+    const QByteArray what = line.mid(blank + 1);
+    if (event == "found") {
+        m_isTorn = !m_kept.contains(what);
+        m_kept = {what};
+    } else if (event == "may") {
+        ++m_changes;
+        m_kept.insert(what);
+    } else if (event == "is") {
+        m_kept = {what};
+    } else if (event == "submits") {
+        ++m_submitted[QString::fromUtf8(what)];
+    } else if (event == "told") {
+        ++m_told[QString::fromUtf8(what)];
+    } else if (event == "missing") {
+        ++m_missing;
+    } else if (event == "asks") {
+        ++m_requests;
+        m_pending.insert(what);
+    } else if (event == "answered") {
+        m_missing += m_pending.remove(what) ? 0 : 1; // a second answer is as wrong as none
+    } else if (event == "home") {
+        m_objects.values.append(what.split(' ').at(0).toLongLong());
+        m_memory.values.append(what.split(' ').at(1).toLongLong());
+    }
+}
+
+void Ledger::end(End end, bool isDamaged)
+{
+    m_torn += m_isTorn || isDamaged ? 1 : 0;
+    m_missing += end == End::InOrder ? static_cast<int>(m_pending.size()) : 0;
+    m_crashes += end == End::Crashed ? 1 : 0;
+}
+
+bool Ledger::print(const QStringList &stored) const
+{
+    const auto total = [](const Counts &counts) {
+        return std::accumulate(counts.begin(), counts.end(), 0);
+    };
+    const auto row = [](const char *name, int count, int all, const char *what) {
+        std::printf("%-20s%8d  of %d %s\n", name, count, all, what);
+        return count == 0 && all > 0; // where nothing was tried nothing was shown
+    };
+    const auto growthRow = [](const char *name, const Growth &growth) {
+        if (growth.values.size() > 1)
+            std::printf("%-20s%8lld  at the end %lld\n", name, growth.values.first(), growth.end());
+        return growth.isBounded();
+    };
+    Counts inService;
+    for (const QString &title : stored)
+        ++inService[title];
+    const bool isRight[] = {
+        row("sessions torn", m_torn, m_changes, "changes"),
+        row("reports lost", beyond(m_told, inService), total(m_told), "told as sent"),
+        row("reports twice", beyond(inService, m_submitted), total(m_submitted), "submitted"),
+        row("completions missing", m_missing, m_requests, "requests"),
+        row("ended unasked", m_crashes, m_lives, "lives"),
+        growthRow("memory, KiB", m_memory),
+        growthRow("live objects", m_objects),
+    };
+    return std::ranges::all_of(isRight, [](bool right) { return right; });
+}
