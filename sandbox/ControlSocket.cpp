@@ -155,6 +155,16 @@ void ControlSocket::serve()
     }
 }
 
+/// What was wrong with the line, or nothing.
+QString ControlSocket::handled(const QString &line) const
+{
+    try {
+        return m_handler(line);
+    } catch (const std::exception &problem) {
+        return QString::fromUtf8(problem.what());
+    }
+}
+
 bool ControlSocket::converse(Client &client)
 {
     client.lastWord.start();
@@ -163,7 +173,7 @@ bool ControlSocket::converse(Client &client)
     }
     QByteArray &bytes = client.bytes;
     for (qsizetype end = bytes.indexOf('\n'); end >= 0; end = bytes.indexOf('\n')) {
-        const QString problem = m_handler(QString::fromUtf8(bytes.left(end)));
+        const QString problem = handled(QString::fromUtf8(bytes.left(end)));
         bytes.remove(0, end + 1);
         const QString answer = problem.isEmpty() ? u"ok"_s : u"error: "_s + problem;
         // Whoever does not read the answers is not waited for either.

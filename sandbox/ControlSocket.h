@@ -11,7 +11,7 @@ namespace sandbox {
 
 /// The Unix socket `control` in the service's directory, for its owner alone. It takes lines of
 /// UTF-8 and answers each with one: "ok", or "error: " and what is wrong. Nobody waits for a client
-/// who says nothing, and who does so for five seconds is let go of.
+/// who says nothing, and who does so for five to ten seconds is disconnected.
 class ControlSocket {
 public:
     /// Takes a line, and returns an empty text or what is wrong with it. Called on the socket's
@@ -34,6 +34,7 @@ public:
 private:
     struct Client;
     void serve();
+    [[nodiscard]] QString handled(const QString &line) const;
     /// False when the client is to go.
     [[nodiscard]] bool converse(Client &client);
 

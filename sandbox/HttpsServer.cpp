@@ -106,8 +106,8 @@ struct HttpsServer::State {
                 return rest(listener);
             }
             ++accepted;
+            accept(listener); // first: whatever is thrown for this one, the next is taken
             HttpsConnection::start(std::move(socket), receiver(), handler);
-            accept(listener);
         });
     }
 

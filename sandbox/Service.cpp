@@ -98,9 +98,13 @@ void Service::handle(const Request &request, const HttpsServer::Answer &answer)
         return answer(fault->transmission(request, {}, server.port()));
     }
     m_pool.start([this, request, answer, fault] {
-        const Reply reply = answerTo(request);
-        answer(fault ? fault->transmission(request, reply, server.port())
-                     : transmissionOf(request, reply));
+        try {
+            const Reply reply = answerTo(request);
+            answer(fault ? fault->transmission(request, reply, server.port())
+                         : transmissionOf(request, reply));
+        } catch (...) {
+            log(request, u"no answer"_s);
+        }
     });
 }
 

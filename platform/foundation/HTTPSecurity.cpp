@@ -39,6 +39,8 @@ CURLcode onContext(CURL *, void *given, void *user)
     SSL_CTX_set_info_callback(context, onState);
     // Or a server that sends key updates without end would keep the thread within one call.
     SSL_CTX_clear_mode(context, SSL_MODE_AUTO_RETRY);
+    // What is read ahead would wait unseen: the next call comes when the socket has more.
+    SSL_CTX_set_read_ahead(context, 0);
     *static_cast<Farewell *>(user) = farewell;
     return CURLE_OK;
 }

@@ -14,6 +14,8 @@
 namespace {
 
 constexpr size_t maximumRedirects = 20;
+/// Of a field, in one head. Each look-up goes through the whole of it.
+constexpr qsizetype maximumRepetition = 8;
 constexpr size_t maximumHeadLength = size_t(256) * 1024;
 
 constexpr std::array stepsOfConnecting{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
@@ -24,8 +26,9 @@ QByteArrayView askedBy(QByteArrayView url)
 {
     const qsizetype fragment = url.indexOf('#');
     const QByteArrayView text = fragment < 0 ? url : url.first(fragment);
-    const qsizetype path = text.indexOf('/', text.indexOf("://") + 3);
-    return path < 0 ? QByteArrayView("/") : text.sliced(path);
+    const auto *host = text.begin() + text.indexOf("://") + 3;
+    const auto *path = std::find_if(host, text.end(), [](char c) { return c == '/' || c == '?'; });
+    return path == text.end() ? QByteArrayView("/") : QByteArrayView(path, text.end());
 }
 
 } // namespace
@@ -199,8 +202,9 @@ QByteArray HTTPTransfer::field(const char *name) const
 {
     QByteArrayList values;
     curl_header *found = nullptr;
-    while (curl_easy_header(handle(), name, size_t(values.size()), CURLH_HEADER, -1, &found)
-           == CURLHE_OK) {
+    while (values.size() < maximumRepetition
+           && curl_easy_header(handle(), name, size_t(values.size()), CURLH_HEADER, -1, &found)
+               == CURLHE_OK) {
         values.append(QByteArray(found->value).trimmed());
     }
     return values.join(", ");

@@ -5,10 +5,12 @@
 #include <QByteArrayList>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
 
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -30,18 +32,24 @@ QByteArray socketName(const QByteArray &address)
     return {};
 }
 
-/// A socket that is connected to `name`, negative for none.
-int connectedSocket(const QByteArray &name)
+/// A socket that is connected to `name`. Negative for none, with EAGAIN in errno when as many wait
+/// there as may until `deadline`.
+int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
 {
     sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
     if (name.isEmpty() || size_t(name.size()) >= sizeof address.sun_path)
         return -1;
     std::copy(name.begin(), name.end(), address.sun_path);
     const auto length = socklen_t(offsetof(sockaddr_un, sun_path) + size_t(name.size()));
-    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const qint64 left = std::max(qint64(1), deadline.remainingTime()); // 0 would be for ever
+    const timeval patience{.tv_sec = left / 1000, .tv_usec = left % 1000 * 1000};
+    setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
     if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0)
         return descriptor;
+    const int reason = errno;
     close(descriptor);
+    errno = reason;
     return -1;
 }
 
@@ -59,11 +67,13 @@ bool answers(int descriptor, QDeadlineTimer deadline)
 
 bool busAnswers(const QByteArray &address, QDeadlineTimer deadline)
 {
-    // Of several the libraries take the first that accepts. What is refused is no reason to wait.
+    // Of several the libraries take the first that accepts; one that refuses answers at once.
     for (const QByteArray &one : address.split(';')) {
         if (!one.startsWith(transport))
             return true;
-        const int descriptor = connectedSocket(socketName(one));
+        const int descriptor = connectedSocket(socketName(one), deadline);
+        if (descriptor < 0 && errno == EAGAIN)
+            return false;
         if (descriptor < 0)
             continue;
         const bool answered = answers(descriptor, deadline);

@@ -14,6 +14,7 @@
 
 std::chrono::milliseconds LinuxHost::prepare()
 {
+    SingleInstance::prepareEnvironment();
     const QDeadlineTimer deadline(patience);
     if (!SessionBus::probe(deadline))
         qInfo("The session bus does not answer: this start does without it.");
@@ -70,8 +71,11 @@ void LinuxHost::tellAppearance()
 bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
                                    std::function<void(const QStringList &)> opened)
 {
-    if (!m_bus->isConnected())
+    if (!m_bus->isConnected()) {
+        if (!SessionBus::isDisabled())
+            qInfo("The session bus cannot be reached: this start is on its own.");
         return true;
+    }
     m_instance =
         std::make_unique<SingleInstance>(m_bus->connection(), m_applicationId, std::move(opened));
     return m_instance->claimOrHandOver(urls, QDeadlineTimer(m_patienceLeft));

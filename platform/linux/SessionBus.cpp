@@ -52,6 +52,11 @@ QDBusConnection connectToSession()
 
 } // namespace
 
+bool SessionBus::isDisabled()
+{
+    return qgetenv(addressVariable) == "disabled:";
+}
+
 bool SessionBus::probe(QDeadlineTimer deadline)
 {
     const bool alive = busAnswers(knownAddress(), deadline);

@@ -11,9 +11,12 @@
 class SessionBus {
 public:
     /// Asks the session bus whether it is alive and waits until `deadline` for an answer. False:
-    /// from then on there is no bus for this process and whatever it starts. Before the
+    /// from then on there is no bus for this process. Before the
     /// application object is made, whose plugins would wait for the bus much longer.
     static bool probe(QDeadlineTimer deadline);
+
+    /// There is no bus for this process: none is known, or it was found to be dead.
+    [[nodiscard]] static bool isDisabled();
 
     SessionBus();
     ~SessionBus();

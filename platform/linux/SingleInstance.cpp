@@ -36,10 +36,17 @@ QVariantMap platformDataFromEnvironment()
     return data;
 }
 
-/// Where the entries of the environment lie: what setenv copies it never frees, and another thread
-/// may still read what putenv was given.
+/// The tokens' entries of the environment. Other threads read the environment for their own
+/// variables, so its list never changes once they run: only the values of these entries do.
 constexpr size_t entryLength = 512;
 constinit std::array<std::array<char, entryLength>, tokenNames.size()> entries{};
+
+void setToken(size_t i, const QByteArray &token)
+{
+    const QByteArray entry = tokenNames[i].environment + ('=' + token);
+    if (size_t(entry.size()) < entryLength)
+        std::copy_n(entry.constData(), entry.size() + 1, entries[i].data());
+}
 
 /// Has the tokens in the environment while it lives: Qt takes one from there when a window asks to
 /// come to the front.
@@ -47,24 +54,27 @@ class EnvironmentTokens {
 public:
     explicit EnvironmentTokens(const QVariantMap &platformData)
     {
-        for (size_t i = 0; i < tokenNames.size(); ++i) {
-            const QString token = platformData.value(tokenNames[i].platformData).toString();
-            const QByteArray entry = tokenNames[i].environment + ('=' + token.toUtf8());
-            if (token.isEmpty() || size_t(entry.size()) >= entryLength)
-                continue;
-            std::copy_n(entry.constData(), entry.size() + 1, entries[i].data());
-            ::putenv(entries[i].data());
-        }
+        for (size_t i = 0; i < tokenNames.size(); ++i)
+            setToken(i, platformData.value(tokenNames[i].platformData).toString().toUtf8());
     }
     ~EnvironmentTokens()
     {
-        for (const TokenName &name : tokenNames)
-            qunsetenv(name.environment);
+        for (size_t i = 0; i < tokenNames.size(); ++i)
+            setToken(i, {});
     }
     Q_DISABLE_COPY_MOVE(EnvironmentTokens)
 };
 
 } // namespace
+
+void SingleInstance::prepareEnvironment()
+{
+    for (size_t i = 0; i < tokenNames.size(); ++i) {
+        setToken(i, {});
+        setToken(i, qgetenv(tokenNames[i].environment));
+        ::putenv(entries[i].data());
+    }
+}
 
 SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                                std::function<void(const QStringList &)> opened)
@@ -148,8 +158,8 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
     trimMemorySoon();
 }
 
-// A call may be long, and the allocator keeps what it once had. Once the bus connection's own
-// thread has let go of it as well.
+// A call may be long, and the allocator keeps what it once had. A second later the bus connection's
+// thread has freed its copy too.
 void SingleInstance::trimMemorySoon()
 {
     if (std::exchange(m_trimming, true))

@@ -19,6 +19,9 @@ class SingleInstance : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
+    /// Makes room for activation tokens in the environment. Before any thread is started.
+    static void prepareEnvironment();
+
     /// `opened` is called for each list of URLs handed over, empty for a mere activation.
     SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                    std::function<void(const QStringList &)> opened);

@@ -219,7 +219,8 @@ void UITransitionStack::finishLeaving(int index)
         entry.entered();
     if (--entry.departure->remaining == 0 && entry.departure->completion)
         entry.departure->completion();
-    entry.controller->viewDidLeave();
+    if (!entry.controller->m_stack) // or it has come again since
+        entry.controller->viewDidLeave();
 }
 
 // How far the controller at `index` is to come, given what is above it.

@@ -10,9 +10,9 @@ namespace BinaryList {
 
 inline QByteArray number(quint64 value, int size)
 {
-    QByteArray bytes;
-    for (int shift = 8 * size - 8; shift >= 0; shift -= 8)
-        bytes.append(char(value >> shift));
+    QByteArray bytes(size, '\0');
+    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte, value >>= 8)
+        *byte = char(value);
     return bytes;
 }
 

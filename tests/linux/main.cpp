@@ -33,6 +33,7 @@ int main(int argc, char **argv)
         return startApplication(QCoreApplication::arguments().sliced(2), patience);
     }
     const TestSession session;
+    (void)LinuxHost::prepare();
     qputenv("XDG_DATA_DIRS", QFile::encodeName(session.home()));
     qputenv("XDG_CONFIG_DIRS", QFile::encodeName(session.home()));
     const QGuiApplication application(argc, argv);

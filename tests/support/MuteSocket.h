@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -19,9 +20,25 @@ public:
             || listen(m_descriptor, 5) != 0)
             qFatal("No socket can be made.");
     }
-    ~MuteSocket() { close(m_descriptor); }
+    ~MuteSocket()
+    {
+        close(m_descriptor);
+        for (const int client : m_clients)
+            close(client);
+    }
+    /// From now on nobody else is even accepted.
+    void fill()
+    {
+        sockaddr_un address{};
+        socklen_t length = sizeof address;
+        getsockname(m_descriptor, reinterpret_cast<sockaddr *>(&address), &length);
+        do {
+            m_clients.append(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+        } while (connect(m_clients.last(), reinterpret_cast<sockaddr *>(&address), length) == 0);
+    }
     Q_DISABLE_COPY_MOVE(MuteSocket)
 
 private:
+    QList<int> m_clients;
     int m_descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 };
