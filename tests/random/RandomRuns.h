@@ -21,7 +21,7 @@ inline void each(quint32 count, const std::function<QString(quint32 seed)> &run)
     const auto first = static_cast<quint32>(qEnvironmentVariableIntValue("WZT_RANDOM_SEED"));
     QElapsedTimer time;
     time.start();
-    for (quint32 done = 0; seconds ? time.elapsed() < 1000 * seconds : done < count; ++done) {
+    for (quint32 done = 0; seconds ? time.elapsed() < 1000LL * seconds : done < count; ++done) {
         const quint32 seed = qMax(first, 1U) + done;
         const QString fault = run(seed);
         if (!fault.isEmpty() || QTest::currentTestFailed())

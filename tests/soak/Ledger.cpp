@@ -13,9 +13,9 @@ qint64 Ledger::Growth::end() const
 }
 
 // What is made once and kept is no growth without bound.
-bool Ledger::Growth::isBounded() const
+bool Ledger::Growth::isBelow(int percent) const
 {
-    return values.size() > 1 && end() <= values.first() + values.first() / 2;
+    return values.size() > 1 && end() - values.first() < values.first() * percent / 100;
 }
 
 int Ledger::beyond(const Counts &counts, const Counts &others)
@@ -80,10 +80,10 @@ bool Ledger::print(const QStringList &stored) const
         std::printf("%-20s%8d  of %d %s\n", name, count, all, what);
         return count == 0 && all > 0; // where nothing was tried nothing was shown
     };
-    const auto growthRow = [](const char *name, const Growth &growth) {
+    const auto growthRow = [](const char *name, const Growth &growth, int percent) {
         if (growth.values.size() > 1)
             std::printf("%-20s%8lld  at the end %lld\n", name, growth.values.first(), growth.end());
-        return growth.isBounded();
+        return growth.isBelow(percent);
     };
     Counts inService;
     for (const QString &title : stored)
@@ -94,8 +94,8 @@ bool Ledger::print(const QStringList &stored) const
         row("reports twice", beyond(inService, m_submitted), total(m_submitted), "submitted"),
         row("completions missing", m_missing, m_requests, "requests"),
         row("ended unasked", m_crashes, m_lives, "lives"),
-        growthRow("memory, KiB", m_memory),
-        growthRow("live objects", m_objects),
+        growthRow("memory, KiB", m_memory, 50),
+        growthRow("live objects", m_objects, 25),
     };
     return std::ranges::all_of(isRight, [](bool right) { return right; });
 }

@@ -34,7 +34,7 @@ private:
     struct Growth {
         QList<qint64> values; // of the last life
         [[nodiscard]] qint64 end() const;
-        [[nodiscard]] bool isBounded() const;
+        [[nodiscard]] bool isBelow(int percent) const;
     };
 
     /// How many there are of each beyond those in `others`.

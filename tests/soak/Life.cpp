@@ -99,10 +99,11 @@ private:
         (this->*m_dice.oneOf(std::span(steps)))();
         if (m_alarm)
             change();
-        if (m_dice.once(3))
+        if (m_dice.once(3)) {
             WindowDriver::settle(m_view);
-        else
+        } else {
             QTest::qWait(m_dice.below(30));
+        }
         m_next.start();
     }
 
@@ -142,17 +143,18 @@ private:
     void change()
     {
         const int place = m_dice.below(static_cast<int>(Life::addresses.size()));
-        const QString address = Life::addresses.at(place);
+        const QString &address = Life::addresses.at(place);
         WZTUser user(place + 1, address, address);
         user.redditUsername = QString(m_dice.below(20000), u'x');
         auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
         ::ualarm(m_dice.once(3) ? m_alarm : 0, 0);
-        if (login)
+        if (login) {
             login->loginEnded(1, user);
-        else if (m_session.currentUser() && m_dice.once(4))
+        } else if (m_session.currentUser() && m_dice.once(4)) {
             m_session.logout();
-        else if (m_session.currentUser())
+        } else if (m_session.currentUser()) {
             m_session.setCurrentUser(user);
+        }
     }
 
     void ask()

@@ -73,7 +73,7 @@ public:
     {
         QElapsedTimer time;
         time.start();
-        const auto isTime = [&](int part) { return time.elapsed() >= part * seconds; };
+        const auto isTime = [&](int part) { return time.elapsed() >= qint64(part) * seconds; };
         for (int lives = 0; seconds ? !isTime(500) : lives < livesOfAShortRun; ++lives)
             killOne();
         live(Ledger::End::InOrder, 0, [&, steps = 0](const QByteArray &line) mutable {
