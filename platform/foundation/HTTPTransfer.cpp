@@ -157,11 +157,10 @@ void HTTPTransfer::takeHead()
         return;
     }
     m_hasHead = true;
-    // Any other would be decoded by libcurl, however much of it is missing.
+    // libcurl 7 decodes any other, however much of it is missing; libcurl 8 refuses it like this.
     const QByteArray framing = field("Transfer-Encoding").toLower();
-    if (!framing.isEmpty() && framing != "chunked") {
-        m_refusal = NSURLErrorBadServerResponse;
-    } else if (!m_body.setCoding(field("Content-Encoding"))) {
+    const bool isFramed = framing.isEmpty() || framing == "chunked";
+    if (!isFramed || !m_body.setCoding(field("Content-Encoding"))) {
         m_refusal = NSURLErrorCannotDecodeContentData;
     }
 }

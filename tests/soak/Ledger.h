@@ -33,6 +33,7 @@ private:
     using Counts = QHash<QString, int>;
     struct Growth {
         QList<qint64> values; // of the last life
+        [[nodiscard]] qint64 begin() const;
         [[nodiscard]] qint64 end() const;
         [[nodiscard]] bool isBelow(int percent) const;
     };
