@@ -118,7 +118,7 @@ private Q_SLOTS:
 
     void aHeadTooLongIsAnsweredAndForgotten()
     {
-        for (const int length : {65'533, 65'536, 70'000, 500'000}) {
+        for (const int length : {65'533, 65'536, 70'000, 250'000}) {
             const Answer answer =
                 m_client.send("GET", "/user.php", 20'000, "X: " + QByteArray(length, 'x'));
             QCOMPARE(answer.error, 0);
