@@ -5,10 +5,14 @@
 #include "sandbox/HttpMessage.h"
 #include "sandbox/PrivateFile.h"
 
+#include <boost/asio/post.hpp>
+#include <boost/asio/thread_pool.hpp>
+
 #include <QFileInfo>
 
 #include <algorithm>
 #include <array>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -29,21 +33,21 @@ Service::Service(const Sandbox::Options &given)
       hasher(given.hashMemory, given.hashPasses),
       outbox(directory + u"/outbox"_s),
       m_accountEndpoints(store, hasher, outbox, clock),
+      m_pool(std::make_unique<boost::asio::thread_pool>(
+          std::max(2U, std::thread::hardware_concurrency()))),
       server([this](const Request &request,
                     const HttpsServer::Answer &answer) { handle(request, answer); },
              [this] { return welcome(book.takeReception()); })
 {
     m_router.add(m_accountEndpoints.endpoints());
     m_router.add(m_issueEndpoints.endpoints());
-    m_pool.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
 }
 
-// Work that is under way may still hold a connection, and must let go of it before the server goes.
+// Work in the pool holds connections of the server, so the pool is destroyed first.
 Service::~Service()
 {
     server.stop();
-    m_pool.clear();
-    m_pool.waitForDone();
+    m_pool.reset();
 }
 
 QString Service::start()
@@ -97,7 +101,7 @@ void Service::handle(const Request &request, const HttpsServer::Answer &answer)
         log(request, u"staged"_s);
         return answer(fault->transmission(request, {}, server.port()));
     }
-    m_pool.start([this, request, answer, fault] {
+    boost::asio::post(*m_pool, [this, request, answer, fault] {
         try {
             const Reply reply = answerTo(request);
             answer(fault ? fault->transmission(request, reply, server.port())

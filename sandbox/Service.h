@@ -11,7 +11,10 @@
 #include "sandbox/StageBook.h"
 
 #include <QTemporaryDir>
-#include <QThreadPool>
+
+namespace boost::asio {
+class thread_pool;
+}
 
 namespace sandbox {
 
@@ -56,7 +59,7 @@ private:
     Certificates m_certificates;
     std::mutex m_mutex;
     QList<Request> m_requests;
-    QThreadPool m_pool;
+    std::unique_ptr<boost::asio::thread_pool> m_pool;
 
 public:
     HttpsServer server;

@@ -18,7 +18,7 @@ drawings() {
 descriptions() {
     desktop-file-validate build/sandbox/packaging/*.desktop &&
         appstreamcli validate --no-net build/sandbox/packaging/*.metainfo.xml &&
-        [[ ! $(flatpak-builder --show-manifest build/sandbox/packaging/*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
+        [[ ! $(flatpak-builder --state-dir=build/lint/flatpak --show-manifest build/sandbox/packaging/*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
 }
 
 # tidy_one BASIS SOURCE: what was clean on the same basis is not looked at again.

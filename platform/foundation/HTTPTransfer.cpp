@@ -176,7 +176,14 @@ std::optional<NSURLErrorCode> HTTPTransfer::failure(int reported) const
     if (!m_hasHead || isCutOff()) {
         return NSURLErrorNetworkConnectionLost;
     }
-    return m_body.isWhole() ? std::nullopt : std::optional(NSURLErrorCannotDecodeContentData);
+    return hasNoBody() || m_body.isWhole() ? std::nullopt
+                                           : std::optional(NSURLErrorCannotDecodeContentData);
+}
+
+/// Whatever its head says of one.
+bool HTTPTransfer::hasNoBody() const
+{
+    return status() == 204 || status() == 304;
 }
 
 /// A body that only the end of its connection ends, and that end is none in good order.
@@ -184,8 +191,7 @@ bool HTTPTransfer::isCutOff() const
 {
     curl_off_t length = -1;
     curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
-    const bool hasEnd =
-        length >= 0 || !field("Transfer-Encoding").isEmpty() || status() == 204 || status() == 304;
+    const bool hasEnd = length >= 0 || !field("Transfer-Encoding").isEmpty() || hasNoBody();
     return !hasEnd && !*m_farewell;
 }
 

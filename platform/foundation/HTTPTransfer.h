@@ -61,6 +61,7 @@ private:
     void setCallbacks();
     void takeHead();
     [[nodiscard]] bool isCutOff() const;
+    [[nodiscard]] bool hasNoBody() const;
     [[nodiscard]] long status() const;
     [[nodiscard]] QByteArray field(const char *name) const;
 
