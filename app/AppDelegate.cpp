@@ -47,8 +47,9 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     m_currentUser = restoredUser();
     makeTabs();
     m_window->setRootViewController(m_tabController);
-    if (!m_currentUser)
+    if (!m_currentUser) {
         presentLogin(false);
+    }
     return true;
 }
 
@@ -67,8 +68,9 @@ void AppDelegate::makeTabs()
 std::optional<WZTUser> AppDelegate::restoredUser() const
 {
     const auto data = m_defaults.dataForKey(currentUserKey);
-    if (!data)
+    if (!data) {
         return std::nullopt;
+    }
     const auto coder = NSKeyedUnarchiver::unarchiveObjectWithData(*data, WZTUser::className);
     return coder ? std::optional(WZTUser::initWithCoder(*coder)) : std::nullopt;
 }
@@ -89,8 +91,9 @@ void AppDelegate::setCurrentUser(const WZTUser &user)
         return;
     }
     // Where nothing can be written the user is signed in until the application ends.
-    if (!m_defaults.setObject(data, currentUserKey))
+    if (!m_defaults.setObject(data, currentUserKey)) {
         forgetKeptUser();
+    }
     reloadTabs();
 }
 
@@ -117,8 +120,9 @@ void AppDelegate::logout()
 // The next start must not sign in somebody who has signed out, or whom another user has replaced.
 void AppDelegate::forgetKeptUser()
 {
-    if (!m_defaults.removeObjectForKey(currentUserKey))
+    if (!m_defaults.removeObjectForKey(currentUserKey)) {
         NSLog(u"The user's record cannot be removed: the next start finds it."_s);
+    }
 }
 
 void AppDelegate::presentLogin(bool animated)

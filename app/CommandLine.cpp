@@ -22,8 +22,9 @@ QList<QCommandLineOption> qtOptions()
           "qwindowicon"_L1, "qwindowtitle"_L1, "session"_L1, "title"_L1}) {
         options.append(QCommandLineOption(name, QString(), name));
     }
-    for (QCommandLineOption &option : options)
+    for (QCommandLineOption &option : options) {
         option.setFlags(QCommandLineOption::HiddenFromHelp);
+    }
     return options;
 }
 
@@ -32,8 +33,9 @@ QList<QCommandLineOption> qtOptions()
 QStringList CommandLine::urls(int argc, char *argv[])
 {
     QStringList arguments;
-    for (int index = 0; index < argc; ++index)
+    for (int index = 0; index < argc; ++index) {
         arguments.append(QString::fromLocal8Bit(argv[index]));
+    }
 
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
     QCommandLineParser parser;
@@ -54,8 +56,9 @@ QStringList CommandLine::urls(int argc, char *argv[])
         const QCoreApplication application(argc, argv);
         QCoreApplication::setApplicationName(u"wzt-companion"_s);
         QCoreApplication::setApplicationVersion(QLatin1StringView(BuildConstants::version));
-        if (known && parser.isSet(help))
+        if (known && parser.isSet(help)) {
             parser.showHelp();
+        }
         parser.process(arguments);
     }
     return parser.positionalArguments();

@@ -57,13 +57,15 @@ Launch::~Launch() = default;
 int Launch::run(const QStringList &urls)
 {
     const auto opened = [this](const QStringList &later) {
-        if (!m_window)
+        if (!m_window) {
             return;
+        }
         openURLs(later);
         m_window->show();
     };
-    if (!m_host.becomeOnlyInstance(urls, opened))
+    if (!m_host.becomeOnlyInstance(urls, opened)) {
         return 0;
+    }
 
     const TerminationSignals terminationSignals(&QGuiApplication::quit);
     start();
@@ -98,8 +100,9 @@ void Launch::showWindow()
 
 void Launch::openURLs(const QStringList &urls)
 {
-    for (const QString &url : urls)
+    for (const QString &url : urls) {
         m_runtime->delegate().openURL(url);
+    }
 }
 
 void Launch::end()

@@ -13,12 +13,16 @@ void LifeCycle::enter(Qt::ApplicationState state)
     const bool wasActive = std::exchange(m_active, active);
     const bool wasBackground = std::exchange(m_background, background);
 
-    if (wasActive && !active)
+    if (wasActive && !active) {
         m_delegate.applicationWillResignActive();
-    if (!wasBackground && background)
+    }
+    if (!wasBackground && background) {
         m_delegate.applicationDidEnterBackground();
-    if (wasBackground && !background)
+    }
+    if (wasBackground && !background) {
         m_delegate.applicationWillEnterForeground();
-    if (!wasActive && active)
+    }
+    if (!wasActive && active) {
         m_delegate.applicationDidBecomeActive();
+    }
 }

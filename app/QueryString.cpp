@@ -16,8 +16,9 @@ bool isHexDigit(char c)
 bool isWellFormed(const QByteArray &bytes)
 {
     for (qsizetype at = bytes.indexOf('%'); at >= 0; at = bytes.indexOf('%', at + 1)) {
-        if (at + 2 >= bytes.size() || !isHexDigit(bytes[at + 1]) || !isHexDigit(bytes[at + 2]))
+        if (at + 2 >= bytes.size() || !isHexDigit(bytes[at + 1]) || !isHexDigit(bytes[at + 2])) {
             return false;
+        }
     }
     return true;
 }
@@ -27,11 +28,13 @@ bool isWellFormed(const QByteArray &bytes)
 std::optional<QString> QueryString::stringByRemovingPercentEncoding(const QString &text)
 {
     const QByteArray encoded = text.toUtf8();
-    if (!text.isValidUtf16() || !isWellFormed(encoded))
+    if (!text.isValidUtf16() || !isWellFormed(encoded)) {
         return std::nullopt;
+    }
     const QByteArray bytes = QByteArray::fromPercentEncoding(encoded);
-    if (!bytes.isValidUtf8())
+    if (!bytes.isValidUtf8()) {
         return std::nullopt;
+    }
     // Unlike QString::fromUtf8, this keeps a byte order mark.
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
     return decoder.decode(bytes);
@@ -42,12 +45,14 @@ QMap<QString, QString> QueryString::parse(const QString &text)
     QMap<QString, QString> items;
     for (const QString &piece : text.split(u'&')) {
         const QStringList parts = piece.split(u'=');
-        if (parts.size() < 2)
+        if (parts.size() < 2) {
             continue;
+        }
         const auto name = stringByRemovingPercentEncoding(parts[0]);
         const auto value = stringByRemovingPercentEncoding(parts[1]);
-        if (name && value)
+        if (name && value) {
             items[*name] = *value;
+        }
     }
     return items;
 }

@@ -32,19 +32,22 @@ void Renderer::choose()
     const bool fellBack = qEnvironmentVariableIsSet(mark);
     qunsetenv(mark);
     // Not by Qt's variable: programs that a link starts would inherit it.
-    if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware()))
+    if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
+    }
 }
 
 void Renderer::fallBack()
 {
     QFile commandLine(u"/proc/self/cmdline"_s);
-    if (!commandLine.open(QFile::ReadOnly))
+    if (!commandLine.open(QFile::ReadOnly)) {
         return;
+    }
     QByteArrayList arguments = commandLine.readAll().split('\0');
     std::vector<char *> pointers;
-    for (QByteArray &argument : arguments)
+    for (QByteArray &argument : arguments) {
         pointers.push_back(argument.data());
+    }
     pointers.back() = nullptr; // the last one ends with a null character as well
     qputenv(mark, "1");
     const QByteArray program = QFile::encodeName(QFile::symLinkTarget(u"/proc/self/exe"_s));

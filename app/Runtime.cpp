@@ -23,8 +23,9 @@ Runtime::Runtime(UIHost &host, const Settings &settings)
     m_application.setDelegate(m_delegate.get());
     host.observeAppearance(
         [application = QPointer(&m_application)](const UIAppearance &appearance) {
-            if (application)
+            if (application) {
                 application->traits().setDesktopAppearance(appearance);
+            }
         });
 }
 

@@ -33,8 +33,9 @@ void handle(void (*handler)(int))
     for (const int number : signalNumbers) {
         struct sigaction before = {};
         // What the program was started to ignore it ignores.
-        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
             sigaction(number, &action, nullptr);
+        }
     }
 }
 
@@ -43,8 +44,9 @@ void handle(void (*handler)(int))
 TerminationSignals::TerminationSignals(const std::function<void()> &terminate)
 {
     std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+    if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return; // signals end the process as they do by default
+    }
     pipeEnds[0] = ends[0];
     pipeEnds[1] = ends[1];
     m_notifier = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
@@ -58,10 +60,12 @@ TerminationSignals::TerminationSignals(const std::function<void()> &terminate)
 
 TerminationSignals::~TerminationSignals()
 {
-    if (!m_notifier)
+    if (!m_notifier) {
         return;
+    }
     handle(SIG_DFL);
     m_notifier.reset();
-    for (auto &end : pipeEnds)
+    for (auto &end : pipeEnds) {
         close(end.exchange(-1));
+    }
 }

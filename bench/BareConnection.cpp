@@ -16,21 +16,23 @@ BareConnection::BareConnection(quint16 port, const QString &caFile)
     QByteArray address = "127.0.0.1:" + QByteArray::number(port);
     BIO_set_conn_hostname(m_stream.get(), address.data());
     if (SSL_CTX_load_verify_file(m_context.get(), qPrintable(caFile)) != 1
-        || BIO_do_handshake(m_stream.get()) != 1)
+        || BIO_do_handshake(m_stream.get()) != 1) {
         qFatal("no connection to the service");
+    }
 }
 
 BareConnection::~BareConnection() = default;
 
 QByteArray BareConnection::exchange(const QByteArray &request, const QByteArray &end)
 {
-    BIO_write(m_stream.get(), request.constData(), int(request.size()));
+    BIO_write(m_stream.get(), request.constData(), static_cast<int>(request.size()));
     QByteArray reply;
     while (!reply.endsWith(end)) {
         char piece[4096];
         const int length = BIO_read(m_stream.get(), piece, sizeof piece);
-        if (length <= 0)
+        if (length <= 0) {
             qFatal("the service hung up");
+        }
         reply.append(piece, length);
     }
     return reply;

@@ -40,8 +40,9 @@ qsizetype decode(const QByteArray &body)
 {
     QList<WZTPackageIssue> issues;
     const QJsonArray elements = QJsonDocument::fromJson(body).array();
-    for (const QJsonValue element : elements)
+    for (const QJsonValue element : elements) {
         issues.append(WZTPackageIssue::initWithIssueParams(element.toObject()));
+    }
     return issues.size();
 }
 
@@ -54,16 +55,18 @@ void measureDecoding()
     QList<double> document;
     for (int round = 0; round < rounds; ++round) {
         records.append(timed([&] {
-            if (decode(body) != count)
+            if (decode(body) != count) {
                 qFatal("not every issue was read");
+            }
         }));
         document.append(timed([&] {
-            if (QJsonDocument::fromJson(body).isNull())
+            if (QJsonDocument::fromJson(body).isNull()) {
                 qFatal("no JSON");
+            }
         }));
     }
     const Table table(u"Decoding %1 issues, %2 MiB, beside reading the JSON alone"_s.arg(count).arg(
-                          double(body.size()) / 1024 / 1024, 0, 'f', 1),
+                          static_cast<double>(body.size()) / 1024 / 1024, 0, 'f', 1),
                       {u"figure"_s, u"floor"_s, u"times"_s});
     table.comparison(u"records, ms"_s, median(records), median(document));
 }

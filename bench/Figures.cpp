@@ -22,9 +22,11 @@ void print(const QString &line)
 
 double quantile(QList<double> values, double share)
 {
-    if (values.isEmpty())
+    if (values.isEmpty()) {
         return 0;
-    const auto at = values.begin() + qsizetype(share * double(values.size() - 1));
+    }
+    const auto at =
+        values.begin() + static_cast<qsizetype>(share * static_cast<double>(values.size() - 1));
     std::nth_element(values.begin(), at, values.end());
     return *at;
 }
@@ -38,8 +40,9 @@ Table::Table(const QString &title, const QStringList &columns)
 void Table::row(const QString &name, const QStringList &cells) const
 {
     QString line = name.leftJustified(nameWidth);
-    for (const QString &cell : cells)
+    for (const QString &cell : cells) {
         line += cell.rightJustified(cellWidth);
+    }
     print(line);
 }
 

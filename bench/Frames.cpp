@@ -31,7 +31,8 @@ Sample play(const Scene &scene, Stage &stage)
     for (int round = 0; round < rounds; ++round) {
         scene.prepare(stage);
         clock.start();
-        sample.time += std::chrono::milliseconds(qint64(timed([&] { scene.play(stage); })));
+        sample.time +=
+            std::chrono::milliseconds(static_cast<qint64>(timed([&] { scene.play(stage); })));
         sample.frames += clock.frames();
         scene.leave(stage);
     }
@@ -54,15 +55,18 @@ QStringList cells(const QList<double> &frames, const QList<double> &floor)
 {
     QStringList cells{QString::number(frames.size())};
     for (const auto &of : {frames, floor}) {
-        for (const double share : shares)
+        for (const double share : shares) {
             cells.append(Table::number(quantile(of, share)));
+        }
     }
-    for (const double share : shares)
+    for (const double share : shares) {
         cells.append(Table::number(quantile(frames, share) / quantile(floor, share)));
+    }
     const auto late =
         std::count_if(frames.begin(), frames.end(), [](double time) { return time > aim; });
-    if (late > 0)
+    if (late > 0) {
         cells.append(u"  <- %1 over %2 ms"_s.arg(late).arg(aim));
+    }
     return cells;
 }
 

@@ -20,8 +20,9 @@ void listIssues()
 {
     std::binary_semaphore completed(0);
     WZTAPI::issuesForPackageIdentifier(package, [&](NSUInteger code, const auto &) {
-        if (code != 0)
+        if (code != 0) {
             qFatal("the issues cannot be listed");
+        }
         completed.release();
     });
     completed.acquire();

@@ -129,7 +129,7 @@ void Stage::drag(int fromY, int toY, std::chrono::milliseconds time)
 {
     constexpr auto pace = 8ms;
     const int x = view().width() / 2;
-    const auto steps = int(time / pace);
+    const auto steps = static_cast<int>(time / pace);
     QTest::touchEvent(&view(), WindowDriver::screen()).press(0, {x, fromY}, &view());
     for (int step = 1; step <= steps; ++step) {
         wait(pace);

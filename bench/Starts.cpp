@@ -38,8 +38,9 @@ qint64 nanoseconds()
 double peakMebibytes(qint64 pid)
 {
     QFile status(u"/proc/%1/status"_s.arg(pid));
-    if (!status.open(QFile::ReadOnly))
+    if (!status.open(QFile::ReadOnly)) {
         return 0;
+    }
     const QByteArray text = status.readAll();
     const QByteArray number = text.mid(text.indexOf("VmHWM:") + 6).trimmed();
     return number.first(number.indexOf(' ')).toDouble() / 1024;
@@ -56,11 +57,12 @@ void run(Program &program)
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     const qint64 start = nanoseconds();
     process.start(program.path);
-    if (!process.waitForReadyRead(patience))
+    if (!process.waitForReadyRead(patience)) {
         qFatal("%s shows no frame", qPrintable(program.path));
+    }
     const qint64 frame = process.readLine().trimmed().toLongLong();
     process.waitForFinished(300);
-    program.milliseconds.append(double(frame - start) / 1e6);
+    program.milliseconds.append(static_cast<double>(frame - start) / 1e6);
     program.mebibytes.append(peakMebibytes(process.processId()));
     process.terminate();
     process.waitForFinished(patience);
@@ -71,8 +73,9 @@ void keepUser(const QString &home)
     const QString id = QString::fromLatin1(BuildConstants::applicationId);
     const WZTUser user(1, u"jo@wzt.example"_s, u"Jo"_s);
     NSUserDefaults defaults(id, home + "/.config/"_L1 + id);
-    if (!defaults.setObject(TestApp::archived(user), u"currentUser"_s))
+    if (!defaults.setObject(TestApp::archived(user), u"currentUser"_s)) {
         qFatal("nobody can be signed in");
+    }
 }
 
 } // namespace
@@ -93,8 +96,9 @@ void measureStarts()
         program.mebibytes.clear();
     }
     for (int round = 0; round < rounds; ++round) {
-        for (Program &program : programs)
+        for (Program &program : programs) {
             run(program);
+        }
     }
     const Program &floor = programs[0];
     const Table table(u"From exec to the first frame, beside an empty window"_s,

@@ -32,12 +32,14 @@ int main(int argc, char *argv[])
     const QString wanted = QGuiApplication::arguments().value(1);
     bool isKnown = false;
     for (const auto &[name, measure] : measurements) {
-        if (!wanted.isEmpty() && wanted != QLatin1StringView(name))
+        if (!wanted.isEmpty() && wanted != QLatin1StringView(name)) {
             continue;
+        }
         isKnown = true;
         measure();
     }
-    if (!isKnown)
+    if (!isKnown) {
         std::fputs("usage: wzt-bench [starts|frames|decoding|requests]\n", stderr);
+    }
     return isKnown ? 0 : 2;
 }

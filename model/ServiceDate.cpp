@@ -10,8 +10,9 @@ using namespace Qt::StringLiterals;
 
 std::optional<NSDate> serviceDate(const QJsonValue &value)
 {
-    if (!value.isString())
+    if (!value.isString()) {
         return std::nullopt;
+    }
     NSDateFormatter formatter;
     formatter.setDateFormat(u"yyy-MM-dd HH:mm:ss"_s);
     return formatter.dateFromString(value.toString());

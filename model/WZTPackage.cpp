@@ -31,7 +31,8 @@ std::vector<std::shared_ptr<WZTPackage>> WZTPackage::allPackages()
 {
     const QString prefix = QLatin1StringView(BuildConstants::vendorPrefix) + u'.';
     std::vector<std::shared_ptr<WZTPackage>> packages;
-    for (const Project &project : projects)
+    for (const Project &project : projects) {
         packages.push_back(std::make_shared<WZTPackage>(prefix + project.key, project.name));
+    }
     return packages;
 }

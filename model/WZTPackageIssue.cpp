@@ -59,8 +59,9 @@ WZTPackageIssue WZTPackageIssue::initWithIssueParams(const QJsonObject &params)
 WZTPackageIssue WZTPackageIssue::initWithCoder(const NSCoder &coder)
 {
     WZTPackageIssue issue;
-    for (const TextField &text : texts)
+    for (const TextField &text : texts) {
         issue.*text.field = coder.decodeStringForKey(text.archive);
+    }
     issue.open = coder.decodeBoolForKey(openKey);
     issue.openDate = coder.decodeDateForKey(openDateKey);
     return issue;
@@ -68,8 +69,9 @@ WZTPackageIssue WZTPackageIssue::initWithCoder(const NSCoder &coder)
 
 void WZTPackageIssue::encodeWithCoder(NSCoder &coder) const
 {
-    for (const TextField &text : texts)
+    for (const TextField &text : texts) {
         coder.encodeObject(this->*text.field, text.archive);
+    }
     coder.encodeObject(openDate, openDateKey);
     coder.encodeBool(open, openKey);
 }

@@ -10,8 +10,9 @@ constinit WZTSession *sharedSession = nullptr;
 
 WZTSession::~WZTSession()
 {
-    if (sharedSession == this)
+    if (sharedSession == this) {
         sharedSession = nullptr;
+    }
 }
 
 WZTSession *WZTSession::shared()

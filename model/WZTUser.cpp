@@ -56,12 +56,14 @@ std::optional<WZTUser> WZTUser::initWithUserParams(const QJsonObject &params)
     const int tavloId = intValue(params[tavloIdKeys.parameter]);
     const auto email = textValue(params[emailKeys.parameter]);
     const auto userName = textValue(params[userNameKeys.parameter]);
-    if (tavloId <= 0 || isMissing(email) || isMissing(userName))
+    if (tavloId <= 0 || isMissing(email) || isMissing(userName)) {
         return std::nullopt;
+    }
 
     WZTUser user(tavloId, email, userName);
-    for (const OptionalText &text : optionalTexts)
+    for (const OptionalText &text : optionalTexts) {
         user.*text.field = textValue(params[text.keys.parameter]);
+    }
     user.earlyAdopter = boolValue(params[earlyAdopterKeys.parameter]);
     user.joinDate = serviceDate(params[joinDateKeys.parameter]);
     return user;
@@ -72,8 +74,9 @@ WZTUser WZTUser::initWithCoder(const NSCoder &coder)
     WZTUser user(coder.decodeIntForKey(tavloIdKeys.archive),
                  coder.decodeStringForKey(emailKeys.archive),
                  coder.decodeStringForKey(userNameKeys.archive));
-    for (const OptionalText &text : optionalTexts)
+    for (const OptionalText &text : optionalTexts) {
         user.*text.field = coder.decodeStringForKey(text.keys.archive);
+    }
     user.joinDate = coder.decodeDateForKey(joinDateKeys.archive);
     user.earlyAdopter = coder.decodeBoolForKey(earlyAdopterKeys.archive);
     return user;
@@ -87,7 +90,8 @@ void WZTUser::encodeWithCoder(NSCoder &coder) const
     coder.encodeObject(joinDate, joinDateKeys.archive);
     coder.encodeBool(earlyAdopter, earlyAdopterKeys.archive);
     for (const OptionalText &text : optionalTexts) {
-        if (this->*text.field)
+        if (this->*text.field) {
             coder.encodeObject(this->*text.field, text.keys.archive);
+        }
     }
 }

@@ -108,7 +108,7 @@ int AccountStore::count()
 {
     const auto lock = m_database.lock();
     Statement query(m_database, "SELECT count(*) FROM accounts");
-    return query.nextRow() ? int(query.number(0)) : -1;
+    return query.nextRow() ? static_cast<int>(query.number(0)) : -1;
 }
 
 Outcome AccountStore::startReset(qint64 number, const QByteArray &fingerprint, qint64 expires,

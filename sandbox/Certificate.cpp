@@ -24,7 +24,7 @@ using Extension = std::pair<int, QByteArray>;
 std::shared_ptr<BIO> memory(const QByteArray &bytes = {})
 {
     return {bytes.isEmpty() ? BIO_new(BIO_s_mem())
-                            : BIO_new_mem_buf(bytes.constData(), int(bytes.size())),
+                            : BIO_new_mem_buf(bytes.constData(), static_cast<int>(bytes.size())),
             BIO_free};
 }
 
@@ -32,7 +32,7 @@ QByteArray contents(const std::shared_ptr<BIO> &bio)
 {
     char *bytes = nullptr;
     const long size = BIO_get_mem_data(bio.get(), &bytes);
-    return {bytes, qsizetype(size)};
+    return {bytes, static_cast<qsizetype>(size)};
 }
 
 // Without one, OpenSSL would ask the terminal for the password of an encrypted key.
@@ -44,12 +44,12 @@ int noPassword(char *, int, int, void *)
 bool setSerial(X509 *x509)
 {
     std::array<unsigned char, 16> bytes{};
-    if (RAND_bytes(bytes.data(), int(bytes.size())) != 1) {
+    if (RAND_bytes(bytes.data(), static_cast<int>(bytes.size())) != 1) {
         return false;
     }
     bytes[0] &= 0x7f;
     const std::unique_ptr<BIGNUM, decltype(&BN_free)> number(
-        BN_bin2bn(bytes.data(), int(bytes.size()), nullptr), BN_free);
+        BN_bin2bn(bytes.data(), static_cast<int>(bytes.size()), nullptr), BN_free);
     return number && BN_to_ASN1_INTEGER(number.get(), X509_get_serialNumber(x509));
 }
 

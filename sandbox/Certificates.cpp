@@ -160,7 +160,7 @@ QString Certificates::makeContexts(qint64 now)
 
 SSL_CTX *Certificates::context(Reception reception) const
 {
-    const auto index = size_t(reception);
+    const auto index = static_cast<size_t>(reception);
     return index < m_contexts.size() ? m_contexts[index].get() : nullptr;
 }
 

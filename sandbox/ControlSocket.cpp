@@ -45,8 +45,7 @@ struct File {
             ::close(number);
         }
     }
-    File(const File &) = delete;
-    File &operator=(const File &) = delete;
+    Q_DISABLE_COPY_MOVE(File)
     int number;
 };
 
@@ -74,7 +73,7 @@ int makeSocket()
 bool sendLine(int file, const QString &line, int flags = 0)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
-    return ::send(file, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL | flags)
+    return ::send(file, bytes.constData(), static_cast<size_t>(bytes.size()), MSG_NOSIGNAL | flags)
         == bytes.size();
 }
 

@@ -20,8 +20,7 @@ public:
 
     ControlSocket() = default;
     ~ControlSocket();
-    ControlSocket(const ControlSocket &) = delete;
-    ControlSocket &operator=(const ControlSocket &) = delete;
+    Q_DISABLE_COPY_MOVE(ControlSocket)
 
     /// Starts to listen; what an earlier service left behind is replaced. Returns an empty text, or
     /// why it cannot.

@@ -87,10 +87,10 @@ bool Database::migrate()
     for (;;) {
         Transaction transaction(*this);
         const qint64 reached = version();
-        if (reached < 0 || reached >= qint64(migrations.size())) {
-            return reached == qint64(migrations.size());
+        if (reached < 0 || reached >= static_cast<qint64>(migrations.size())) {
+            return reached == static_cast<qint64>(migrations.size());
         }
-        if (!run(migrations[size_t(reached)]) || !transaction.commit()) {
+        if (!run(migrations[static_cast<size_t>(reached)]) || !transaction.commit()) {
             return false;
         }
     }

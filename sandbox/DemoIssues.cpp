@@ -78,7 +78,7 @@ class Dice {
 public:
     explicit Dice(quint32 seed) : m_numbers(seed) {}
 
-    quint32 below(quint32 end) { return quint32(m_numbers()) % end; }
+    quint32 below(quint32 end) { return static_cast<quint32>(m_numbers()) % end; }
     template <size_t size>
     QString one(const QStringView (&of)[size])
     {
@@ -132,12 +132,12 @@ QList<Issue> demoIssues()
     constexpr quint32 longestPause = 26 * 3600;
     QList<Issue> issues;
     for (qsizetype package = 0; package < packages().size(); ++package) {
-        Dice dice{quint32(package)};
+        Dice dice{static_cast<quint32>(package)};
         QDateTime opened(QDate(2025, 9, 30), QTime(21, 40, 17));
         for (int i = 0; i < counts[package]; ++i) {
-            Issue issue = demoIssue(dice, oddities[size_t(i) % std::size(oddities)]);
+            Issue issue = demoIssue(dice, oddities[static_cast<size_t>(i) % std::size(oddities)]);
             issue.package = packages()[package];
-            opened = opened.addSecs(-1 - qint64(dice.below(longestPause)));
+            opened = opened.addSecs(-1 - static_cast<qint64>(dice.below(longestPause)));
             issue.opened = opened.toString(u"yyyy-MM-dd HH:mm:ss"_s);
             issues.prepend(issue);
         }

@@ -12,8 +12,7 @@ class DirectoryLock {
 public:
     DirectoryLock() = default;
     ~DirectoryLock();
-    DirectoryLock(const DirectoryLock &) = delete;
-    DirectoryLock &operator=(const DirectoryLock &) = delete;
+    Q_DISABLE_COPY_MOVE(DirectoryLock)
 
     /// Returns an empty text, or why the directory cannot be had.
     QString take(const QString &directory);

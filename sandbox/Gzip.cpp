@@ -14,13 +14,13 @@ QByteArray gzipped(const QByteArray &bytes)
     z_stream stream{};
     deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, gzipWindow, memoryLevel,
                  Z_DEFAULT_STRATEGY);
-    QByteArray zipped(qsizetype(deflateBound(&stream, uLong(bytes.size()))), '\0');
+    QByteArray zipped(static_cast<qsizetype>(deflateBound(&stream, uLong(bytes.size()))), '\0');
     stream.next_in = reinterpret_cast<const Bytef *>(bytes.constData());
-    stream.avail_in = uInt(bytes.size());
+    stream.avail_in = static_cast<uInt>(bytes.size());
     stream.next_out = reinterpret_cast<Bytef *>(zipped.data());
-    stream.avail_out = uInt(zipped.size());
+    stream.avail_out = static_cast<uInt>(zipped.size());
     deflate(&stream, Z_FINISH);
-    zipped.truncate(qsizetype(stream.total_out));
+    zipped.truncate(static_cast<qsizetype>(stream.total_out));
     deflateEnd(&stream);
     return zipped;
 }

@@ -147,12 +147,12 @@ private:
     {
         const auto &message = m_parser->get();
         const auto bytes = [](beast::string_view text) {
-            return QByteArray(text.data(), qsizetype(text.size()));
+            return QByteArray(text.data(), static_cast<qsizetype>(text.size()));
         };
         Request request;
         request.method = bytes(message.method_string());
         request.keepsAlive = message.keep_alive();
-        request.bodySize = qint64(message.body().size());
+        request.bodySize = static_cast<qint64>(message.body().size());
         for (const auto &field : message) {
             request.headers.append({bytes(field.name_string()), bytes(field.value())});
         }
@@ -186,12 +186,13 @@ private:
         if (m_transmission.keyUpdates > 0) {
             return startKeyUpdates();
         }
-        const size_t left = size_t(m_transmission.bytes.size()) - m_sent;
+        const size_t left = static_cast<size_t>(m_transmission.bytes.size()) - m_sent;
         if (left == 0) {
             return m_transmission.isEndless ? writeBlanks() : end();
         }
-        const size_t size =
-            m_transmission.pieceSize > 0 ? std::min(left, size_t(m_transmission.pieceSize)) : left;
+        const size_t size = m_transmission.pieceSize > 0
+            ? std::min(left, static_cast<size_t>(m_transmission.pieceSize))
+            : left;
         tcpStream().expires_after(idleTime);
         asio::async_write(m_stream, asio::buffer(m_transmission.bytes.constData() + m_sent, size),
                           [self = shared_from_this()](error_code error, size_t written) {
@@ -260,7 +261,8 @@ private:
             return;
         }
         if (state == SSL_ERROR_NONE && m_transmission.keyUpdates == 0) {
-            SSL_write(ssl, m_transmission.bytes.constData(), int(m_transmission.bytes.size()));
+            SSL_write(ssl, m_transmission.bytes.constData(),
+                      static_cast<int>(m_transmission.bytes.size()));
             return tcpStream().close();
         }
         tcpStream().socket().async_wait(tcp::socket::wait_write,

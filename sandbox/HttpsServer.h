@@ -37,8 +37,7 @@ public:
 
     HttpsServer(Handler handler, Receiver receiver);
     ~HttpsServer();
-    HttpsServer(const HttpsServer &) = delete;
-    HttpsServer &operator=(const HttpsServer &) = delete;
+    Q_DISABLE_COPY_MOVE(HttpsServer)
 
     /// Listens on 127.0.0.1, and at the same port on ::1 where the machine has it. Port 0 picks a
     /// free one. Returns an empty text, or why it cannot.

@@ -80,7 +80,7 @@ int IssueStore::count()
 {
     const auto lock = m_database.lock();
     Statement query(m_database, "SELECT count(*) FROM issues");
-    return query.nextRow() ? int(query.number(0)) : -1;
+    return query.nextRow() ? static_cast<int>(query.number(0)) : -1;
 }
 
 } // namespace sandbox

@@ -18,7 +18,8 @@ QString makeOneTimePassword()
         if (i > 0 && i % groupSize == 0) {
             password += u'-';
         }
-        password += QLatin1Char(letters[randombytes_uniform(uint32_t(letters.size()))]);
+        password +=
+            QLatin1Char(letters[randombytes_uniform(static_cast<uint32_t>(letters.size()))]);
     }
     return password;
 }

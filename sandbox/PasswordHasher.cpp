@@ -36,7 +36,7 @@ QByteArray PasswordHasher::fingerprint(const QByteArray &text)
 {
     QByteArray fingerprint(crypto_generichash_BYTES, '\0');
     crypto_generichash(reinterpret_cast<unsigned char *>(fingerprint.data()),
-                       size_t(fingerprint.size()),
+                       static_cast<size_t>(fingerprint.size()),
                        reinterpret_cast<const unsigned char *>(text.constData()),
                        static_cast<unsigned long long>(text.size()), nullptr, 0);
     return fingerprint;

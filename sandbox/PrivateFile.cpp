@@ -29,7 +29,7 @@ bool writeAll(int file, const QByteArray &bytes)
     qsizetype written = 0;
     while (written < bytes.size()) {
         const ssize_t size =
-            ::write(file, bytes.constData() + written, size_t(bytes.size() - written));
+            ::write(file, bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
         if (size < 0 && errno != EINTR) {
             return false;
         }

@@ -19,7 +19,7 @@ QByteArray decoded(const QByteArray &encoded)
     for (qsizetype i = 0; i < encoded.size(); ++i) {
         const QByteArray digits = encoded.mid(i + 1, 2);
         if (encoded[i] == '%' && digits.size() == 2 && isHex(digits[0]) && isHex(digits[1])) {
-            bytes.append(char(digits.toUShort(nullptr, 16)));
+            bytes.append(static_cast<char>(digits.toUShort(nullptr, 16)));
             i += 2;
         } else {
             bytes.append(encoded[i] == '+' ? ' ' : encoded[i]);

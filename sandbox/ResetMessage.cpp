@@ -23,7 +23,7 @@ bool isPlain(const QString &name)
     const QByteArrayView plain(plainCharacters);
     return name.size() <= plainLength && name == name.simplified()
         && std::all_of(name.begin(), name.end(), [plain](QChar c) {
-               return c.unicode() < 0x80 && plain.contains(char(c.unicode()));
+               return c.unicode() < 0x80 && plain.contains(static_cast<char>(c.unicode()));
            });
 }
 

@@ -57,8 +57,7 @@ public:
     /// Ends the service within a moment, waiting clients or not. Accounts and issues stay in the
     /// directory.
     ~Sandbox();
-    Sandbox(const Sandbox &) = delete;
-    Sandbox &operator=(const Sandbox &) = delete;
+    Q_DISABLE_COPY_MOVE(Sandbox)
 
     [[nodiscard]] bool isRunning() const;
     [[nodiscard]] QString errorString() const;

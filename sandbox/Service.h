@@ -23,8 +23,7 @@ class Service {
 public:
     explicit Service(const Sandbox::Options &given);
     ~Service();
-    Service(const Service &) = delete;
-    Service &operator=(const Service &) = delete;
+    Q_DISABLE_COPY_MOVE(Service)
 
     /// Returns an empty text, or why it cannot.
     QString start();

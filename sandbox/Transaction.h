@@ -19,8 +19,7 @@ public:
             m_database.run("ROLLBACK");
         }
     }
-    Transaction(const Transaction &) = delete;
-    Transaction &operator=(const Transaction &) = delete;
+    Q_DISABLE_COPY_MOVE(Transaction)
 
     /// False if they could not be made to last.
     bool commit()

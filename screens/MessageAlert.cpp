@@ -22,6 +22,7 @@ void presentMessage(UIViewController &screen, std::span<const Message> messages,
     const auto found =
         std::find_if(messages.begin(), messages.end(),
                      [code](const Message &message) { return message.code == code; });
-    if (found != messages.end())
+    if (found != messages.end()) {
         presentMessage(screen, found->kind, found->text.toString());
+    }
 }

@@ -98,6 +98,7 @@ void WZTIssueReporterViewController::present(const QString &title, const QString
 void WZTIssueReporterViewController::close()
 {
     // Asked of the presenter, so that another submission's alert goes as well.
-    if (UIViewController *presenter = presentingViewController())
+    if (UIViewController *presenter = presentingViewController()) {
         presenter->dismissViewControllerAnimated(true);
+    }
 }

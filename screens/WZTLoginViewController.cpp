@@ -46,8 +46,9 @@ void tapHaptically()
 
 void stopSpinner(const std::weak_ptr<WZTLoginViewController> &weakScreen)
 {
-    if (const auto screen = weakScreen.lock())
+    if (const auto screen = weakScreen.lock()) {
         screen->activityIndicator()->stopAnimating();
+    }
 }
 
 QString trimmedText(const UITextField &field)
@@ -186,10 +187,12 @@ void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
 {
     // A reply to a screen that is gone comes too late: another one has signed somebody in.
     UIViewController *presenter = presentingViewController();
-    if (!presenter)
+    if (!presenter) {
         return;
-    if (user)
+    }
+    if (user) {
         WZTSession::shared()->setCurrentUser(*user);
+    }
     // Asked of the presenter, so that an alert opened meanwhile goes as well.
     presenter->dismissViewControllerAnimated(true);
 }

@@ -16,8 +16,9 @@ namespace {
 
 void stopIndicator(const std::weak_ptr<WZTPackageIssuesViewController> &weakScreen)
 {
-    if (const auto screen = weakScreen.lock())
+    if (const auto screen = weakScreen.lock()) {
         screen->activityIndicator()->stopAnimating();
+    }
 }
 
 } // namespace

@@ -104,8 +104,9 @@ void WZTRootViewController::didSelectRowAtIndexPath(const NSIndexPath &indexPath
 {
     tableView()->deselectRowAtIndexPath(indexPath, true);
     const Row *row = rowAt(indexPath);
-    if (row && row->action)
+    if (row && row->action) {
         (this->*row->action)();
+    }
 }
 
 void WZTRootViewController::addPublicRepo()

@@ -118,8 +118,9 @@ void WZTUserViewController::refresh(UIControl *sender)
     const auto email = currentEmail();
     WZTAPI::userForAccount(email, [control, email](NSUInteger, const std::optional<WZTUser> &user) {
         dispatchAsyncMain([control, email, user] {
-            if (user && isSignedIn(email))
+            if (user && isSignedIn(email)) {
                 WZTSession::shared()->setCurrentUser(*user);
+            }
             control->endRefreshing();
         });
     });
@@ -181,10 +182,12 @@ void WZTUserViewController::requestUpdate(const UIAlertController &alert,
 void WZTUserViewController::updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
                                         const std::optional<QString> &email)
 {
-    if (!isSignedIn(email))
+    if (!isSignedIn(email)) {
         return;
-    if (user)
+    }
+    if (user) {
         WZTSession::shared()->setCurrentUser(*user);
+    }
     presentMessage(*this, updateMessages, code);
 }
 

@@ -11,6 +11,6 @@ QString SHA256(const QString &text)
     QByteArray bytes = text.toUtf8();
     const QByteArray digest =
         QCryptographicHash::hash(QByteArrayView(bytes.constData()), QCryptographicHash::Sha256);
-    explicit_bzero(bytes.data(), size_t(bytes.size()));
+    explicit_bzero(bytes.data(), static_cast<size_t>(bytes.size()));
     return QString::fromLatin1(digest.toHex());
 }

@@ -15,8 +15,9 @@ using Text = WZTAPI::Text;
 
 NSUInteger codeForResult(const QJsonValue &result, const WZTAccountOperation &operation)
 {
-    if (!result.isString())
+    if (!result.isString()) {
         return operation.anythingElse;
+    }
     const QString text = result.toString();
     const auto row = std::ranges::find_if(
         operation.results, [&](const WZTResultCode &known) { return known.result == text; });

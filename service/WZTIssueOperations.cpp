@@ -21,10 +21,12 @@ std::optional<QList<WZTPackageIssue>> issuesIn(const QJsonArray &elements)
 {
     QList<WZTPackageIssue> issues;
     for (const QJsonValue element : elements) {
-        if (!element.isObject())
+        if (!element.isObject()) {
             continue;
-        if (issues.size() == list.most)
+        }
+        if (issues.size() == list.most) {
             return std::nullopt;
+        }
         issues.append(WZTPackageIssue::initWithIssueParams(element.toObject()));
     }
     return issues;
@@ -62,8 +64,9 @@ QString reporterId()
 QString description(const QList<NSURLQueryItem> &items)
 {
     QStringList texts;
-    for (const NSURLQueryItem &item : items)
+    for (const NSURLQueryItem &item : items) {
         texts.append(item.name + u" = "_s + item.value.value_or(u"(null)"_s));
+    }
     return u'(' + texts.join(u", "_s) + u')';
 }
 

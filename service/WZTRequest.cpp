@@ -47,8 +47,9 @@ QList<NSURLQueryItem> WZTRequestFrame::queryItems(const WZTRequest &request,
     QList<NSURLQueryItem> items;
     for (size_t i = 0; i < values.size(); ++i) {
         const WZTParameter &parameter = request.parameters[i];
-        if (isSent(parameter.sent, values[i]))
+        if (isSent(parameter.sent, values[i])) {
             items.append(NSURLQueryItem::queryItemWithName(parameter.name, values[i]));
+        }
     }
     return items;
 }

@@ -18,7 +18,7 @@ drawings() {
 descriptions() {
     desktop-file-validate build/sandbox/packaging/*.desktop &&
         appstreamcli validate --no-net build/sandbox/packaging/*.metainfo.xml &&
-        [[ ! $(flatpak-builder --state-dir=build/lint/flatpak --show-manifest build/sandbox/packaging/*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
+        [[ ! $(cd build/sandbox/packaging && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
 }
 
 # tidy_one BASIS SOURCE: what was clean on the same basis is not looked at again.
@@ -88,6 +88,9 @@ rules() {
     never '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
     never '^(?!platform/uikit/qml/|tests/|bench/|app/).*\.(h|cpp)$' '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     never '^(?!platform/foundation/HTTP\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP loader's sources only"
+    never '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
+    never '\.(h|cpp)$' 'template<(.*[, ])?class ' 'A parameter of a template is a typename'
+    never '\.(h|cpp)$' 'operator=\(const \w+ ?&\) = delete' 'Copies are ruled out by Q_DISABLE_COPY_MOVE'
     wrapped 'gio/' 'GIO'
     wrapped 'unicode/' 'ICU'
     wrapped 'boost/beast' 'Boost.Beast'

@@ -16,10 +16,12 @@ UIColor darker(const UIColor::RGB &color, double alpha)
 UIColor darker(const UIColor::RGB &rgb, const UIColor::Gray &gray)
 {
     const bool colorless = rgb.red + rgb.green + rgb.blue == 0;
-    if (colorless && gray.white == 0)
+    if (colorless && gray.white == 0) {
         return UIColor::colorWithWhite(gray.white + darkening, gray.alpha);
-    if (colorless)
+    }
+    if (colorless) {
         return UIColor::colorWithWhite(gray.white - darkening, gray.alpha);
+    }
     return darker(rgb, gray.alpha);
 }
 
@@ -27,11 +29,13 @@ UIColor darker(const UIColor::RGB &rgb, const UIColor::Gray &gray)
 
 UIColor pressedColor(const UIColor &color)
 {
-    if (const auto rgb = color.getRed())
+    if (const auto rgb = color.getRed()) {
         return darker(*rgb, color.getWhite().value_or(UIColor::Gray{0, rgb->alpha}));
+    }
     const std::vector<double> &c = color.components();
-    if (c.size() == 4)
+    if (c.size() == 4) {
         return darker({c[0], c[1], c[2], c[3]}, c[3]);
+    }
     const auto hue = color.getHue();
     return hue ? UIColor::colorWithHue(hue->hue - darkening, hue->saturation - darkening,
                                        hue->brightness - darkening, hue->alpha)

@@ -6,8 +6,9 @@
 
 UIColor UIColorEx::tintColor()
 {
-    if (!UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(13))
+    if (!UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(13)) {
         return UIColor::systemBlueColor();
+    }
     return UIColor::initWithDynamicProvider([](const UITraitCollection &traits) {
         return traits.userInterfaceStyle == UIUserInterfaceStyle::Dark ? UIColor::systemTealColor()
                                                                        : UIColor::systemBlueColor();

@@ -15,7 +15,7 @@
 {
     QByteArray bytes(size, '\0');
     for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte, number >>= 8) {
-        *byte = char(number);
+        *byte = static_cast<char>(number);
     }
     return bytes;
 }
@@ -25,7 +25,7 @@
 {
     quint64 number = 0;
     for (const char byte : bytes) {
-        number = number << 8 | uchar(byte);
+        number = number << 8 | static_cast<uchar>(byte);
     }
     return number;
 }

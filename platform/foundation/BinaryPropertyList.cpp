@@ -35,7 +35,10 @@ bool hasCount(Type type)
 /// Decodes each object that is reached, and each once, however often it is referred to.
 class Reader {
 public:
-    explicit Reader(const QByteArray &data) : m_data(data), m_unread(quint64(data.size())) {}
+    explicit Reader(const QByteArray &data)
+        : m_data(data), m_unread(static_cast<quint64>(data.size()))
+    {
+    }
 
     std::optional<PropertyList> list()
     {
@@ -48,10 +51,10 @@ public:
         const quint64 count = number(trailer + 8, 8);
         const quint64 top = number(trailer + 16, 8);
         m_offsets = number(trailer + 24, 8);
-        if (count > quint64(m_data.size())) {
+        if (count > static_cast<quint64>(m_data.size())) {
             return std::nullopt;
         }
-        m_known.resize(size_t(count));
+        m_known.resize(static_cast<size_t>(count));
         const PropertyList list = object(top, 1).value;
         return m_valid ? std::optional(list) : std::nullopt;
     }
@@ -73,13 +76,13 @@ private:
     /// no more than there are, and what is read takes no more time and memory than that.
     QByteArray bytes(quint64 offset, quint64 size)
     {
-        const auto length = quint64(m_data.size());
+        const auto length = static_cast<quint64>(m_data.size());
         if (!m_valid || size > m_unread || offset > length || size > length - offset) {
             m_valid = false;
             return {};
         }
         m_unread -= size;
-        return m_data.mid(qsizetype(offset), qsizetype(size));
+        return m_data.mid(static_cast<qsizetype>(offset), static_cast<qsizetype>(size));
     }
 
     quint64 number(quint64 offset, quint64 size)
@@ -93,7 +96,7 @@ private:
         if (index >= m_known.size() || depth > PropertyListForms::maximumDepth) {
             return fail();
         }
-        Object &known = m_known[size_t(index)];
+        Object &known = m_known[static_cast<size_t>(index)];
         if (known.height == 0) {
             known = decoded(number(m_offsets + index * m_offsetSize, m_offsetSize), depth);
         }
@@ -105,22 +108,23 @@ private:
     {
         const quint64 marker = number(offset++, 1);
         const Type type = Type(marker >> 4);
-        const int low = int(marker & 0xf);
+        const int low = static_cast<int>(marker & 0xf);
         if (!m_valid) {
             return {};
         }
         if (type == Type::Simple) {
             const bool isKnown = low == 0 || low == 8 || low == 9;
-            return isKnown ? Object{{type, QByteArray(1, char(low))}, 1} : fail();
+            return isKnown ? Object{{type, QByteArray(1, static_cast<char>(low))}, 1} : fail();
         }
         if (const std::optional<int> size = fixedSize(type, low)) {
-            return {{type, bytes(offset, quint64(*size))}, 1};
+            return {{type, bytes(offset, static_cast<quint64>(*size))}, 1};
         }
         if (!hasCount(type)) {
             return fail();
         }
-        const quint64 count = low == countFollows ? followingCount(offset) : quint64(low);
-        if (!m_valid || count > quint64(m_data.size())) {
+        const quint64 count =
+            low == countFollows ? followingCount(offset) : static_cast<quint64>(low);
+        if (!m_valid || count > static_cast<quint64>(m_data.size())) {
             return fail();
         }
         if (type >= Type::Array) {
@@ -132,7 +136,7 @@ private:
     quint64 followingCount(quint64 &offset)
     {
         const quint64 marker = number(offset++, 1);
-        const quint64 size = quint64(1) << (marker & 0x3);
+        const quint64 size = quint64{1} << (marker & 0x3);
         m_valid = m_valid && marker >= 0x10 && marker <= 0x13;
         offset += size;
         return number(offset - size, size);
@@ -148,9 +152,9 @@ private:
         int height = 1;
         for (quint64 i = 0; i < count && m_valid; ++i) {
             const quint64 place = pairs == 0 ? i : i / 2 + (i % 2) * pairs;
-            const auto reference =
-                QByteArrayView(references)
-                    .sliced(qsizetype(place * m_referenceSize), qsizetype(m_referenceSize));
+            const auto reference = QByteArrayView(references)
+                                       .sliced(static_cast<qsizetype>(place * m_referenceSize),
+                                               static_cast<qsizetype>(m_referenceSize));
             const Object item = object(numberIn(reference), depth + 1);
             const bool isKey = pairs != 0 && i % 2 == 0;
             m_valid = m_valid && (!isKey || item.value.isText());
@@ -171,19 +175,21 @@ private:
 
 QByteArray marked(Type type, int low)
 {
-    return QByteArray(1, char(int(type) << 4 | low));
+    return QByteArray(1, static_cast<char>(static_cast<int>(type) << 4 | low));
 }
 
 /// What a value of so many bytes, characters, items or pairs begins with.
 QByteArray beginning(Type type, qsizetype count)
 {
-    const int size = bytesFor(quint64(count));
+    const int size = bytesFor(static_cast<quint64>(count));
     if (!hasCount(type)) {
-        return marked(type, type == Type::UID ? int(count) - 1 : std::countr_zero(quint64(count)));
+        return marked(type,
+                      type == Type::UID ? static_cast<int>(count) - 1
+                                        : std::countr_zero(static_cast<quint64>(count)));
     }
-    return count < countFollows ? marked(type, int(count))
+    return count < countFollows ? marked(type, static_cast<int>(count))
                                 : marked(type, countFollows) + beginning(Type::Integer, size)
-            + bigEndian(quint64(count), size);
+            + bigEndian(static_cast<quint64>(count), size);
 }
 
 class Writer {
@@ -201,13 +207,14 @@ public:
                 data += bigEndian(reference, referenceSize);
             }
         }
-        const auto table = quint64(data.size());
+        const auto table = static_cast<quint64>(data.size());
         const int offsetSize = bytesFor(table);
         for (const qsizetype offset : offsets) {
-            data += bigEndian(quint64(offset), offsetSize);
+            data += bigEndian(static_cast<quint64>(offset), offsetSize);
         }
-        return data + QByteArray(6, '\0') + char(offsetSize) + char(referenceSize)
-            + bigEndian(m_objects.size(), 8) + bigEndian(0, 8) + bigEndian(table, 8);
+        return data + QByteArray(6, '\0') + static_cast<char>(offsetSize)
+            + static_cast<char>(referenceSize) + bigEndian(m_objects.size(), 8) + bigEndian(0, 8)
+            + bigEndian(table, 8);
     }
 
 private:

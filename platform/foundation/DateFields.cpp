@@ -29,20 +29,23 @@ public:
 
     bool skip(QChar expected)
     {
-        if (isAtEnd())
+        if (isAtEnd()) {
             return false;
+        }
         const char32_t c = m_text[m_place++];
         return expected.isSpace() ? QChar::isSpace(c) : c == expected.unicode();
     }
 
     std::optional<int> number(qsizetype minimumDigits)
     {
-        while (!isAtEnd() && QChar::isSpace(m_text[m_place]))
+        while (!isAtEnd() && QChar::isSpace(m_text[m_place])) {
             ++m_place;
+        }
         const qsizetype first = m_place;
         int number = 0;
-        for (; !isAtEnd() && QChar::isDigit(m_text[m_place]); ++m_place)
+        for (; !isAtEnd() && QChar::isDigit(m_text[m_place]); ++m_place) {
             number = std::min(number * 10 + QChar::digitValue(m_text[m_place]), tooLarge);
+        }
         return m_place - first < minimumDigits ? std::nullopt : std::optional(number);
     }
 
@@ -59,16 +62,18 @@ std::optional<DateFields> readDateFields(const QString &pattern, const QString &
     Reader reader(text);
     for (auto c = pattern.begin(); c != pattern.end();) {
         if (!c->isLetter()) {
-            if (!reader.skip(*c++))
+            if (!reader.skip(*c++)) {
                 return std::nullopt;
+            }
             continue;
         }
         const auto *known = std::find_if(std::begin(letters), std::end(letters),
                                          [&](const Letter &row) { return *c == row.letter; });
         const auto next = std::find_if(c, pattern.end(), [&](QChar other) { return other != *c; });
         const auto number = reader.number(next - c);
-        if (known == std::end(letters) || !number)
+        if (known == std::end(letters) || !number) {
             return std::nullopt;
+        }
         fields.*known->field = *number;
         c = next;
     }

@@ -10,7 +10,7 @@
 namespace {
 
 /// However little it decodes to: a compressed body may decode to nothing for ever.
-constexpr size_t maximumReceived = size_t(64) * 1024 * 1024;
+constexpr size_t maximumReceived = size_t{64} * 1024 * 1024;
 
 /// The largest window, of a stream in gzip's format and no other.
 constexpr int gzipWindow = 15 + 16;
@@ -52,19 +52,19 @@ std::optional<NSURLErrorCode> HTTPBody::append(const char *bytes, size_t length)
 
 std::optional<NSURLErrorCode> HTTPBody::add(const char *bytes, size_t length)
 {
-    if (qsizetype(length) > m_maximumLength - m_decoded.size()) {
+    if (static_cast<qsizetype>(length) > m_maximumLength - m_decoded.size()) {
         return NSURLErrorDataLengthExceedsMaximum;
     }
-    m_decoded.append(bytes, qsizetype(length));
+    m_decoded.append(bytes, static_cast<qsizetype>(length));
     return std::nullopt;
 }
 
 std::optional<NSURLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
 {
-    std::array<char, size_t(64) * 1024> piece;
+    std::array<char, size_t{64} * 1024> piece;
     z_stream &stream = *m_inflater;
     stream.next_in = reinterpret_cast<const Bytef *>(bytes);
-    stream.avail_in = uInt(length);
+    stream.avail_in = static_cast<uInt>(length);
     bool hasMore = false;
     while (stream.avail_in > 0 || hasMore) {
         if (m_isWhole) {
@@ -72,7 +72,7 @@ std::optional<NSURLErrorCode> HTTPBody::inflate(const char *bytes, size_t length
             inflateReset(&stream);
         }
         stream.next_out = reinterpret_cast<Bytef *>(piece.data());
-        stream.avail_out = uInt(piece.size());
+        stream.avail_out = static_cast<uInt>(piece.size());
         const int state = ::inflate(&stream, Z_NO_FLUSH);
         if (state != Z_OK && state != Z_STREAM_END && state != Z_BUF_ERROR) {
             return NSURLErrorCannotDecodeContentData;

@@ -95,7 +95,7 @@ int HTTPLoader::State::pollTimeout() const
                         running->transfer.lastActivity() + configuration.timeoutIntervalForRequest);
     }
     const auto wait = std::chrono::ceil<milliseconds>(next - Clock::now());
-    return int(std::max(wait, milliseconds(0)).count());
+    return static_cast<int>(std::max(wait, milliseconds(0)).count());
 }
 
 HTTPLoader::HTTPLoader(const NSURLSessionConfiguration &configuration)

@@ -26,8 +26,7 @@ public:
     explicit HTTPLoader(const NSURLSessionConfiguration &configuration);
     /// Transfers under way are dropped without a word; see cancelAll().
     ~HTTPLoader();
-    HTTPLoader(const HTTPLoader &) = delete;
-    HTTPLoader &operator=(const HTTPLoader &) = delete;
+    Q_DISABLE_COPY_MOVE(HTTPLoader)
 
     void start(const NSMutableURLRequest &request, Finished finished);
 

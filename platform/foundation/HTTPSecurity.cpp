@@ -60,7 +60,7 @@ void HTTPSecurity::apply(void *easy, const NSURLSessionConfiguration &configurat
         curl_easy_setopt(easy, CURLOPT_CAPATH, nullptr);
     }
     // Whatever the system's configuration says.
-    curl_easy_setopt(easy, CURLOPT_SSLVERSION, long(CURL_SSLVERSION_TLSv1_2));
+    curl_easy_setopt(easy, CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
     *farewell = std::make_shared<bool>(false);
     curl_easy_setopt(easy, CURLOPT_SSL_CTX_FUNCTION, onContext);
     curl_easy_setopt(easy, CURLOPT_SSL_CTX_DATA, farewell);

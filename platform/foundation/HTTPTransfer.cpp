@@ -16,7 +16,7 @@ namespace {
 constexpr size_t maximumRedirects = 20;
 /// Of a field, in one head. Each look-up goes through the whole of it.
 constexpr qsizetype maximumRepetition = 8;
-constexpr size_t maximumHeadLength = size_t(256) * 1024;
+constexpr size_t maximumHeadLength = size_t{256} * 1024;
 
 constexpr std::array stepsOfConnecting{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
                                        CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
@@ -68,7 +68,7 @@ void HTTPTransfer::setConnection(const NSURLSessionConfiguration &configuration)
         m_connectTo.reset(curl_slist_append(nullptr, everything.constData()));
         curl_easy_setopt(easy, CURLOPT_CONNECT_TO, m_connectTo.get());
     }
-    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
     // Over a connection that was open before, an unanswered request would be sent again, and what
     // the server had left there would be taken for the answer.
@@ -116,7 +116,7 @@ size_t HTTPTransfer::onHeader(const char *line, size_t, size_t length, void *use
     auto *transfer = static_cast<HTTPTransfer *>(user);
     transfer->m_lastActivity = Clock::now();
     transfer->m_headLength += length;
-    const QByteArrayView text(line, qsizetype(length));
+    const QByteArrayView text(line, static_cast<qsizetype>(length));
     if (transfer->m_headLength > maximumHeadLength) {
         transfer->m_refusal = NSURLErrorDataLengthExceedsMaximum;
     } else if (text == "\r\n" || text == "\n") {
@@ -208,7 +208,8 @@ QByteArray HTTPTransfer::field(const char *name) const
     QByteArrayList values;
     curl_header *found = nullptr;
     while (values.size() < maximumRepetition
-           && curl_easy_header(handle(), name, size_t(values.size()), CURLH_HEADER, -1, &found)
+           && curl_easy_header(handle(), name, static_cast<size_t>(values.size()), CURLH_HEADER, -1,
+                               &found)
                == CURLHE_OK) {
         values.append(QByteArray(found->value).trimmed());
     }

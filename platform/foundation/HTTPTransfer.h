@@ -27,8 +27,7 @@ public:
 
     HTTPTransfer(const NSMutableURLRequest &request, const NSURLSessionConfiguration &configuration,
                  const HTTPProxy &proxy);
-    HTTPTransfer(const HTTPTransfer &) = delete;
-    HTTPTransfer &operator=(const HTTPTransfer &) = delete;
+    Q_DISABLE_COPY_MOVE(HTTPTransfer)
 
     /// libcurl's easy handle, for whoever runs the transfer.
     [[nodiscard]] void *handle() const { return m_easy.get(); }

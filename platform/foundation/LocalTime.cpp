@@ -14,7 +14,8 @@ std::optional<qint64> offsetAt(qint64 moment)
 {
     const auto time = time_t(moment);
     struct tm fields = {};
-    return localtime_r(&time, &fields) ? std::optional(qint64(fields.tm_gmtoff)) : std::nullopt;
+    return localtime_r(&time, &fields) ? std::optional(static_cast<qint64>(fields.tm_gmtoff))
+                                       : std::nullopt;
 }
 
 } // namespace
@@ -32,12 +33,14 @@ std::optional<qint64> LocalTime::momentOf(qint64 clock)
     // No clock is a day from UTC, so these are the offsets before and after any change nearby.
     const auto before = offsetAt(clock - day);
     const auto after = offsetAt(clock + day);
-    if (before == after)
+    if (before == after) {
         return before ? std::optional(clock - *before) : std::nullopt;
+    }
     std::optional<qint64> latest;
     for (const auto offset : {before, after}) {
-        if (offset && offsetAt(clock - *offset) == offset)
+        if (offset && offsetAt(clock - *offset) == offset) {
             latest = std::max(latest, std::optional(clock - *offset));
+        }
     }
     return latest;
 }

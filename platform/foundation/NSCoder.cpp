@@ -33,7 +33,7 @@ void NSCoder::encodeObject(const std::optional<NSDate> &date, const QString &key
 
 void NSCoder::encodeObject(int number, const QString &key)
 {
-    encodeValue(qint64(number), key);
+    encodeValue(static_cast<qint64>(number), key);
 }
 
 void NSCoder::encodeBool(bool value, const QString &key)
@@ -66,7 +66,7 @@ int NSCoder::decodeIntForKey(const QString &key) const
         return intValue(*text);
     }
     if (const auto *number = find<qint64>(m_values, key)) {
-        return intValue(double(*number));
+        return intValue(static_cast<double>(*number));
     }
     if (const auto *number = find<double>(m_values, key)) {
         return intValue(*number);

@@ -78,8 +78,9 @@ std::optional<qint64> clockOf(const DateFields &fields)
     calendar->set(fields.year, fields.month - 1, fields.day, fields.hour, fields.minute,
                   fields.second);
     const UDate milliseconds = calendar->getTime(status);
-    return U_SUCCESS(status) ? std::optional(qint64(milliseconds / millisecondsPerSecond))
-                             : std::nullopt;
+    return U_SUCCESS(status)
+        ? std::optional(static_cast<qint64>(milliseconds / millisecondsPerSecond))
+        : std::nullopt;
 }
 
 } // namespace
@@ -89,7 +90,8 @@ std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
     const auto fields = m_format.isEmpty() ? std::nullopt : readDateFields(m_format, text);
     const auto clock = fields ? clockOf(*fields) : std::nullopt;
     const auto moment = clock ? LocalTime::momentOf(*clock) : std::nullopt;
-    return moment ? std::optional(NSDate{double(*moment) - referenceDate}) : std::nullopt;
+    return moment ? std::optional(NSDate{static_cast<double>(*moment) - referenceDate})
+                  : std::nullopt;
 }
 
 QString NSDateFormatter::stringFromDate(const NSDate &date) const
@@ -98,12 +100,12 @@ QString NSDateFormatter::stringFromDate(const NSDate &date) const
     if (m_style == NSDateFormatterStyle::None || !(std::abs(moment) < farthest)) {
         return {};
     }
-    const auto clock = LocalTime::clockAt(qint64(moment));
+    const auto clock = LocalTime::clockAt(static_cast<qint64>(moment));
     const icu::DateFormat *formatter = clock ? writer() : nullptr;
     if (!formatter) {
         return {};
     }
     icu::UnicodeString text;
-    formatter->format(double(*clock) * millisecondsPerSecond, text);
+    formatter->format(static_cast<double>(*clock) * millisecondsPerSecond, text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }

@@ -123,7 +123,7 @@ std::optional<QByteArray> NSKeyedArchiver::archivedDataWithCoder(const NSCoder &
     top.insert(u"root"_s, PropertyList::reference(objects.addRoot(coder, className)));
 
     PropertyList archive = PropertyList::dictionary();
-    archive.insert(u"$version"_s, PropertyList(qint64(100000)));
+    archive.insert(u"$version"_s, PropertyList(qint64{100000}));
     archive.insert(u"$archiver"_s, PropertyList(u"NSKeyedArchiver"_s));
     archive.insert(u"$top"_s, std::move(top));
     archive.insert(u"$objects"_s, objects.list());

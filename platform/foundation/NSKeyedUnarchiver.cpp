@@ -38,7 +38,7 @@ Value plainValue(const PropertyList &node)
 std::optional<double> asDouble(const PropertyList &node)
 {
     const auto number = node.integer();
-    return number ? std::optional(double(*number)) : node.real();
+    return number ? std::optional(static_cast<double>(*number)) : node.real();
 }
 
 Value textOf(const PropertyList &object)
@@ -105,8 +105,8 @@ private:
     /// Nothing for what is no reference, or one to nowhere.
     [[nodiscard]] PropertyList referred(std::optional<quint64> uid) const
     {
-        const bool exists = uid && *uid < quint64(m_objects.size());
-        return exists ? m_objects[qsizetype(*uid)] : PropertyList();
+        const bool exists = uid && *uid < static_cast<quint64>(m_objects.size());
+        return exists ? m_objects[static_cast<qsizetype>(*uid)] : PropertyList();
     }
 
     /// The description of an object's class, or nothing.
@@ -148,7 +148,7 @@ private:
         const auto known = m_values.constFind(uid);
         return known != m_values.constEnd()
             ? *known
-            : *m_values.insert(uid, valueOf(m_objects[qsizetype(uid)]));
+            : *m_values.insert(uid, valueOf(m_objects[static_cast<qsizetype>(uid)]));
     }
 
     /// Follows no reference further than to a class: a cycle is no danger.

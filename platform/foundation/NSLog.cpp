@@ -23,7 +23,7 @@ void NSLog(const QString &message)
     line.reserve(message.size());
     for (const QChar c : message) {
         if (breaksTheLine(c)) {
-            line += u"\\u%1"_s.arg(uint(c.unicode()), 4, 16, QLatin1Char('0'));
+            line += u"\\u%1"_s.arg(static_cast<uint>(c.unicode()), 4, 16, QLatin1Char('0'));
         } else {
             line += c;
         }

@@ -12,6 +12,6 @@ NSMutableURLRequest NSMutableURLRequest::requestWithURL(const QByteArray &url)
 NSMutableURLRequest::~NSMutableURLRequest()
 {
     if (m_url.isDetached()) {
-        explicit_bzero(m_url.data(), size_t(m_url.size()));
+        explicit_bzero(m_url.data(), static_cast<size_t>(m_url.size()));
     }
 }

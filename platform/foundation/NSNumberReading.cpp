@@ -39,12 +39,14 @@ int intValue(const QString &text)
         // One beyond the range is enough to know, and cannot overflow.
         number = std::min(number * 10 + (c->unicode() - u'0'), largest + 1);
     }
-    return int(std::clamp(negative ? -number : number, smallest, largest));
+    return static_cast<int>(std::clamp(negative ? -number : number, smallest, largest));
 }
 
 int intValue(double number)
 {
-    return std::isnan(number) ? 0 : int(std::clamp(number, double(smallest), double(largest)));
+    return std::isnan(number) ? 0
+                              : static_cast<int>(std::clamp(number, static_cast<double>(smallest),
+                                                            static_cast<double>(largest)));
 }
 
 int intValue(const QJsonValue &value)

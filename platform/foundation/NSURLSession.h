@@ -28,8 +28,7 @@ public:
     /// A session that was installed as the shared one is uninstalled at the end.
     ~NSURLSession();
 
-    NSURLSession(const NSURLSession &) = delete;
-    NSURLSession &operator=(const NSURLSession &) = delete;
+    Q_DISABLE_COPY_MOVE(NSURLSession)
 
     /// The session that the application has installed; null before and after. Any thread.
     [[nodiscard]] static NSURLSession *sharedSession();

@@ -22,5 +22,5 @@ struct NSURLSessionConfiguration {
 
     /// Longest body, in bytes after decompression; a longer one is
     /// NSURLErrorDataLengthExceedsMaximum, as is one of more than 64 MiB before.
-    qsizetype maximumBodyLength = qsizetype(16) * 1024 * 1024;
+    qsizetype maximumBodyLength = qsizetype{16} * 1024 * 1024;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
 #include <functional>
 #include <future>
 #include <thread>
@@ -14,8 +16,7 @@ public:
     explicit NSURLSessionThread(std::function<void()> life);
     /// After end().
     ~NSURLSessionThread() = default;
-    NSURLSessionThread(const NSURLSessionThread &) = delete;
-    NSURLSessionThread &operator=(const NSURLSessionThread &) = delete;
+    Q_DISABLE_COPY_MOVE(NSURLSessionThread)
 
     /// Waits until `life` has returned, for a second at most. False: it has not, and the thread is
     /// left alone from now on, until the process ends.

@@ -30,8 +30,8 @@ constexpr auto asideMark = ".damaged-";
 bool writeAll(int descriptor, const QByteArray &content)
 {
     for (qsizetype done = 0; done < content.size();) {
-        const ssize_t length =
-            write(descriptor, content.constData() + done, size_t(content.size() - done));
+        const ssize_t length = write(descriptor, content.constData() + done,
+                                     static_cast<size_t>(content.size() - done));
         if (length < 0 && errno != EINTR) {
             return false;
         }

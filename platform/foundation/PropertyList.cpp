@@ -19,7 +19,7 @@ constexpr char trueContent = 0x09;
 /// The fewest of 1, 2, 4 and 8 bytes; 8 for a negative number.
 QByteArray integerContent(qint64 value)
 {
-    return bigEndian(quint64(value), bytesFor(quint64(value)));
+    return bigEndian(static_cast<quint64>(value), bytesFor(static_cast<quint64>(value)));
 }
 
 QByteArray realContent(double value)
@@ -30,7 +30,7 @@ QByteArray realContent(double value)
 double realIn(const QByteArray &content)
 {
     return content.size() == sizeof(float)
-        ? double(std::bit_cast<float>(quint32(numberIn(content))))
+        ? static_cast<double>(std::bit_cast<float>(static_cast<quint32>(numberIn(content))))
         : std::bit_cast<double>(numberIn(content));
 }
 
@@ -133,7 +133,8 @@ std::optional<bool> PropertyList::boolean() const
 
 std::optional<qint64> PropertyList::integer() const
 {
-    return m_type == Type::Integer ? std::optional(qint64(numberIn(m_content))) : std::nullopt;
+    return m_type == Type::Integer ? std::optional(static_cast<qint64>(numberIn(m_content)))
+                                   : std::nullopt;
 }
 
 std::optional<double> PropertyList::real() const
@@ -164,7 +165,7 @@ std::optional<quint64> PropertyList::uid() const
 {
     if (isDictionary() && m_items.size() == 2) {
         const std::optional<qint64> number = item(QStringLiteral("CF$UID")).integer();
-        return number ? std::optional(quint64(*number)) : std::nullopt;
+        return number ? std::optional(static_cast<quint64>(*number)) : std::nullopt;
     }
     return m_type == Type::UID ? std::optional(numberIn(m_content)) : std::nullopt;
 }

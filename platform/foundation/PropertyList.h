@@ -17,7 +17,7 @@
 class PropertyList {
 public:
     /// In bytes; a longer list is not read.
-    static constexpr qsizetype maximumLength = qsizetype(64) * 1024;
+    static constexpr qsizetype maximumLength = qsizetype{64} * 1024;
 
     /// As the upper half of the byte that begins a value in the binary form says it.
     enum class Type : uchar {

@@ -41,7 +41,7 @@ Value integerOf(const QString &text)
     const auto number =
         hexadecimal ? numberOf<quint64>(digits.sliced(2), 16) : numberOf<quint64>(digits, 10);
     if (!number || *number >> 63 == 0) {
-        return number ? Value(PropertyList(qint64(*number))) : std::nullopt;
+        return number ? Value(PropertyList(static_cast<qint64>(*number))) : std::nullopt;
     }
     // Eight bytes would be read as a negative number.
     return PropertyList(PropertyList::Type::Integer, bigEndian(0, 8) + bigEndian(*number, 8));
@@ -70,7 +70,7 @@ Value dateOf(const QString &text)
     constexpr qint64 referenceDate = 978307200; // 2001-01-01 UTC
     const QDateTime date = QDateTime::fromString(text.trimmed(), Qt::ISODate);
     return date.isValid() && date.timeSpec() == Qt::UTC
-        ? Value(PropertyList(NSDate{double(date.toSecsSinceEpoch() - referenceDate)}))
+        ? Value(PropertyList(NSDate{static_cast<double>(date.toSecsSinceEpoch() - referenceDate)}))
         : std::nullopt;
 }
 

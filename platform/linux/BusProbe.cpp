@@ -24,10 +24,12 @@ QByteArray socketName(const QByteArray &address)
 {
     for (const QByteArray &pair : address.mid(transport.size()).split(',')) {
         QByteArray name = QByteArray::fromPercentEncoding(pair.mid(pair.indexOf('=') + 1));
-        if (pair.startsWith("path="))
+        if (pair.startsWith("path=")) {
             return name;
-        if (pair.startsWith("abstract="))
+        }
+        if (pair.startsWith("abstract=")) {
             return name.prepend('\0');
+        }
     }
     return {};
 }
@@ -37,16 +39,19 @@ QByteArray socketName(const QByteArray &address)
 int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
 {
     sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-    if (name.isEmpty() || size_t(name.size()) >= sizeof address.sun_path)
+    if (name.isEmpty() || static_cast<size_t>(name.size()) >= sizeof address.sun_path) {
         return -1;
+    }
     std::copy(name.begin(), name.end(), address.sun_path);
-    const auto length = socklen_t(offsetof(sockaddr_un, sun_path) + size_t(name.size()));
+    const auto length =
+        static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + static_cast<size_t>(name.size()));
     const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const qint64 left = std::max(qint64(1), deadline.remainingTime()); // 0 would be for ever
+    const qint64 left = std::max(qint64{1}, deadline.remainingTime()); // 0 would be for ever
     const timeval patience{.tv_sec = left / 1000, .tv_usec = left % 1000 * 1000};
     setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
-    if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0)
+    if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0) {
         return descriptor;
+    }
     const int reason = errno;
     close(descriptor);
     errno = reason;
@@ -59,8 +64,8 @@ bool answers(int descriptor, QDeadlineTimer deadline)
     constexpr char question[] = "\0AUTH\r\n";
     constexpr ssize_t length = sizeof question - 1;
     pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
-    return send(descriptor, question, size_t(length), MSG_NOSIGNAL) != length
-        || poll(&waiting, 1, int(deadline.remainingTime())) != 0;
+    return send(descriptor, question, static_cast<size_t>(length), MSG_NOSIGNAL) != length
+        || poll(&waiting, 1, static_cast<int>(deadline.remainingTime())) != 0;
 }
 
 } // namespace
@@ -69,13 +74,16 @@ bool busAnswers(const QByteArray &address, QDeadlineTimer deadline)
 {
     // Of several the libraries take the first that accepts; one that refuses answers at once.
     for (const QByteArray &one : address.split(';')) {
-        if (!one.startsWith(transport))
+        if (!one.startsWith(transport)) {
             return true;
+        }
         const int descriptor = connectedSocket(socketName(one), deadline);
-        if (descriptor < 0 && errno == EAGAIN)
+        if (descriptor < 0 && errno == EAGAIN) {
             return false;
-        if (descriptor < 0)
+        }
+        if (descriptor < 0) {
             continue;
+        }
         const bool answered = answers(descriptor, deadline);
         close(descriptor);
         return answered;

@@ -8,14 +8,16 @@
 
 DesktopPalette::DesktopPalette(std::function<void()> changed) : m_changed(std::move(changed))
 {
-    if (QCoreApplication *application = QCoreApplication::instance())
+    if (QCoreApplication *application = QCoreApplication::instance()) {
         application->installEventFilter(this);
+    }
 }
 
 UIUserInterfaceStyle DesktopPalette::style() const
 {
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return UIUserInterfaceStyle::Unspecified;
+    }
     const QPalette palette = QGuiApplication::palette();
     const int ground = palette.color(QPalette::Window).lightness();
     const int text = palette.color(QPalette::WindowText).lightness();

@@ -42,8 +42,9 @@ void setReducedMotion(Values &values, const QVariant &value)
 
 void setTextScale(Values &values, const QVariant &value)
 {
-    if (std::isfinite(value.toDouble()))
+    if (std::isfinite(value.toDouble())) {
         values.textScale = std::clamp(value.toDouble(), smallestTextScale, largestTextScale);
+    }
 }
 
 void setAnimations(Values &values, const QVariant &value)
@@ -68,8 +69,9 @@ constexpr std::array settings{
 // Portals wrap a value in one variant or in several.
 QVariant unwrapped(QVariant value)
 {
-    while (value.metaType() == QMetaType::fromType<QDBusVariant>())
+    while (value.metaType() == QMetaType::fromType<QDBusVariant>()) {
         value = value.value<QDBusVariant>().variant();
+    }
     return value;
 }
 
@@ -77,8 +79,9 @@ void take(Values &values, const QString &group, const QString &key, const QVaria
 {
     const QVariant value = unwrapped(wrapped);
     for (const Setting &setting : settings) {
-        if (setting.group == group && setting.key == key && setting.type == value.typeId())
+        if (setting.group == group && setting.key == key && setting.type == value.typeId()) {
             setting.set(values, value);
+        }
     }
 }
 
@@ -107,8 +110,9 @@ UIAppearance DesktopSettings::appearance() const
 
 void DesktopSettings::settingChanged(const QDBusMessage &message)
 {
-    if (message.signature() != "ssv"_L1)
+    if (message.signature() != "ssv"_L1) {
         return;
+    }
     const QVariantList arguments = message.arguments();
     take(m_values, arguments.at(0).toString(), arguments.at(1).toString(), arguments.at(2));
     m_changed();
@@ -126,11 +130,13 @@ void DesktopSettings::readAllFinished(QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();
     const QDBusMessage reply = watcher->reply();
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != "a{sa{sv}}"_L1)
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != "a{sa{sv}}"_L1) {
         return;
+    }
     const auto groups = qdbus_cast<Groups>(reply.arguments().constFirst());
     m_values = {};
-    for (const Setting &setting : settings)
+    for (const Setting &setting : settings) {
         take(m_values, setting.group, setting.key, groups.value(setting.group).value(setting.key));
+    }
     m_changed();
 }

@@ -28,10 +28,12 @@ Owned<GAppInfo> handlerOf(const QByteArray &url)
 Owned<GAppLaunchContext> cleanContext()
 {
     Owned<GAppLaunchContext> context(g_app_launch_context_new());
-    for (const char *name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"})
+    for (const char *name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
         g_app_launch_context_unsetenv(context.get(), name);
-    if (qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:")
+    }
+    if (qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:") {
         g_app_launch_context_unsetenv(context.get(), "DBUS_SESSION_BUS_ADDRESS");
+    }
     return context;
 }
 
@@ -48,8 +50,9 @@ void Links::open(const QString &url)
 {
     QByteArray bytes = url.toUtf8();
     const Owned<GAppInfo> handler = handlerOf(bytes);
-    if (!handler)
+    if (!handler) {
         return;
+    }
     GList urls{bytes.data(), nullptr, nullptr};
     g_app_info_launch_uris(handler.get(), &urls, cleanContext().get(), nullptr);
 }

@@ -16,8 +16,9 @@ std::chrono::milliseconds LinuxHost::prepare()
 {
     SingleInstance::prepareEnvironment();
     const QDeadlineTimer deadline(patience);
-    if (!SessionBus::probe(deadline))
+    if (!SessionBus::probe(deadline)) {
         qInfo("The session bus does not answer: this start does without it.");
+    }
     return std::chrono::milliseconds(deadline.remainingTime());
 }
 
@@ -60,10 +61,12 @@ void LinuxHost::observeAppearance(std::function<void(const UIAppearance &)> chan
 void LinuxHost::tellAppearance()
 {
     UIAppearance appearance = m_settings->appearance();
-    if (appearance.style == UIUserInterfaceStyle::Unspecified)
+    if (appearance.style == UIUserInterfaceStyle::Unspecified) {
         appearance.style = m_palette->style();
-    if (appearance == m_told)
+    }
+    if (appearance == m_told) {
         return;
+    }
     m_told = appearance;
     m_appearanceChanged(appearance);
 }
@@ -72,8 +75,9 @@ bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
                                    std::function<void(const QStringList &)> opened)
 {
     if (!m_bus->isConnected()) {
-        if (!SessionBus::isDisabled())
+        if (!SessionBus::isDisabled()) {
             qInfo("The session bus cannot be reached: this start is on its own.");
+        }
         return true;
     }
     m_instance =

@@ -27,8 +27,9 @@ bool isOwnSocket(const QByteArray &path)
 QByteArray knownAddress()
 {
     const QByteArray address = qgetenv(addressVariable);
-    if (!address.isEmpty())
+    if (!address.isEmpty()) {
         return address;
+    }
     const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
     const QByteArray path = folder + "/bus";
     return !folder.isEmpty() && isOwnSocket(path) ? "unix:path=" + path : QByteArray();
@@ -44,8 +45,9 @@ void disable()
 QDBusConnection connectToSession()
 {
     const QString name = u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    if (!knownAddress().isEmpty())
+    if (!knownAddress().isEmpty()) {
         return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    }
     disable();
     return QDBusConnection(name);
 }
@@ -60,8 +62,9 @@ bool SessionBus::isDisabled()
 bool SessionBus::probe(QDeadlineTimer deadline)
 {
     const bool alive = busAnswers(knownAddress(), deadline);
-    if (!alive)
+    if (!alive) {
         disable();
+    }
     return alive;
 }
 

@@ -30,8 +30,9 @@ QVariantMap platformDataFromEnvironment()
 {
     QVariantMap data;
     for (const TokenName &name : tokenNames) {
-        if (const QString token = qEnvironmentVariable(name.environment); !token.isEmpty())
+        if (const QString token = qEnvironmentVariable(name.environment); !token.isEmpty()) {
             data.insert(name.platformData, token);
+        }
     }
     return data;
 }
@@ -44,8 +45,9 @@ constinit std::array<std::array<char, entryLength>, tokenNames.size()> entries{}
 void setToken(size_t i, const QByteArray &token)
 {
     const QByteArray entry = tokenNames[i].environment + ('=' + token);
-    if (size_t(entry.size()) < entryLength)
+    if (static_cast<size_t>(entry.size()) < entryLength) {
         std::copy_n(entry.constData(), entry.size() + 1, entries[i].data());
+    }
 }
 
 /// Has the tokens in the environment while it lives: Qt takes one from there when a window asks to
@@ -54,13 +56,15 @@ class EnvironmentTokens {
 public:
     explicit EnvironmentTokens(const QVariantMap &platformData)
     {
-        for (size_t i = 0; i < tokenNames.size(); ++i)
+        for (size_t i = 0; i < tokenNames.size(); ++i) {
             setToken(i, platformData.value(tokenNames[i].platformData).toString().toUtf8());
+        }
     }
     ~EnvironmentTokens()
     {
-        for (size_t i = 0; i < tokenNames.size(); ++i)
+        for (size_t i = 0; i < tokenNames.size(); ++i) {
             setToken(i, {});
+        }
     }
     Q_DISABLE_COPY_MOVE(EnvironmentTokens)
 };
@@ -96,8 +100,9 @@ SingleInstance::~SingleInstance()
 bool SingleInstance::claimOrHandOver(const QStringList &urls, QDeadlineTimer deadline)
 {
     const Claim claimed = claim(deadline);
-    if (claimed == Claim::OwnedByAnother && handOver(urls, deadline))
+    if (claimed == Claim::OwnedByAnother && handOver(urls, deadline)) {
         return false;
+    }
     if (claimed == Claim::Refused) {
         qInfo("The session bus does not give the name: this start is on its own.");
     } else if (claimed == Claim::OwnedByAnother && claim(deadline) != Claim::Owner) {
@@ -123,7 +128,7 @@ SingleInstance::Claim SingleInstance::claim(QDeadlineTimer deadline)
     constexpr uint ownedByAnother = 3;
     constexpr uint alreadyOwner = 4;
     const QDBusMessage reply = m_bus.call(askBus(u"RequestName"_s, {m_name, doNotQueue}),
-                                          QDBus::Block, int(deadline.remainingTime()));
+                                          QDBus::Block, static_cast<int>(deadline.remainingTime()));
     const uint code =
         reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toUInt() : 0;
     return code == owner || code == alreadyOwner ? Claim::Owner
@@ -136,11 +141,12 @@ bool SingleInstance::handOver(const QStringList &urls, QDeadlineTimer deadline)
     const bool open = !urls.isEmpty();
     QDBusMessage message = QDBusMessage::createMethodCall(
         m_name, m_path, u"org.freedesktop.Application"_s, open ? u"Open"_s : u"Activate"_s);
-    if (open)
+    if (open) {
         message << urls;
+    }
     message << platformDataFromEnvironment();
     message.setAutoStartService(false);
-    return m_bus.call(message, QDBus::Block, int(deadline.remainingTime())).type()
+    return m_bus.call(message, QDBus::Block, static_cast<int>(deadline.remainingTime())).type()
         == QDBusMessage::ReplyMessage;
 }
 
@@ -162,8 +168,9 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
 // thread has freed its copy too.
 void SingleInstance::trimMemorySoon()
 {
-    if (std::exchange(m_trimming, true))
+    if (std::exchange(m_trimming, true)) {
         return;
+    }
     const auto trim = [this] {
         m_trimming = false;
         malloc_trim(0);

@@ -35,26 +35,30 @@ void UIAlertController::addTextFieldWithConfigurationHandler(
 void UIAlertController::viewWillAppear(bool animated)
 {
     UIViewController::viewWillAppear(animated);
-    if (!m_textFields.empty())
+    if (!m_textFields.empty()) {
         m_textFields.front()->becomeFirstResponder();
+    }
 }
 
 void UIAlertController::viewDidLeave()
 {
     UIViewController::viewDidLeave();
     for (const auto &field : m_textFields) {
-        if (field->isSecureTextEntry())
+        if (field->isSecureTextEntry()) {
             field->erase();
+        }
     }
 }
 
 void UIAlertController::trigger(UIAlertAction *action)
 {
-    if (!isOnTop())
+    if (!isOnTop()) {
         return;
+    }
     UIAlertAction::Handler handler = std::move(action->m_handler);
-    for (const auto &other : m_actions)
+    for (const auto &other : m_actions) {
         other->m_handler = nullptr;
+    }
     dismissViewControllerAnimated(true, std::move(handler));
 }
 
@@ -77,8 +81,9 @@ void UIAlertController::triggerStyle(UIAlertAction::Style style)
     const auto found =
         std::find_if(m_actions.begin(), m_actions.end(),
                      [style](const auto &action) { return action->style() == style; });
-    if (found != m_actions.end())
+    if (found != m_actions.end()) {
         trigger(found->get());
+    }
 }
 
 void UIAlertController::fieldReturned(UIControl *sender)

@@ -161,8 +161,9 @@ std::optional<UIColor::RGB> UIColor::getRed() const
 {
     const UIColor color = resolvedNow();
     const std::vector<double> &c = color.m_components;
-    if (c.empty() || color.m_componentsAlone)
+    if (c.empty() || color.m_componentsAlone) {
         return std::nullopt;
+    }
     return c.size() == 2 ? RGB{c[0], c[0], c[0], c[1]} : RGB{c[0], c[1], c[2], c[3]};
 }
 
@@ -170,25 +171,30 @@ std::optional<UIColor::Gray> UIColor::getWhite() const
 {
     const UIColor color = resolvedNow();
     const auto rgb = color.getRed();
-    if (!rgb)
+    if (!rgb) {
         return std::nullopt;
-    if (color.m_components.size() == 2)
+    }
+    if (color.m_components.size() == 2) {
         return Gray{color.m_components[0], color.m_components[1]};
+    }
     return Gray{0.299 * rgb->red + 0.587 * rgb->green + 0.114 * rgb->blue, rgb->alpha};
 }
 
 std::optional<UIColor::HSB> UIColor::getHue() const
 {
     const UIColor color = resolvedNow();
-    if (color.m_components.size() == 2)
+    if (color.m_components.size() == 2) {
         return HSB{0, 0, color.m_components[0], color.m_components[1]};
+    }
     const auto rgb = color.getRed();
-    if (!rgb)
+    if (!rgb) {
         return std::nullopt;
+    }
     const double most = std::max({rgb->red, rgb->green, rgb->blue});
     const double range = most - std::min({rgb->red, rgb->green, rgb->blue});
-    if (range <= 0)
+    if (range <= 0) {
         return HSB{0, 0, most, rgb->alpha};
+    }
     double sixth = 0;
     if (most == rgb->red) {
         sixth = (rgb->green - rgb->blue) / range;
@@ -204,9 +210,11 @@ QColor UIColor::drawn(bool dark) const
 {
     const auto style = dark ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
     const std::vector<double> c = resolvedColorWithTraitCollection({style}).components();
-    if (c.size() == 2)
+    if (c.size() == 2) {
         return QColor::fromRgbF(drawable(c[0]), drawable(c[0]), drawable(c[0]), drawable(c[1]));
-    if (c.size() == 4)
+    }
+    if (c.size() == 4) {
         return QColor::fromRgbF(drawable(c[0]), drawable(c[1]), drawable(c[2]), drawable(c[3]));
+    }
     return Qt::transparent;
 }

@@ -27,8 +27,9 @@ constexpr std::array styles{
 UIFont UIFont::preferredFontForTextStyle(UIFontTextStyle style)
 {
     for (const Style &row : styles) {
-        if (row.style == style)
+        if (row.style == style) {
             return {row.points, row.weight};
+        }
     }
     Q_UNREACHABLE();
 }

@@ -25,8 +25,9 @@ bool UIImage::isTemplate() const
 
 QString UIImage::pathOfImageNamed(const QString &name)
 {
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return {};
+    }
     const QString path = templatePath(name);
     return QFile::exists(path) ? path : QStringLiteral(":/assets/%1.svg").arg(name);
 }

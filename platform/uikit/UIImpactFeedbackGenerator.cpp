@@ -6,6 +6,7 @@
 
 void UIImpactFeedbackGenerator::impactOccurred() const
 {
-    if (const UIApplication *application = UIApplication::sharedApplication())
+    if (const UIApplication *application = UIApplication::sharedApplication()) {
         application->host().impactOccurred(m_style);
+    }
 }

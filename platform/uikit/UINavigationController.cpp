@@ -28,8 +28,9 @@ std::vector<std::shared_ptr<UIViewController>> UINavigationController::viewContr
 void UINavigationController::pushViewController(std::shared_ptr<UIViewController> controller,
                                                 bool animated)
 {
-    if (!controller)
+    if (!controller) {
         return;
+    }
     adopt(*controller);
     m_pages.push(std::move(controller), Cover::Covers,
                  animated ? Motion::Animated : Motion::Immediate);
@@ -37,8 +38,9 @@ void UINavigationController::pushViewController(std::shared_ptr<UIViewController
 
 void UINavigationController::popViewControllerAnimated(bool animated)
 {
-    if (canGoBack())
+    if (canGoBack()) {
         m_pages.remove(m_pages.top(), animated ? Motion::Animated : Motion::Immediate);
+    }
 }
 
 void UINavigationController::popToRootViewControllerAnimated(bool animated)
@@ -61,8 +63,9 @@ QString UINavigationController::backTitle() const
 bool UINavigationController::goBack()
 {
     const bool can = canGoBack() && !topViewController()->navigationItem()->leftBarButtonItem();
-    if (can)
+    if (can) {
         popViewControllerAnimated(true);
+    }
     return can;
 }
 
@@ -70,12 +73,14 @@ bool UINavigationController::escape()
 {
     const UIViewController *page = topViewController();
     UIBarButtonItem *left = page->navigationItem()->leftBarButtonItem();
-    if (!left)
+    if (!left) {
         return goBack();
+    }
     const bool leaves =
         left->isSystemItem(UIBarButtonSystemItem::Cancel) && !page->isModalInPresentation();
-    if (leaves)
+    if (leaves) {
         left->trigger();
+    }
     return leaves;
 }
 

@@ -4,8 +4,9 @@
 
 void UINavigationItem::setTitle(const QString &title)
 {
-    if (m_title == title)
+    if (m_title == title) {
         return;
+    }
     m_title = title;
     Q_EMIT changed();
 }

@@ -7,8 +7,9 @@ UIRefreshControl::~UIRefreshControl() = default;
 
 void UIRefreshControl::pull()
 {
-    if (m_refreshing)
+    if (m_refreshing) {
         return;
+    }
     beginRefreshing();
     sendActionsForControlEvent(UIControlEvent::ValueChanged);
 }

@@ -12,30 +12,35 @@ bool UIResponder::isFirstResponder() const
 
 bool UIResponder::becomeFirstResponder()
 {
-    if (canBecomeFirstResponder())
+    if (canBecomeFirstResponder()) {
         moveFirstResponder(this);
+    }
     return isFirstResponder();
 }
 
 bool UIResponder::resignFirstResponder()
 {
-    if (isFirstResponder())
+    if (isFirstResponder()) {
         moveFirstResponder(nullptr);
+    }
     return !isFirstResponder();
 }
 
 void UIResponder::moveFirstResponder(UIResponder *to)
 {
     UIApplication *application = UIApplication::sharedApplication();
-    if (!application || application->m_firstResponder == to)
+    if (!application || application->m_firstResponder == to) {
         return;
+    }
     const QPointer<UIResponder> from = std::exchange(application->m_firstResponder, to);
     for (const QPointer<UIResponder> &responder : {from, QPointer<UIResponder>(to)}) {
         // The one that lost the keyboard may have moved it on.
-        if (!responder || (responder == to && !to->isFirstResponder()))
+        if (!responder || (responder == to && !to->isFirstResponder())) {
             continue;
+        }
         responder->firstResponderDidChange();
-        if (responder)
+        if (responder) {
             Q_EMIT responder->firstResponderChanged();
+        }
     }
 }

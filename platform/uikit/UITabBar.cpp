@@ -15,8 +15,9 @@ void UITabBar::setItems(const std::vector<UITabBarItem *> &items)
 
 void UITabBar::choose(int index)
 {
-    if (index >= 0 && std::cmp_less(index, m_items.size()))
+    if (index >= 0 && std::cmp_less(index, m_items.size())) {
         Q_EMIT itemChosen(index);
+    }
 }
 
 QQmlListProperty<UITabBarItem> UITabBar::itemList()

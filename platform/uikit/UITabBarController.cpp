@@ -12,8 +12,9 @@ namespace {
 
 UITabBarItem *itemOf(const UIViewController &controller)
 {
-    if (controller.tabBarItem())
+    if (controller.tabBarItem()) {
         return controller.tabBarItem();
+    }
     const auto *navigation = qobject_cast<const UINavigationController *>(&controller);
     return navigation ? navigation->viewControllers().front()->tabBarItem() : nullptr;
 }
@@ -45,8 +46,9 @@ void UITabBarController::setViewControllers(
 void UITabBarController::setSelectedIndex(int index)
 {
     if (index == selectedIndex() || index < 0
-        || std::cmp_greater_equal(index, m_viewControllers.size()))
+        || std::cmp_greater_equal(index, m_viewControllers.size())) {
         return;
+    }
     const auto shown = m_viewControllers[static_cast<std::size_t>(selectedIndex())];
     m_tabBar.setSelectedIndex(index);
     disappear(*shown, UITransitionStack::Motion::Immediate);
@@ -56,16 +58,18 @@ void UITabBarController::setSelectedIndex(int index)
 // The shown tab comes as far on screen as this controller has.
 void UITabBarController::appearanceStateDidChange(UITransitionStack::Motion motion)
 {
-    if (m_viewControllers.empty())
+    if (m_viewControllers.empty()) {
         return;
+    }
     const auto shown = m_viewControllers[static_cast<std::size_t>(selectedIndex())];
     if (appearanceState() == UIAppearanceState::Disappeared) {
         disappear(*shown, motion);
     } else {
         beginAppearance(*shown, motion);
     }
-    if (appearanceState() == UIAppearanceState::Appeared)
+    if (appearanceState() == UIAppearanceState::Appeared) {
         endAppearance(*shown, motion);
+    }
 }
 
 void UITabBarController::itemChosen(int index)
@@ -76,8 +80,9 @@ void UITabBarController::itemChosen(int index)
         return;
     }
     const auto &shown = m_viewControllers[static_cast<std::size_t>(index)];
-    if (auto *navigation = qobject_cast<UINavigationController *>(shown.get()))
+    if (auto *navigation = qobject_cast<UINavigationController *>(shown.get())) {
         navigation->popToRootViewControllerAnimated(true);
+    }
 }
 
 QQmlListProperty<UIViewController> UITabBarController::viewControllerList()

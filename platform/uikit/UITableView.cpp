@@ -47,28 +47,34 @@ void UITableView::reloadData()
 
 void UITableView::deselectRowAtIndexPath(const NSIndexPath &indexPath, bool animated)
 {
-    if (m_selected != indexPath)
+    if (m_selected != indexPath) {
         return;
+    }
     m_selected.reset();
-    if (UITableViewCell *cell = m_entries.shownCell(indexPath))
+    if (UITableViewCell *cell = m_entries.shownCell(indexPath)) {
         cell->setSelected(false, animated);
+    }
 }
 
 void UITableView::chooseRowAtIndexPath(const NSIndexPath &indexPath)
 {
-    if (m_selected && m_selected != indexPath)
+    if (m_selected && m_selected != indexPath) {
         deselectRowAtIndexPath(*m_selected, false);
+    }
     m_selected = indexPath;
-    if (UITableViewCell *cell = m_entries.shownCell(indexPath))
+    if (UITableViewCell *cell = m_entries.shownCell(indexPath)) {
         cell->setSelected(true, false);
-    if (m_delegate)
+    }
+    if (m_delegate) {
         m_delegate->didSelectRowAtIndexPath(indexPath);
+    }
 }
 
 void UITableView::chooseEntry(int entry)
 {
-    if (const auto indexPath = m_entries.indexPathOf(entry))
+    if (const auto indexPath = m_entries.indexPathOf(entry)) {
         chooseRowAtIndexPath(*indexPath);
+    }
 }
 
 void UITableView::cellHidden(UITableViewCell *cell)
@@ -84,8 +90,9 @@ UIFont UITableView::sectionFont()
 std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &indexPath)
 {
     auto cell = m_dataSource->cellForRowAtIndexPath(indexPath);
-    if (!cell)
+    if (!cell) {
         cell = make<UITableViewCell>();
+    }
     addSubview(*cell);
     cell->setSelected(m_selected == indexPath, false);
     return cell;

@@ -35,8 +35,9 @@ void UITableViewCell::setSelected(bool selected, bool animated)
 
 void UITableViewCell::setHighlighted(bool highlighted)
 {
-    if (m_highlighted == highlighted)
+    if (m_highlighted == highlighted) {
         return;
+    }
     assign(m_animatesSelection, false);
     assign(m_highlighted, highlighted);
 }
@@ -58,8 +59,9 @@ UIColor UITableViewCell::selectionColor()
 
 QString UITableViewCell::accessibilityLabel() const
 {
-    if (const QString label = UIView::accessibilityLabel(); !label.isEmpty())
+    if (const QString label = UIView::accessibilityLabel(); !label.isEmpty()) {
         return label;
+    }
     QStringList texts{m_textLabel.accessibilityLabel(), m_detailTextLabel.accessibilityLabel()};
     texts.removeAll(QString());
     return texts.join(QStringLiteral(", "));

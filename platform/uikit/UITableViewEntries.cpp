@@ -12,8 +12,9 @@ UITableViewEntries::~UITableViewEntries() = default;
 // What draws a row stays for the row that comes to stand there, and so does the table's place.
 void UITableViewEntries::reload()
 {
-    if (!m_loaded)
+    if (!m_loaded) {
         return;
+    }
     std::vector<Section> sections = ask();
     setCount(sections);
     if (sections.size() != m_sections.size()) {
@@ -21,11 +22,13 @@ void UITableViewEntries::reload()
         return;
     }
     takeBackCells(sections);
-    for (std::size_t i = 0; i < sections.size(); ++i)
+    for (std::size_t i = 0; i < sections.size(); ++i) {
         resize(i, sections[i].rows);
+    }
     m_sections = std::move(sections);
-    if (!m_sections.empty())
+    if (!m_sections.empty()) {
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
 }
 
 // Before the first is handed out again.
@@ -47,8 +50,9 @@ void UITableViewEntries::resize(std::size_t section, int rows)
     const int end = m_sections[section].footer();
     const auto change = [&] {
         m_sections[section].rows = rows;
-        for (std::size_t i = section + 1; i < m_sections.size(); ++i)
+        for (std::size_t i = section + 1; i < m_sections.size(); ++i) {
             m_sections[i].header += rows - before;
+        }
     };
     if (rows > before) {
         beginInsertRows({}, end, end + rows - before - 1);
@@ -73,18 +77,21 @@ void UITableViewEntries::clear()
 void UITableViewEntries::reset(const std::function<void()> &change)
 {
     beginResetModel();
-    for (auto &[entry, cell] : std::exchange(m_shown, {}))
+    for (auto &[entry, cell] : std::exchange(m_shown, {})) {
         m_leaving.push_back(std::move(cell));
+    }
     change();
     endResetModel(); // every drawing says here that it goes; what is left was not drawn
-    for (auto &cell : std::exchange(m_leaving, {}))
+    for (auto &cell : std::exchange(m_leaving, {})) {
         m_table.recycle(std::move(cell));
+    }
 }
 
 void UITableViewEntries::load() const
 {
-    if (std::exchange(m_loaded, true))
+    if (std::exchange(m_loaded, true)) {
         return;
+    }
     m_sections = ask();
     m_count = countOf(m_sections);
 }
@@ -113,8 +120,9 @@ std::vector<UITableViewEntries::Section> UITableViewEntries::ask() const
 const UITableViewEntries::Section *UITableViewEntries::sectionOf(int entry) const
 {
     load();
-    if (entry < 0 || m_sections.empty() || entry > m_sections.back().footer())
+    if (entry < 0 || m_sections.empty() || entry > m_sections.back().footer()) {
         return nullptr;
+    }
     const auto after =
         std::upper_bound(m_sections.begin(), m_sections.end(), entry,
                          [](int value, const Section &section) { return value < section.header; });
@@ -124,16 +132,18 @@ const UITableViewEntries::Section *UITableViewEntries::sectionOf(int entry) cons
 std::optional<NSIndexPath> UITableViewEntries::indexPathOf(int entry) const
 {
     const Section *section = sectionOf(entry);
-    if (!section || entry == section->header || entry == section->footer())
+    if (!section || entry == section->header || entry == section->footer()) {
         return std::nullopt;
+    }
     return NSIndexPath{static_cast<int>(section - m_sections.data()), entry - section->header - 1};
 }
 
 UITableViewCell *UITableViewEntries::shownCell(const NSIndexPath &indexPath) const
 {
     const auto section = static_cast<std::size_t>(indexPath.section);
-    if (indexPath.section < 0 || section >= m_sections.size())
+    if (indexPath.section < 0 || section >= m_sections.size()) {
         return nullptr;
+    }
     const auto shown = m_shown.find(m_sections[section].header + 1 + indexPath.row);
     return shown == m_shown.end() ? nullptr : shown->second.get();
 }
@@ -150,16 +160,18 @@ void UITableViewEntries::hide(const UITableViewCell *cell)
     }
     const auto shown = std::find_if(m_shown.begin(), m_shown.end(),
                                     [&](const auto &entry) { return entry.second.get() == cell; });
-    if (shown != m_shown.end())
+    if (shown != m_shown.end()) {
         m_table.recycle(std::move(m_shown.extract(shown).mapped()));
+    }
 }
 
 int UITableViewEntries::rowBeside(int entry, int step) const
 {
     // After a reload the table may end before what was the current row.
     for (int next = std::clamp(entry, -1, rowCount()) + step; sectionOf(next); next += step) {
-        if (indexPathOf(next))
+        if (indexPathOf(next)) {
             return next;
+        }
     }
     return -1;
 }
@@ -167,11 +179,13 @@ int UITableViewEntries::rowBeside(int entry, int step) const
 UITableViewCell *UITableViewEntries::cellOf(int entry) const
 {
     const auto indexPath = indexPathOf(entry);
-    if (!indexPath)
+    if (!indexPath) {
         return nullptr;
+    }
     const auto shown = m_shown.find(entry);
-    if (shown != m_shown.end())
+    if (shown != m_shown.end()) {
         return shown->second.get();
+    }
     // The data source may do anything meanwhile, so the place is found anew.
     auto cell = m_table.cellToShow(*indexPath);
     return m_shown.insert_or_assign(entry, std::move(cell)).first->second.get();
@@ -180,8 +194,9 @@ UITableViewCell *UITableViewEntries::cellOf(int entry) const
 double UITableViewEntries::heightOf(int entry) const
 {
     const Section &section = *sectionOf(entry);
-    if (entry == section.footer())
+    if (entry == section.footer()) {
         return section.footerHeight;
+    }
     const auto indexPath = indexPathOf(entry);
     return indexPath && m_table.delegate() ? m_table.delegate()->heightForRowAtIndexPath(*indexPath)
                                            : UITableViewAutomaticDimension;
@@ -190,8 +205,9 @@ double UITableViewEntries::heightOf(int entry) const
 QString UITableViewEntries::textOf(int entry) const
 {
     const Section &section = *sectionOf(entry);
-    if (entry == section.header)
+    if (entry == section.header) {
         return section.headerText;
+    }
     return entry == section.footer() ? section.footerText : QString();
 }
 
@@ -208,8 +224,9 @@ int UITableViewEntries::count() const
 
 void UITableViewEntries::setCount(const std::vector<Section> &sections)
 {
-    if (std::exchange(m_count, countOf(sections)) != m_count)
+    if (std::exchange(m_count, countOf(sections)) != m_count) {
         Q_EMIT countChanged();
+    }
 }
 
 int UITableViewEntries::rowCount(const QModelIndex &parent) const
@@ -220,8 +237,9 @@ int UITableViewEntries::rowCount(const QModelIndex &parent) const
 
 QVariant UITableViewEntries::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
+    }
     const int entry = index.row();
     switch (role) {
     case TableRole:

@@ -27,8 +27,9 @@ public:
 
     void send(Sender *sender) const override
     {
-        if (!m_target)
+        if (!m_target) {
             return;
+        }
         if constexpr (std::is_invocable_v<Method, Target *, Sender *>) {
             (m_target.data()->*m_method)(sender);
         } else {

@@ -9,8 +9,9 @@ namespace {
 
 QString inOneLine(QString text)
 {
-    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
+    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'}) {
         text.replace(lineBreak, u' ');
+    }
     return text;
 }
 
@@ -23,8 +24,9 @@ std::optional<QString> copyOf(const std::optional<QString> &text)
 void overwrite(std::optional<QString> &text)
 {
     // What somebody else holds as well is not this field's to change.
-    if (text && text->isDetached())
-        explicit_bzero(text->data(), size_t(text->size()) * sizeof(QChar));
+    if (text && text->isDetached()) {
+        explicit_bzero(text->data(), static_cast<size_t>(text->size()) * sizeof(QChar));
+    }
 }
 
 } // namespace
@@ -75,8 +77,9 @@ bool UITextField::shows(const QString &text) const
 
 void UITextField::edit(const QString &text)
 {
-    if (shows(text))
+    if (shows(text)) {
         return;
+    }
     setText(inOneLine(text));
     sendActionsForControlEvent(UIControlEvent::EditingChanged);
 }

@@ -36,8 +36,9 @@ Qt::InputMethodHints UITextInputTraits::inputMethodHints() const
 {
     Qt::InputMethodHints hints = Qt::ImhNone;
     for (const Row &row : rows) {
-        if (row.applies(*this))
+        if (row.applies(*this)) {
             hints |= row.hints;
+        }
     }
     return hints;
 }

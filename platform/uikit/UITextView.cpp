@@ -10,8 +10,9 @@ QString UITextView::accessibilityLabel() const
 
 void UITextView::edit(const QString &text)
 {
-    if (text == m_text)
+    if (text == m_text) {
         return;
+    }
     setText(text);
     Q_EMIT textDidChange();
 }

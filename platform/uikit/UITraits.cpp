@@ -65,24 +65,27 @@ QColor UITraits::unselectedTabColor() const
 
 void UITraits::setDesktopAppearance(const UIAppearance &appearance)
 {
-    if (m_desktop == appearance)
+    if (m_desktop == appearance) {
         return;
+    }
     m_desktop = appearance;
     Q_EMIT changed();
 }
 
 void UITraits::setOverride(const std::optional<UIAppearance> &appearance)
 {
-    if (m_override == appearance)
+    if (m_override == appearance) {
         return;
+    }
     m_override = appearance;
     Q_EMIT changed();
 }
 
 void UITraits::setSystemVersion(double version)
 {
-    if (qFuzzyCompare(m_systemVersion, version))
+    if (qFuzzyCompare(m_systemVersion, version)) {
         return;
+    }
     m_systemVersion = version;
     Q_EMIT changed();
 }

@@ -34,8 +34,9 @@ void UITransitionStack::push(std::shared_ptr<UIViewController> controller, Cover
                              Motion motion, Completion completion)
 {
     if (!controller || indexOf(controller.get()) >= 0) {
-        if (completion)
+        if (completion) {
             completion();
+        }
         return;
     }
     controller->m_stack = this;
@@ -47,8 +48,9 @@ void UITransitionStack::push(std::shared_ptr<UIViewController> controller, Cover
     endInsertRows();
     announce();
     reconcile(motion);
-    if (!isDrawn(motion))
+    if (!isDrawn(motion)) {
         settle(pushed);
+    }
 }
 
 void UITransitionStack::remove(const UIViewController *controller, Motion motion,
@@ -71,16 +73,18 @@ void UITransitionStack::leaveFrom(int index, Motion motion, Completion completio
     std::vector<std::shared_ptr<UIViewController>> leaving;
     for (int i = index; i < rowCount(); ++i) {
         Entry &entry = m_entries[static_cast<std::size_t>(i)];
-        if (entry.phase == Phase::Leaving)
+        if (entry.phase == Phase::Leaving) {
             continue;
+        }
         entry.phase = Phase::Leaving;
         entry.motion = motion;
         entry.departure = departure;
         leaving.push_back(entry.controller);
     }
     if (leaving.empty()) {
-        if (completion)
+        if (completion) {
             completion();
+        }
         return;
     }
     departure->remaining = static_cast<int>(leaving.size());
@@ -88,8 +92,9 @@ void UITransitionStack::leaveFrom(int index, Motion motion, Completion completio
     announce();
     reconcile(motion);
     if (!isDrawn(motion)) {
-        for (const auto &controller : leaving)
+        for (const auto &controller : leaving) {
             settle(controller.get());
+        }
     }
 }
 
@@ -119,8 +124,9 @@ std::vector<std::shared_ptr<UIViewController>> UITransitionStack::controllers() 
 {
     std::vector<std::shared_ptr<UIViewController>> result;
     for (const Entry &entry : m_entries) {
-        if (entry.phase != Phase::Leaving)
+        if (entry.phase != Phase::Leaving) {
             result.push_back(entry.controller);
+        }
     }
     return result;
 }
@@ -141,8 +147,9 @@ void UITransitionStack::detachView()
     --m_views;
     const auto entries = m_entries; // completions may change the stack
     for (const Entry &entry : entries) {
-        if (m_views == 0)
+        if (m_views == 0) {
             settle(entry.controller.get());
+        }
     }
 }
 
@@ -163,8 +170,9 @@ UIViewController *UITransitionStack::nearest(int from, int direction) const
 {
     for (int i = from; i >= 0 && i < rowCount(); i += direction) {
         const Entry &entry = m_entries[static_cast<std::size_t>(i)];
-        if (entry.phase != Phase::Leaving)
+        if (entry.phase != Phase::Leaving) {
             return entry.controller.get();
+        }
     }
     return nullptr;
 }
@@ -177,8 +185,9 @@ bool UITransitionStack::isDrawn(Motion motion) const
 void UITransitionStack::settle(const UIViewController *controller)
 {
     const int index = indexOf(controller);
-    if (index < 0)
+    if (index < 0) {
         return;
+    }
     switch (m_entries[static_cast<std::size_t>(index)].phase) {
     case Phase::Entering:
         finishEntering(index);
@@ -199,8 +208,9 @@ void UITransitionStack::finishEntering(int index)
     const Completion entered = std::move(entry.entered);
     announce();
     reconcile(motion);
-    if (entered)
+    if (entered) {
         entered();
+    }
 }
 
 void UITransitionStack::finishLeaving(int index)
@@ -215,27 +225,33 @@ void UITransitionStack::finishLeaving(int index)
     announce();
     reconcile(entry.motion);
     // An entry that was interrupted has not been announced yet.
-    if (entry.entered)
+    if (entry.entered) {
         entry.entered();
-    if (--entry.departure->remaining == 0 && entry.departure->completion)
+    }
+    if (--entry.departure->remaining == 0 && entry.departure->completion) {
         entry.departure->completion();
-    if (!entry.controller->m_stack) // or it has come again since
+    }
+    if (!entry.controller->m_stack) { // or it has come again since
         entry.controller->viewDidLeave();
+    }
 }
 
 // How far the controller at `index` is to come, given what is above it.
 UIAppearanceState UITransitionStack::goal(int index) const
 {
     const Entry &entry = m_entries[static_cast<std::size_t>(index)];
-    if (entry.phase == Phase::Leaving)
+    if (entry.phase == Phase::Leaving) {
         return UIAppearanceState::Disappeared;
+    }
     bool settled = entry.phase == Phase::Settled;
     for (int i = index + 1; i < rowCount(); ++i) {
         const Entry &higher = m_entries[static_cast<std::size_t>(i)];
-        if (higher.cover == Cover::Overlays)
+        if (higher.cover == Cover::Overlays) {
             continue;
-        if (higher.phase != Phase::Leaving)
+        }
+        if (higher.phase != Phase::Leaving) {
             return UIAppearanceState::Disappeared;
+        }
         settled = false;
     }
     return std::min(m_limit, settled ? UIAppearanceState::Appeared : UIAppearanceState::Appearing);
@@ -262,8 +278,9 @@ UITransitionStack::Step UITransitionStack::nextStep() const
     for (const Rule &rule : rules) {
         for (int i = 0; i < rowCount(); ++i) {
             const auto &controller = m_entries[static_cast<std::size_t>(i)].controller;
-            if (controller->appearanceState() == rule.from && rule.applies(goal(i)))
+            if (controller->appearanceState() == rule.from && rule.applies(goal(i))) {
                 return {controller, rule.run};
+            }
         }
     }
     return {};
@@ -272,17 +289,20 @@ UITransitionStack::Step UITransitionStack::nextStep() const
 // Brings every controller to its goal. Each step may change the stack, so each is found anew.
 void UITransitionStack::reconcile(Motion motion)
 {
-    for (Step step = nextStep(); step.controller; step = nextStep())
+    for (Step step = nextStep(); step.controller; step = nextStep()) {
         step.run(*step.controller, motion);
+    }
 }
 
 void UITransitionStack::announce()
 {
-    if (!m_entries.empty())
+    if (!m_entries.empty()) {
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
     const UIViewController *now = top();
-    if (std::exchange(m_announcedTop, now) != now)
+    if (std::exchange(m_announcedTop, now) != now) {
         Q_EMIT topChanged();
+    }
 }
 
 bool UITransitionStack::isBlocked(int index) const
@@ -304,8 +324,9 @@ int UITransitionStack::rowCount(const QModelIndex &parent) const
 
 QVariant UITransitionStack::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
+    }
     const Entry &entry = m_entries[static_cast<std::size_t>(index.row())];
     switch (role) {
     case ControllerRole:

@@ -18,8 +18,9 @@ bool UIView::endEditing(bool /*force*/)
     const UIApplication *application = UIApplication::sharedApplication();
     auto *editor = application ? qobject_cast<UIView *>(application->firstResponder()) : nullptr;
     for (const UIView *view = editor; view; view = view->superview()) {
-        if (view == this)
+        if (view == this) {
             return editor->resignFirstResponder();
+        }
     }
     return true;
 }
@@ -33,6 +34,7 @@ void UIView::addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recogn
 void UIView::tapped()
 {
     const auto recognizers = m_recognizers; // an action may add one, or drop the view
-    for (const auto &recognizer : recognizers)
+    for (const auto &recognizer : recognizers) {
         recognizer->recognize();
+    }
 }

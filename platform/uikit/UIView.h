@@ -68,8 +68,9 @@ protected:
     template <class T>
     void assign(T &field, const T &value)
     {
-        if (field == value)
+        if (field == value) {
             return;
+        }
         field = value;
         Q_EMIT changed();
     }

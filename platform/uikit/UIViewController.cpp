@@ -32,8 +32,9 @@ QUrl UIViewController::viewUrl() const
 
 void UIViewController::loadViewIfNeeded()
 {
-    if (!std::exchange(m_viewLoaded, true))
+    if (!std::exchange(m_viewLoaded, true)) {
         viewDidLoad();
+    }
 }
 
 void UIViewController::viewDidLoad() {}
@@ -52,8 +53,9 @@ const UIViewController *UIViewController::presentedEntry() const
     const UIViewController *controller = this;
     while (controller->m_parent) {
         // A page that is on its way out takes what is inside it along.
-        if (controller->m_stack && !controller->m_stack->contains(controller))
+        if (controller->m_stack && !controller->m_stack->contains(controller)) {
             return nullptr;
+        }
         controller = controller->m_parent;
     }
     const bool present = controller->m_stack && controller->m_stack->contains(controller);
@@ -109,8 +111,9 @@ void UIViewController::showViewController(std::shared_ptr<UIViewController> cont
 UINavigationController *UIViewController::navigationController() const
 {
     for (UIViewController *parent = m_parent; parent; parent = parent->m_parent) {
-        if (auto *navigation = qobject_cast<UINavigationController *>(parent))
+        if (auto *navigation = qobject_cast<UINavigationController *>(parent)) {
             return navigation;
+        }
     }
     return nullptr;
 }
@@ -118,8 +121,9 @@ UINavigationController *UIViewController::navigationController() const
 void UIViewController::beginAppearance(UIViewController &controller,
                                        UITransitionStack::Motion motion)
 {
-    if (controller.m_appearance != UIAppearanceState::Disappeared)
+    if (controller.m_appearance != UIAppearanceState::Disappeared) {
         return;
+    }
     controller.loadViewIfNeeded();
     controller.m_appearance = UIAppearanceState::Appearing;
     controller.viewWillAppear(motion == UITransitionStack::Motion::Animated);
@@ -128,8 +132,9 @@ void UIViewController::beginAppearance(UIViewController &controller,
 
 void UIViewController::endAppearance(UIViewController &controller, UITransitionStack::Motion motion)
 {
-    if (controller.m_appearance != UIAppearanceState::Appearing)
+    if (controller.m_appearance != UIAppearanceState::Appearing) {
         return;
+    }
     controller.m_appearance = UIAppearanceState::Appeared;
     controller.viewDidAppear(motion == UITransitionStack::Motion::Animated);
     controller.appearanceStateDidChange(motion);
@@ -137,8 +142,9 @@ void UIViewController::endAppearance(UIViewController &controller, UITransitionS
 
 void UIViewController::disappear(UIViewController &controller, UITransitionStack::Motion motion)
 {
-    if (controller.m_appearance == UIAppearanceState::Disappeared)
+    if (controller.m_appearance == UIAppearanceState::Disappeared) {
         return;
+    }
     controller.m_appearance = UIAppearanceState::Disappeared;
     controller.appearanceStateDidChange(motion);
 }

@@ -11,8 +11,9 @@
 [[nodiscard]] inline QUrl viewUrlOf(const QObject &object)
 {
     const int index = object.metaObject()->indexOfClassInfo("view");
-    if (index < 0)
+    if (index < 0) {
         return {};
+    }
     const auto file = QString::fromLatin1(object.metaObject()->classInfo(index).value());
     return QUrl(QStringLiteral("qrc:/qt/qml/") + file);
 }

@@ -37,8 +37,9 @@ void XLFormCell::setUp()
     connect(m_row, &XLFormRowDescriptor::valueChanged, this, update);
     update();
     const QVariantMap &configuration = m_row->cellConfigAtConfigure();
-    for (auto entry = configuration.begin(); entry != configuration.end(); ++entry)
+    for (auto entry = configuration.begin(); entry != configuration.end(); ++entry) {
         configure(entry.key(), entry.value());
+    }
 }
 
 void XLFormCell::configure(const QString &keyPath, const QVariant &value)
@@ -46,17 +47,20 @@ void XLFormCell::configure(const QString &keyPath, const QVariant &value)
     const QList<QByteArray> keys = keyPath.toLatin1().split('.');
     QObject *object = this;
     for (const QByteArray &key : keys.first(keys.size() - 1)) {
-        if (object)
+        if (object) {
             object = object->property(key.constData()).value<QObject *>();
+        }
     }
     const int property =
         object ? object->metaObject()->indexOfProperty(keys.last().constData()) : -1;
-    if (property < 0 || !object->metaObject()->property(property).write(object, value))
+    if (property < 0 || !object->metaObject()->property(property).write(object, value)) {
         qWarning("A form's cell has nothing to set at \"%s\"", qPrintable(keyPath));
+    }
 }
 
 void XLFormCell::edited()
 {
-    if (m_row)
+    if (m_row) {
         m_row->setValue(shownText());
+    }
 }

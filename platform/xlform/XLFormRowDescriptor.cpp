@@ -18,8 +18,9 @@ XLFormRowDescriptor::formRowDescriptorWithTag(const QString &tag, XLFormRowDescr
 void XLFormRowDescriptor::setValue(const std::optional<QString> &value)
 {
     const auto entered = value && value->isEmpty() ? std::nullopt : value;
-    if (m_value == entered)
+    if (m_value == entered) {
         return;
+    }
     m_value = entered;
     Q_EMIT valueChanged();
 }

@@ -27,8 +27,9 @@ XLFormRowDescriptor &XLFormViewController::row(const NSIndexPath &indexPath) con
 XLFormViewController::Rows XLFormViewController::rows() const
 {
     Rows all;
-    for (const auto &section : m_form->formSections())
+    for (const auto &section : m_form->formSections()) {
         all.insert(all.end(), section->formRows().begin(), section->formRows().end());
+    }
     return all;
 }
 
@@ -36,8 +37,9 @@ QStringList XLFormViewController::formValidationErrors() const
 {
     QStringList errors;
     for (const auto &row : rows()) {
-        if (row->isRequired() && !row->value())
+        if (row->isRequired() && !row->value()) {
             errors.append(row->tag());
+        }
     }
     return errors;
 }
@@ -45,8 +47,9 @@ QStringList XLFormViewController::formValidationErrors() const
 XLFormViewController::Values XLFormViewController::formValues() const
 {
     Values values;
-    for (const auto &row : rows())
+    for (const auto &row : rows()) {
         values[row->tag()] = row->value();
+    }
     return values;
 }
 
@@ -82,8 +85,9 @@ void XLFormViewController::viewWillAppear(bool animated)
     UITableViewController::viewWillAppear(animated);
     // Later on the keyboard is where the user left it.
     const Rows all = rows();
-    if (!std::exchange(m_shown, true) && m_form->assignFirstResponderOnShow() && !all.empty())
+    if (!std::exchange(m_shown, true) && m_form->assignFirstResponderOnShow() && !all.empty()) {
         cellOf(*all.front())->editor()->becomeFirstResponder();
+    }
 }
 
 int XLFormViewController::numberOfSections() const

@@ -35,8 +35,9 @@ Deed focus(const QString &name)
 Deed type(const QString &name, const QString &text)
 {
     return [=](ScreenReader &reader) {
-        if (!reader.act(u"SetFocus"_s, name))
+        if (!reader.act(u"SetFocus"_s, name)) {
             return false;
+        }
         reader.type(text);
         return QTest::qWaitFor([&] { return reader.caret(name) == text.size(); });
     };
@@ -94,8 +95,9 @@ const QString update =
 QString oldIssues(int first, int last)
 {
     QString rows;
-    for (int i = first; i <= last; ++i)
+    for (int i = first; i <= last; ++i) {
         rows += u"|row Old, %1 of 30"_s.arg(i);
+    }
     return rows;
 }
 
@@ -121,8 +123,9 @@ class JourneyTest : public QObject {
     void follow(ScreenReader &reader, const std::vector<Step> &steps)
     {
         for (const auto &[deed, screen, focus] : steps) {
-            if (QTest::currentTestFailed())
+            if (QTest::currentTestFailed()) {
                 return;
+            }
             QVERIFY(deed(reader));
             if (screen.isEmpty()) {
                 QTRY_COMPARE_WITH_TIMEOUT(reader.focused(), focus + focused, 10000);

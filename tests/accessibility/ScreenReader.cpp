@@ -99,8 +99,9 @@ QVariant ScreenReader::property(const Node &node, const QString &interface,
 void ScreenReader::stateChanged(const QDBusMessage &event)
 {
     const bool comes = event.arguments().value(1).toBool();
-    if (event.arguments().value(0) == u"focused"_s && (comes || event.path() == m_focused))
+    if (event.arguments().value(0) == u"focused"_s && (comes || event.path() == m_focused)) {
         m_focused = comes ? event.path() : QString();
+    }
 }
 
 void ScreenReader::collect(Node node, QList<Node> &found) const
@@ -108,21 +109,25 @@ void ScreenReader::collect(Node node, QList<Node> &found) const
     const QString accessible = u"Accessible"_s;
     const auto states = qdbus_cast<QList<quint32>>(call(node, accessible, u"GetState"_s).value(0));
     node.states = states.value(0) | quint64{states.value(1)} << 32;
-    if (!(node.states & showing))
+    if (!(node.states & showing)) {
         return;
+    }
     node.role = call(node, accessible, u"GetRole"_s).value(0).toUInt();
     node.name = property(node, accessible, u"Name"_s).toString();
     node.description = property(node, accessible, u"Description"_s).toString();
     node.text = call(node, u"Text"_s, u"GetText"_s, {0, -1}).value(0).toString();
     const int actions = property(node, u"Action"_s, u"NActions"_s).toInt();
-    for (int i = 0; i < actions; ++i)
+    for (int i = 0; i < actions; ++i) {
         node.actions.append(call(node, u"Action"_s, u"GetName"_s, {i}).value(0).toString());
+    }
     const bool isPassedOver =
         node.role == application || (node.role == filler && node.name.isEmpty());
-    if (!isPassedOver)
+    if (!isPassedOver) {
         found.append(node);
-    for (const Node &child : children(node))
+    }
+    for (const Node &child : children(node)) {
         collect(child, found);
+    }
 }
 
 QList<ScreenReader::Node> ScreenReader::children(const Node &node) const
@@ -130,16 +135,18 @@ QList<ScreenReader::Node> ScreenReader::children(const Node &node) const
     using Addresses = QList<std::pair<QString, QDBusObjectPath>>;
     QList<Node> found;
     const QVariant addresses = call(node, u"Accessible"_s, u"GetChildren"_s).value(0);
-    for (const auto &[service, path] : qdbus_cast<Addresses>(addresses))
+    for (const auto &[service, path] : qdbus_cast<Addresses>(addresses)) {
         found.append({service, path.path()});
+    }
     return found;
 }
 
 QList<ScreenReader::Node> ScreenReader::nodes() const
 {
     QList<Node> found;
-    for (const Node &running : children({registry, u"/org/a11y/atspi/accessible/root"_s}))
+    for (const Node &running : children({registry, u"/org/a11y/atspi/accessible/root"_s})) {
         collect(running, found);
+    }
     return found;
 }
 
@@ -152,40 +159,52 @@ bool ScreenReader::isFocused(const Node &node) const
 QString ScreenReader::describe(const Node &node) const
 {
     const auto *manners = std::ranges::find(allManners, node.role, &Manners::role);
-    if (manners == std::end(allManners))
+    if (manners == std::end(allManners)) {
         return u"role %1, %2"_s.arg(node.role).arg(node.name);
+    }
     QString line = manners->name;
-    if (!node.name.isEmpty())
+    if (!node.name.isEmpty()) {
         line += u' ' + node.name;
+    }
     // Of a secret some releases of Qt tell as many bullets as it is long, others nothing.
     QString text = node.text;
-    if (node.role == secret)
+    if (node.role == secret) {
         text.remove(u'\u2022');
-    if (!text.isEmpty())
+    }
+    if (!text.isEmpty()) {
         line += u": "_s + text;
-    if (!node.description.isEmpty() && node.description != node.name)
+    }
+    if (!node.description.isEmpty() && node.description != node.name) {
         line += u", "_s + node.description;
-    if (node.states & selected)
+    }
+    if (node.states & selected) {
         line += u", selected"_s;
-    if (manners->action.isEmpty() && node.actions.contains(u"Press"_s))
+    }
+    if (manners->action.isEmpty() && node.actions.contains(u"Press"_s)) {
         line += u", to press"_s;
-    if (node.states & hasFocus)
+    }
+    if (node.states & hasFocus) {
         line += isFocused(node) ? u", focused"_s : u", focused as well"_s;
+    }
     const quint64 missing = (manners->states | visible | enabled | sensitive) & ~node.states;
-    if (manners->named && node.name.isEmpty())
+    if (manners->named && node.name.isEmpty()) {
         line += u" (no name)"_s;
-    if (missing)
+    }
+    if (missing) {
         line += u" (not in states %1)"_s.arg(missing, 0, 16);
-    if (!manners->action.isEmpty() && !node.actions.contains(manners->action))
+    }
+    if (!manners->action.isEmpty() && !node.actions.contains(manners->action)) {
         line += u" (no action %1)"_s.arg(manners->action);
+    }
     return line;
 }
 
 QStringList ScreenReader::screen() const
 {
     QStringList lines;
-    for (const Node &node : nodes())
+    for (const Node &node : nodes()) {
         lines.append(describe(node));
+    }
     return lines;
 }
 
@@ -209,7 +228,7 @@ ScreenReader::Node ScreenReader::find(const QString &action, const QString &name
 bool ScreenReader::act(const QString &action, const QString &name) const
 {
     const Node node = find(action, name);
-    const auto index = int(node.actions.indexOf(action));
+    const auto index = static_cast<int>(node.actions.indexOf(action));
     return index >= 0 && call(node, u"Action"_s, u"DoAction"_s, {index}).value(0).toBool();
 }
 

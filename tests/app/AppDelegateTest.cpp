@@ -79,9 +79,9 @@ private Q_SLOTS:
         };
         for (int i = 0; i < 2; ++i) {
             const auto &[screen, image, name] = expected[i];
-            const UITabBarItem &item = *tabs.tabBar()->items()[size_t(i)];
-            const auto &navigation =
-                dynamic_cast<UINavigationController &>(*tabs.viewControllers()[size_t(i)]);
+            const UITabBarItem &item = *tabs.tabBar()->items()[static_cast<size_t>(i)];
+            const auto &navigation = dynamic_cast<UINavigationController &>(
+                *tabs.viewControllers()[static_cast<size_t>(i)]);
             QCOMPARE(navigation.topViewController(), screen);
             QCOMPARE(screen->navigationItem()->title(), name);
             QCOMPARE(QStringList({item.title(), item.accessibilityLabel(), item.image().name()}),
@@ -246,8 +246,9 @@ private Q_SLOTS:
         };
         TestApp app;
         app.launch();
-        for (const auto &[text, items] : rows)
+        for (const auto &[text, items] : rows) {
             QCOMPARE(app.delegate().parseQueryString(text), items);
+        }
         QVERIFY(app.delegate().openURL(u"?a=%"_s));
     }
 

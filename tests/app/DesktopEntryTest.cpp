@@ -27,8 +27,9 @@ class DesktopEntryTest : public QObject {
 private Q_SLOTS:
     void agreesWithTheProgram()
     {
-        if (!TestRunner::startsPrograms())
+        if (!TestRunner::startsPrograms()) {
             QSKIP("no program can be started here");
+        }
         const QTemporaryDir prefix;
         QCOMPARE(QProcess::execute(
                      QStringLiteral(WZT_CMAKE),

@@ -20,8 +20,9 @@ namespace {
 quint64 caughtSignals(pid_t pid)
 {
     QFile status(u"/proc/%1/status"_s.arg(pid));
-    if (!status.open(QFile::ReadOnly))
+    if (!status.open(QFile::ReadOnly)) {
         return 0;
+    }
     const QByteArray text = status.readAll();
     return text.mid(text.indexOf("SigCgt:") + 8, 16).toULongLong(nullptr, 16);
 }

@@ -11,23 +11,25 @@ namespace BinaryList {
 inline QByteArray number(quint64 value, int size)
 {
     QByteArray bytes(size, '\0');
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte, value >>= 8)
-        *byte = char(value);
+    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte, value >>= 8) {
+        *byte = static_cast<char>(value);
+    }
     return bytes;
 }
 
 inline QByteArray reference(qsizetype index)
 {
-    return number(quint64(index), 4);
+    return number(static_cast<quint64>(index), 4);
 }
 
 /// The list of objects that begin at `offsets` of `objects`, the first of them its value.
 inline QByteArray around(const QByteArray &objects, const QList<qsizetype> &offsets, quint64 count)
 {
     QByteArray data = "bplist00" + objects;
-    const QByteArray table = number(quint64(data.size()), 8);
-    for (const qsizetype offset : offsets)
-        data += number(quint64(offset) + 8, 4);
+    const QByteArray table = number(static_cast<quint64>(data.size()), 8);
+    for (const qsizetype offset : offsets) {
+        data += number(static_cast<quint64>(offset) + 8, 4);
+    }
     return data + QByteArray(6, '\0') + "\4\4" + number(count, 8) + number(0, 8) + table;
 }
 
@@ -45,7 +47,7 @@ inline QByteArray of(const QByteArrayList &objects, quint64 count)
 
 inline QByteArray of(const QByteArrayList &objects)
 {
-    return of(objects, quint64(objects.size()));
+    return of(objects, static_cast<quint64>(objects.size()));
 }
 
 } // namespace BinaryList

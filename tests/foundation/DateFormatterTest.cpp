@@ -15,7 +15,7 @@ namespace {
 NSDate utc(const char *isoDate)
 {
     const QDateTime date = QDateTime::fromString(QLatin1StringView(isoDate), Qt::ISODate);
-    return NSDate{double(date.toSecsSinceEpoch()) - 978307200};
+    return NSDate{static_cast<double>(date.toSecsSinceEpoch()) - 978307200};
 }
 
 NSDateFormatter serviceFormatter()
@@ -36,14 +36,16 @@ class DateFormatterTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        for (const char *name : {"LC_ALL", "LC_TIME", "LANG", "TZ"})
+        for (const char *name : {"LC_ALL", "LC_TIME", "LANG", "TZ"}) {
             m_settings[name] = qgetenv(name);
+        }
     }
 
     void cleanup()
     {
-        for (const auto &[name, value] : m_settings)
+        for (const auto &[name, value] : m_settings) {
             qputenv(name, value);
+        }
     }
 
     void reads()
@@ -59,8 +61,9 @@ private Q_SLOTS:
         // The calendars of most of these are not the Gregorian one.
         for (const char *locale : {"th_TH.UTF-8", "fa_IR.UTF-8", "ar_SA", "en_US.UTF-8", "C"}) {
             qputenv("LC_ALL", locale);
-            for (const auto &[text, moment] : rows)
+            for (const auto &[text, moment] : rows) {
                 QCOMPARE(formatter.dateFromString(QString::fromUtf8(text)), utc(moment));
+            }
         }
     }
 
@@ -92,8 +95,9 @@ private Q_SLOTS:
               "2019-08-14 17:05:09.5", "2019-Aug-14 17:05:09", "2019-08-14 17:05:09e0",
               "0000-00-00 00:00:00", "2019-02-29 10:00:00", "2019-13-01 10:00:00",
               "2019-08-14 24:00:00", "2019-08-14 23:60:00", "2019-08-14 23:59:60",
-              "2019-03-31 02:30:00" /* skipped by summer time */})
+              "2019-03-31 02:30:00" /* skipped by summer time */}) {
             QVERIFY2(!serviceFormatter().dateFromString(QString::fromLatin1(text)), text);
+        }
     }
 
     void refusesTooFewDigitsAndFarTooMany()
@@ -101,8 +105,9 @@ private Q_SLOTS:
         for (const char *text :
              {"2019-8-4 7:5:9", "19-08-14 17:05:09", "2019-8-14 17:05:09", "2019-08-4 17:05:09",
               "2019-08-14 7:05:09", "2019-08-14 17:5:09", "2019-08-14 17:05:9",
-              "4294969315-08-14 17:05:09", "2019-4294967304-14 17:05:09"})
+              "4294969315-08-14 17:05:09", "2019-4294967304-14 17:05:09"}) {
             QVERIFY2(!serviceFormatter().dateFromString(QString::fromLatin1(text)), text);
+        }
     }
 
     void writesAsTheDeviceIsSetAtThatMoment()
@@ -125,8 +130,9 @@ private Q_SLOTS:
             qputenv(name, value);
             QCOMPARE(formatter.stringFromDate(utc("2026-11-16T23:30:00Z")), text);
         }
-        for (const double far : {qQNaN(), 1e18, -qInf()})
+        for (const double far : {qQNaN(), 1e18, -qInf()}) {
             QCOMPARE(formatter.stringFromDate({far}), QString());
+        }
     }
 };
 

@@ -25,8 +25,9 @@ const QString recordClass = u"Record"_s;
 std::optional<QByteArray> archived(const Values &values)
 {
     NSCoder coder;
-    for (auto value = values.begin(); value != values.end(); ++value)
+    for (auto value = values.begin(); value != values.end(); ++value) {
         coder.encodeValue(*value, value.key());
+    }
     return NSKeyedArchiver::archivedDataWithCoder(coder, recordClass);
 }
 
@@ -49,8 +50,9 @@ QByteArray xmlArchive(const QByteArray &objects, const QByteArray &root = "@1")
         {u"<(/?)r>"_s, u"<\\1real>"_s},
         {u"<(/?)s>"_s, u"<\\1string>"_s},
         {u"<(/?)k>"_s, u"<\\1key>"_s}};
-    for (const auto &[before, after] : replacements)
+    for (const auto &[before, after] : replacements) {
         text.replace(QRegularExpression(before), after);
+    }
     return text.toUtf8();
 }
 
@@ -100,10 +102,10 @@ private Q_SLOTS:
     void roundTrip()
     {
         for (const NSCoder::Value &value : std::initializer_list<NSCoder::Value>{
-                 std::monostate(), true, false, qint64(17), qint64(INT_MIN), 2.5, u""_s, u"$null"_s,
-                 u"Jürgen 😀 $class<&>\n\t\x1f"_s, QString(20000, u'ä'), NSDate{587487909.25},
-                 NSDate{-63114076800}, NSDate{1e9 + 1e-3}, u"\ufeffjo@wzt.example"_s, u"\ufeffä"_s,
-                 u"a\0b"_s}) {
+                 std::monostate(), true, false, qint64{17}, static_cast<qint64>(INT_MIN), 2.5,
+                 u""_s, u"$null"_s, u"Jürgen 😀 $class<&>\n\t\x1f"_s, QString(20000, u'ä'),
+                 NSDate{587487909.25}, NSDate{-63114076800}, NSDate{1e9 + 1e-3},
+                 u"\ufeffjo@wzt.example"_s, u"\ufeffä"_s, u"a\0b"_s}) {
             const Values values{{u"a"_s, value}, {u"b"_s, u"1"_s}, {u"\ufeffc"_s, value}};
             const auto coder = unarchived(archived(values).value());
             QVERIFY(coder && coder->values() == values);
@@ -123,7 +125,7 @@ private Q_SLOTS:
     /// The layout that other readers of the format count on.
     void layout()
     {
-        const auto data = archived({{u"number"_s, qint64(-7)},
+        const auto data = archived({{u"number"_s, qint64{-7}},
                                     {u"name"_s, u"same"_s},
                                     {u"alias"_s, u"same"_s},
                                     {u"date"_s, NSDate{0.5}},
@@ -136,7 +138,7 @@ private Q_SLOTS:
         const QList<PropertyList> objects = list->item(u"$objects"_s).elements();
         QCOMPARE(objects.at(0).string(), u"$null"_s);
         const auto object = [&](const PropertyList &node, const QString &key) {
-            return objects.value(qsizetype(node.item(key).uid().value_or(99)));
+            return objects.value(static_cast<qsizetype>(node.item(key).uid().value_or(99)));
         };
         const PropertyList root = object(list->item(u"$top"_s), u"root"_s);
         const PropertyList date = object(root, u"date"_s);
@@ -245,18 +247,22 @@ private Q_SLOTS:
         const QByteArray opening = QByteArray("<array>").repeated(65);
         const QByteArray closing = QByteArray("</array>").repeated(65);
         QByteArrayList chain;
-        for (int i = 1; i <= 64; ++i)
+        for (int i = 1; i <= 64; ++i) {
             chain.append("\xa1" + reference(i));
+        }
         // Each item is reached from the top, and the next one from it.
         QByteArrayList ladder{"\xaf\x10\x64"};
-        for (int i = 100; i >= 1; --i)
+        for (int i = 100; i >= 1; --i) {
             ladder[0] += reference(i);
-        for (int i = 1; i <= 100; ++i)
+        }
+        for (int i = 1; i <= 100; ++i) {
             ladder.append("\xa1" + reference(i + 1));
+        }
         // A list of a thousand lists, which are the same thousand references.
         QByteArray overlapping = "\xaf\x11\x03\xe8";
-        for (int i = 1; i <= 1000; ++i)
+        for (int i = 1; i <= 1000; ++i) {
             overlapping += reference(i);
+        }
         overlapping += "\xaf\x11\x03\xe8" + reference(1001).repeated(1000) + "\x09";
         QList<qsizetype> places(1001, 4004);
         places[0] = 0;
@@ -297,8 +303,9 @@ private Q_SLOTS:
     void whatStandsTwiceIsHeldOnce()
     {
         QByteArrayList lists;
-        for (int i = 1; i <= 10; ++i)
+        for (int i = 1; i <= 10; ++i) {
             lists.append("\xaa" + BinaryList::reference(i).repeated(10));
+        }
         const QByteArray data = BinaryList::of(lists << "\x09");
         const auto list = PropertyList::fromData(data);
         QVERIFY(list && list->toData().size() <= data.size());
@@ -315,7 +322,7 @@ private Q_SLOTS:
                 for (const int byte :
                      {0x00, 0x7f, 0xff, whole[place] ^ 0x01, whole[place] ^ 0x10}) {
                     QByteArray damaged = whole;
-                    damaged[place] = char(byte);
+                    damaged[place] = static_cast<char>(byte);
                     (void)unarchived(damaged);
                 }
             }

@@ -37,8 +37,9 @@ struct Outcome {
             body = data;
             code = failure ? failure->code : 0;
             thread = std::this_thread::get_id();
-            if (++calls == 1)
+            if (++calls == 1) {
                 done.count_down();
+            }
         };
     }
 };
@@ -123,11 +124,11 @@ private Q_SLOTS:
 
     void replies_data()
     {
-        const QByteArray longest(qsizetype(16) * 1024 * 1024, 'a');
+        const QByteArray longest(qsizetype{16} * 1024 * 1024, 'a');
         const QByteArray manyFields = QByteArray("A: b\r\n").repeated(100000);
         const QByteArray nothing = sandbox::gzipped({});
         const QByteArray nothings =
-            nothing.repeated(qsizetype(64) * 1024 * 1024 / nothing.size() + 1);
+            nothing.repeated(qsizetype{64} * 1024 * 1024 / nothing.size() + 1);
         const auto coded = [](const QByteArray &body, const QByteArray &coding) {
             return Fault::json(body).withHeader("Content-Encoding", coding);
         };
@@ -222,8 +223,9 @@ private Q_SLOTS:
             {"GET", "file:///etc/passwd", NSURLErrorBadURL},
             {"GET", "", NSURLErrorBadURL},
         };
-        for (const auto &[method, url, code] : requests)
+        for (const auto &[method, url, code] : requests) {
             QCOMPARE(codeOf(method, url), code);
+        }
         m_service.receive(sandbox::Reception::Mute);
         const auto [file, address, time, length] = configuration(soon);
         const std::pair<NSURLSessionConfiguration, int> sessions[] = {
@@ -262,8 +264,9 @@ private Q_SLOTS:
                         isWhole && (!needsFarewell || ending == Transmission::Ending::Close);
                     const QByteArray sent = reply.left(length);
                     // All but a line feed that libcurl does without.
-                    if (sent.endsWith("0\r\n\r"))
+                    if (sent.endsWith("0\r\n\r")) {
                         continue;
+                    }
                     m_service.stage("/user.php", Fault::raw(sent).ending(ending));
                     const int code = codeOf("POST");
                     QVERIFY2((code == 0) == isFine,
@@ -316,21 +319,23 @@ private Q_SLOTS:
         };
         const auto codeOfOther = [this] { return codeOf("GET", "https://service.wzt.example/"); };
         for (const auto &[variables, isUsed] : rows) {
-            for (const auto &[name, value] : variables)
+            for (const auto &[name, value] : variables) {
                 qputenv(name, value);
+            }
             m_session = std::make_unique<NSURLSession>(configuration());
             const int loopback = codeOf();
-            for (const auto &[name, value] : variables)
+            for (const auto &[name, value] : variables) {
                 qunsetenv(name);
+            }
             // The environment is not read again.
             const int other = codeOfOther();
             qputenv("https_proxy", nobody);
             const int later = codeOfOther();
             qunsetenv("https_proxy");
             QCOMPARE(loopback, 0);
-            QCOMPARE(
-                other,
-                int(isUsed ? NSURLErrorCannotConnectToHost : NSURLErrorServerCertificateUntrusted));
+            QCOMPARE(other,
+                     static_cast<int>(isUsed ? NSURLErrorCannotConnectToHost
+                                             : NSURLErrorServerCertificateUntrusted));
             QCOMPARE(later, other);
         }
     }
@@ -355,7 +360,7 @@ private Q_SLOTS:
         QCOMPARE(other.code, 0);
         QCOMPARE(flooded.calls, 0);
         m_session.reset();
-        QCOMPARE(flooded.code, int(NSURLErrorCancelled));
+        QCOMPARE(flooded.code, static_cast<int>(NSURLErrorCancelled));
     }
 
     /// What has not completed when the session gives its thread up never does.
@@ -396,8 +401,9 @@ private Q_SLOTS:
         m_service.stage("*", Fault::silence(), -1);
         m_service.receive(sandbox::Reception::Mute, 5);
         std::array<Outcome, 20> outcomes;
-        for (Outcome &outcome : outcomes)
+        for (Outcome &outcome : outcomes) {
             send(outcome);
+        }
         Outcome late;
         const auto request = NSMutableURLRequest::requestWithURL(userURL);
         const auto sendAnother = [&](const QByteArray &, const auto &) {
@@ -411,10 +417,10 @@ private Q_SLOTS:
         QVERIFY(!NSURLSession::sharedSession());
         for (const Outcome &outcome : outcomes) {
             QCOMPARE(outcome.calls, 1);
-            QCOMPARE(outcome.code, int(NSURLErrorCancelled));
+            QCOMPARE(outcome.code, static_cast<int>(NSURLErrorCancelled));
             QCOMPARE(outcome.thread, late.thread);
         }
-        QCOMPARE(late.code, int(NSURLErrorCancelled));
+        QCOMPARE(late.code, static_cast<int>(NSURLErrorCancelled));
     }
 };
 

@@ -26,7 +26,7 @@ namespace {
 
 const QString id = u"example.wzt.Test"_s;
 const QString userKey = u"currentUser"_s;
-constexpr qsizetype tooLong = qsizetype(64) * 1024;
+constexpr qsizetype tooLong = qsizetype{64} * 1024;
 
 QByteArray contentOf(const QString &path)
 {
@@ -157,10 +157,12 @@ private Q_SLOTS:
                                     "abc",
                                     QByteArray("\x53p\0q", 4)};
         QByteArray top = "\xd7";
-        for (int i = 1; i <= 7; ++i)
+        for (int i = 1; i <= 7; ++i) {
             top += reference(i);
-        for (int i = 8; i <= 14; ++i)
+        }
+        for (int i = 8; i <= 14; ++i) {
             top += reference(i);
+        }
         const QByteArray list = of(QByteArrayList{top,
                                                   "\x5b"
                                                   "currentUser"}
@@ -179,8 +181,9 @@ private Q_SLOTS:
             QVERIFY(removes ? defaults().removeObjectForKey(userKey)
                             : defaults().setObject(QByteArray("3"), userKey));
             const QByteArray written = contentOf(m_file);
-            for (const QByteArray &object : keys + values)
+            for (const QByteArray &object : keys + values) {
                 QVERIFY2(written.contains(object), object.toHex().constData());
+            }
             QCOMPARE(written.count("currentUser"), removes ? 0 : 1);
             QCOMPARE(defaults().dataForKey(userKey).has_value(), !removes);
             QVERIFY(!written.contains("\x41"
@@ -279,8 +282,9 @@ private Q_SLOTS:
         QVERIFY(defaults().setObject(QByteArray(50000, 'x'), userKey));
         for (int kill = 0; kill < 40; ++kill) {
             const pid_t writer = fork();
-            if (writer == 0)
+            if (writer == 0) {
                 writeForEver(defaults());
+            }
             usleep(useconds_t(500 + 397 * kill));
             ::kill(writer, SIGKILL);
             int status = 0;

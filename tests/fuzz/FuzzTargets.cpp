@@ -24,15 +24,16 @@ namespace {
 
 void require(bool holds, const char *rule)
 {
-    if (!holds)
+    if (!holds) {
         qFatal("Broken: %s", rule);
+    }
 }
 
 /// Of any bytes a text, halves of surrogate pairs included.
 QString utf16(const QByteArray &bytes)
 {
     QString text(bytes.size() / 2, Qt::Uninitialized);
-    std::memcpy(text.data(), bytes.data(), size_t(text.size()) * 2);
+    std::memcpy(text.data(), bytes.data(), static_cast<size_t>(text.size()) * 2);
     return text;
 }
 
@@ -67,12 +68,14 @@ void readArchive(const QByteArray &bytes)
 {
     const QString name = u"WZTUser"_s;
     const auto values = NSKeyedUnarchiver::unarchiveObjectWithData(bytes, name);
-    if (!values)
+    if (!values) {
         return;
+    }
     (void)WZTUser::initWithCoder(*values);
     const auto written = NSKeyedArchiver::archivedDataWithCoder(*values, name);
-    if (!written)
+    if (!written) {
         return; // a text that no archive can hold
+    }
     const auto again = NSKeyedUnarchiver::unarchiveObjectWithData(*written, name);
     require(again && NSKeyedArchiver::archivedDataWithCoder(*again, name) == written,
             "what was read is written and read again");
@@ -109,8 +112,9 @@ void makeUrl(const QByteArray &bytes)
     components.setQueryItems({NSURLQueryItem::queryItemWithName(u"name"_s, text)});
     const std::optional<QByteArray> url = components.URL();
     require(url.has_value() == text.isValidUtf16(), "every valid text makes a URL");
-    if (!url)
+    if (!url) {
         return;
+    }
     const QString sent = QString::fromLatin1(*url);
     require(!sent.contains(u' ') && !sent.contains(u'#'), "nothing stays that ends a URL");
     const qsizetype query = sent.indexOf(u'?') + 1;
@@ -138,12 +142,14 @@ void readDate(const QByteArray &bytes)
 void readLocation(const QByteArray &bytes)
 {
     const auto origin = URLOrigin::of(bytes);
-    if (!origin)
+    if (!origin) {
         return;
+    }
     require(!origin->host.isEmpty() && !origin->host.contains('@'), "a host is a host alone");
     QByteArray same = origin->scheme + "://" + origin->host;
-    if (origin->port)
+    if (origin->port) {
         same += ':' + QByteArray::number(origin->port);
+    }
     require(URLOrigin::of(same) == origin, "an origin is its own");
 }
 

@@ -18,8 +18,9 @@ const FuzzTarget &chosenTarget()
     const auto found = std::ranges::find(all, QLatin1StringView(name), &FuzzTarget::name);
     if (found == all.end()) {
         std::fputs("There are the targets:", stderr);
-        for (const FuzzTarget &target : all)
+        for (const FuzzTarget &target : all) {
             std::fprintf(stderr, " %s", target.name.data());
+        }
         std::fputs("\n", stderr);
         std::exit(2);
     }
@@ -29,8 +30,9 @@ const FuzzTarget &chosenTarget()
 /// What the readers log of each input says nothing here; what ends the program does.
 void logFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type == QtFatalMsg)
+    if (type == QtFatalMsg) {
         std::fprintf(stderr, "%s\n", qPrintable(message));
+    }
 }
 
 } // namespace
@@ -44,6 +46,6 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     static const FuzzTarget &target = chosenTarget();
-    target.read(QByteArray(reinterpret_cast<const char *>(bytes), qsizetype(size)));
+    target.read(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)));
     return 0;
 }

@@ -101,8 +101,9 @@ private Q_SLOTS:
             QTRY_COMPARE(portal.calls.size(), 1);
             QCOMPARE(portal.calls[0],
                      (QVariantList{interface, u"ReadAll"_s, QStringList{looks, desktop}}));
-            if (live)
+            if (live) {
                 portal.change(group, key, value);
+            }
             // Told last, so that nothing can still be on its way.
             portal.change(looks, u"reduced-motion"_s, 1U);
             QTRY_COMPARE(host.last(), after);

@@ -55,8 +55,9 @@ private Q_SLOTS:
         for (const auto &[urls, token, addressKnown] : rows) {
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
             environment.insert(u"XDG_ACTIVATION_TOKEN"_s, token);
-            if (!addressKnown)
+            if (!addressKnown) {
                 environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+            }
             QList<QStringList> opened;
             {
                 LinuxHost host(applicationId);
@@ -117,8 +118,9 @@ private Q_SLOTS:
         };
         for (const auto &[name, address] : rows) {
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            if (!address.isEmpty())
+            if (!address.isEmpty()) {
                 environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(address));
+            }
             const QByteArray output = start({}, environment, name);
             QVERIFY2(output.endsWith("only\n") && output.count('\n') == 2, output.constData());
         }
@@ -140,8 +142,9 @@ private Q_SLOTS:
                 QDBusMessage::createMethodCall(applicationId, u"/example/wzt_test/Companion"_s,
                                                u"org.freedesktop.Application"_s, u"Open"_s);
             QStringList urls;
-            for (qsizetype i = 0; i < many; ++i)
+            for (qsizetype i = 0; i < many; ++i) {
                 urls.append(u"wzt://somewhere/"_s + QString::number(i));
+            }
             open << urls << QVariantMap();
             QVERIFY(QDBusConnection::sessionBus().send(open));
         }

@@ -32,8 +32,9 @@ QJsonObject reply(const char *whole, const QByteArray &changes)
 {
     QJsonObject params = QJsonDocument::fromJson(whole).object();
     const QJsonObject others = QJsonDocument::fromJson(changes).object();
-    for (auto other = others.begin(); other != others.end(); ++other)
+    for (auto other = others.begin(); other != others.end(); ++other) {
         params[other.key()] = other.value();
+    }
     return params;
 }
 
@@ -49,8 +50,9 @@ template <class Record>
 Record unarchived(const Values &values)
 {
     NSCoder coder;
-    for (auto value = values.begin(); value != values.end(); ++value)
+    for (auto value = values.begin(); value != values.end(); ++value) {
         coder.encodeValue(*value, value.key());
+    }
     return Record::initWithCoder(coder);
 }
 
@@ -67,23 +69,24 @@ private Q_SLOTS:
         for (const char *changes :
              {R"({"userTavloID":0})", R"({"userTavloID":"-3"})", R"({"userTavloID":0.9})",
               R"({"userTavloID":null})", R"({"userTavloID":[7]})", R"({"userEmail":""})",
-              R"({"userEmail":null})", R"({"userName":""})", R"({"userName":{"a":1}})"})
+              R"({"userEmail":null})", R"({"userName":""})", R"({"userName":{"a":1}})"}) {
             QVERIFY2(!WZTUser::initWithUserParams(reply(userReply, changes)), changes);
+        }
     }
 
     void aUserIsReadForgivingly()
     {
         const Values whole{
-            {u"tavloId"_s, qint64(7)},          {u"email"_s, u"jo@wzt.example"_s},
+            {u"tavloId"_s, qint64{7}},          {u"email"_s, u"jo@wzt.example"_s},
             {u"username"_s, u"Jo"_s},           {u"reddit"_s, u"jo_r"_s},
             {u"twitter"_s, u"jo_t"_s},          {u"discord"_s, u"jo#1"_s},
             {u"cydiaId"_s, u"123"_s},           {u"earlyAdopter"_s, true},
             {u"joinDate"_s, NSDate{587487909}},
         };
         const std::tuple<const char *, QString, NSCoder::Value> rows[] = {
-            {"{}", u"tavloId"_s, qint64(7)},
-            {R"({"userTavloID":"12abc"})", u"tavloId"_s, qint64(12)},
-            {R"({"userTavloID":1e12})", u"tavloId"_s, qint64(INT_MAX)},
+            {"{}", u"tavloId"_s, qint64{7}},
+            {R"({"userTavloID":"12abc"})", u"tavloId"_s, qint64{12}},
+            {R"({"userTavloID":1e12})", u"tavloId"_s, static_cast<qint64>(INT_MAX)},
             {R"({"userName":42})", u"username"_s, u"42"_s},
             {R"({"userReddit":""})", u"reddit"_s, u""_s},
             {R"({"userCydiaID":7.5})", u"cydiaId"_s, u"7.5"_s},
@@ -144,8 +147,9 @@ private Q_SLOTS:
     {
         const auto packages = WZTPackage::allPackages();
         QString text;
-        for (const auto &package : packages)
+        for (const auto &package : packages) {
             text += package->bundleIdentifier + u' ' + package->name + u'|';
+        }
         QCOMPARE(text.remove(QLatin1StringView(BuildConstants::vendorPrefix)),
                  u".pintle Pintle|.itsmarrow Marrow!|.qelvan QELVAN|.tessaroo tessaroo|"
                  ".halden3 Halden 3|.kiteloom KiteLoom|"_s);

@@ -24,8 +24,9 @@ inline void each(quint32 count, const std::function<QString(quint32 seed)> &run)
     for (quint32 done = 0; seconds ? time.elapsed() < 1000LL * seconds : done < count; ++done) {
         const quint32 seed = qMax(first, 1U) + done;
         const QString fault = run(seed);
-        if (!fault.isEmpty() || QTest::currentTestFailed())
+        if (!fault.isEmpty() || QTest::currentTestFailed()) {
             QFAIL(qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(fault)));
+        }
     }
 }
 

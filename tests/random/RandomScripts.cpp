@@ -30,8 +30,9 @@ public:
     explicit Script(quint32 seed) : m_dice(seed)
     {
         m_world.meanwhile = [this] {
-            if (m_depth < 3 && m_dice.once(12))
+            if (m_depth < 3 && m_dice.once(12)) {
                 step();
+            }
         };
         m_tabs = make<UITabBarController>();
         m_tabs->setViewControllers({navigation(), navigation()});
@@ -39,8 +40,9 @@ public:
         m_presented = {m_tabs};
         m_window->makeKeyAndVisible();
         m_window->setRootViewController(m_tabs);
-        if (m_dice.below(4) > 0)
+        if (m_dice.below(4) > 0) {
             m_window->presentation()->attachView();
+        }
     }
 
     QString run()
@@ -53,8 +55,9 @@ public:
         end();
         tearDown();
         expect(m_world.living == 0, u"a page stays for ever"_s);
-        if (m_world.faults.isEmpty())
+        if (m_world.faults.isEmpty()) {
             return {};
+        }
         return m_world.faults.first() + u" after "_s + m_log.join(u", "_s);
     }
 
@@ -67,8 +70,9 @@ private:
 
     void expect(bool isRight, const QString &fault)
     {
-        if (!isRight)
+        if (!isRight) {
             m_world.faults.append(fault);
+        }
     }
 
     void test(UITransitionStack &stack)
@@ -86,8 +90,9 @@ private:
         const Controller root = page();
         m_navigations.push_back({make<UINavigationController>(root), {root}});
         test(*m_navigations.back().controller->pages());
-        if (m_dice.once(2))
+        if (m_dice.once(2)) {
             m_navigations.back().controller->pages()->attachView();
+        }
         return m_navigations.back().controller;
     }
 
@@ -104,8 +109,9 @@ private:
     Pages::iterator entryOf(const Controller &page)
     {
         for (const Navigation &each : m_navigations) {
-            if (std::ranges::find(each.pages, page) == each.pages.end())
+            if (std::ranges::find(each.pages, page) == each.pages.end()) {
                 continue;
+            }
             const auto &tabs = m_tabs->viewControllers();
             const bool isTab = std::ranges::find(tabs, each.controller) != tabs.end();
             return std::ranges::find(m_presented, isTab ? Controller(m_tabs) : each.controller);
@@ -151,8 +157,9 @@ private:
             : m_dice.once(4)                    ? m_dice.oneOf(m_presented)
                                                 : page();
         const bool isNew = std::ranges::find(m_presented, shown) == m_presented.end();
-        if (entryOf(from) != m_presented.end() && isNew)
+        if (entryOf(from) != m_presented.end() && isNew) {
             m_presented.push_back(shown);
+        }
         from->presentViewController(shown, animated, counted());
     }
 
@@ -160,10 +167,11 @@ private:
     {
         m_log.append(animated ? u"dismiss"_s : u"dismiss!"_s);
         const auto entry = entryOf(page);
-        if (entry != m_presented.end() && entry + 1 != m_presented.end())
+        if (entry != m_presented.end() && entry + 1 != m_presented.end()) {
             m_presented.erase(entry + 1, m_presented.end());
-        else if (entry != m_presented.end() && entry != m_presented.begin())
+        } else if (entry != m_presented.end() && entry != m_presented.begin()) {
             m_presented.erase(entry);
+        }
         page->dismissViewControllerAnimated(animated, counted());
     }
 
@@ -185,17 +193,19 @@ private:
         m_log.append(toRoot ? u"pop all"_s : u"pop"_s);
         const std::size_t pages = navigation.pages.size();
         navigation.pages.resize(toRoot ? 1 : qMax<std::size_t>(1, pages - 1));
-        if (toRoot)
+        if (toRoot) {
             controller->popToRootViewControllerAnimated(animated);
-        else
+        } else {
             controller->popViewControllerAnimated(animated);
+        }
     }
 
     [[nodiscard]] std::vector<UITransitionStack *> stacks()
     {
         std::vector<UITransitionStack *> all{m_window->presentation()};
-        for (const Navigation &each : m_navigations)
+        for (const Navigation &each : m_navigations) {
             all.push_back(each.controller->pages());
+        }
         return all;
     }
 
@@ -215,8 +225,9 @@ private:
     {
         for (int times = 0; times < 3; ++times) { // an end may begin another
             for (UITransitionStack *stack : stacks()) {
-                for (int row = stack->rowCount() - 1; row >= 0; --row)
+                for (int row = stack->rowCount() - 1; row >= 0; --row) {
                     end(*stack, row);
+                }
             }
         }
     }
@@ -224,8 +235,9 @@ private:
     void compare()
     {
         expect(m_window->presentation()->controllers() == m_presented, u"others are presented"_s);
-        for (const Navigation &each : m_navigations)
+        for (const Navigation &each : m_navigations) {
             expect(each.controller->viewControllers() == each.pages, u"others are pushed"_s);
+        }
     }
 
     // Once every transition has ended, what is in sight has appeared and nothing else, and every
@@ -239,11 +251,13 @@ private:
         Pages seen(base.base() - 1, m_presented.end());
         const auto &tab =
             m_tabs->viewControllers()[static_cast<std::size_t>(m_tabs->selectedIndex())];
-        if (seen.front() == m_tabs)
+        if (seen.front() == m_tabs) {
             seen.push_back(tab);
+        }
         for (const Navigation &each : m_navigations) {
-            if (std::ranges::find(seen, each.controller) != seen.end())
+            if (std::ranges::find(seen, each.controller) != seen.end()) {
                 seen.push_back(each.pages.back());
+            }
         }
         for (const Controller &each : m_pages) {
             const bool isSeen = std::ranges::find(seen, each) != seen.end();
@@ -263,8 +277,9 @@ private:
         m_pages.clear();
         m_tabs.reset();
         m_window.reset();
-        for (int i = 0; i < 3; ++i) // containers let go of their own
+        for (int i = 0; i < 3; ++i) { // containers let go of their own
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
     }
 
     RandomRuns::Dice m_dice;

@@ -50,10 +50,11 @@ public:
     {
         for (int i = 0; i < stepsOfARun && m_fault.isEmpty(); ++i) {
             step();
-            if (m_dice.once(3))
+            if (m_dice.once(3)) {
                 settle();
-            else
+            } else {
                 QTest::qWait(m_dice.below(40));
+            }
         }
         return m_fault.isEmpty() ? QString() : m_fault + u" after "_s + m_log.join(u", "_s);
     }
@@ -74,8 +75,9 @@ private:
 
     void fault(const QString &what)
     {
-        if (m_fault.isEmpty())
+        if (m_fault.isEmpty()) {
             m_fault = what;
+        }
     }
 
     void step()
@@ -135,10 +137,12 @@ private:
     {
         const bool still = m_rules->isStill();
         const Row row = m_rules->rowAt(at);
-        for (int i = 0; i < times; ++i)
+        for (int i = 0; i < times; ++i) {
             WindowDriver::tap(view(), at);
-        if (still && row.at && m_rules->chosen().isEmpty())
+        }
+        if (still && row.at && m_rules->chosen().isEmpty()) {
             fault(u"a row that is tapped does nothing"_s);
+        }
         acted(QList<Row>(times, row), times);
     }
     void tap() { tapAt(place(), 1); }
@@ -176,8 +180,9 @@ private:
         const Row row = m_rules->rowAt(from);
         Finger finger(view(), from);
         finger.move(from + QPoint(m_dice.between(20, 200), along));
-        if (m_dice.once(3))
+        if (m_dice.once(3)) {
             view().resize(m_dice.oneOf(std::span(sizes)));
+        }
         finger.move(finger.at() + QPoint(m_dice.between(-20, 60), 0));
         finger.lift();
         acted(qAbs(along) > 10 ? QList<Row>() : QList<Row>{row}, 1); // or else it has scrolled
@@ -218,8 +223,9 @@ private:
         const double before = list ? list->property("contentY").toDouble() : 0;
         reload();
         view().grabWindow();
-        if (drags && (!list || qAbs(list->property("contentY").toDouble() - before) > 0.5))
+        if (drags && (!list || qAbs(list->property("contentY").toDouble() - before) > 0.5)) {
             fault(u"a reload moves the list under the finger"_s);
+        }
         finger.move(away(finger.at(), 60, 10));
         finger.lift();
         acted({}, 1);
@@ -227,8 +233,9 @@ private:
 
     void reload()
     {
-        if (const QQuickItem *list = m_rules->list())
+        if (const QQuickItem *list = m_rules->list()) {
             WindowRules::tableOf(*list)->reloadData();
+        }
     }
 
     void key()
@@ -237,8 +244,9 @@ private:
         m_log.last() += u" %1"_s.arg(static_cast<int>(key), 0, 16);
         const bool chooses = key == Qt::Key_Return || key == Qt::Key_Space;
         QTest::keyClick(&view(), key);
-        if (std::ssize(m_rules->chosen()) > (chooses ? 1 : 0))
+        if (std::ssize(m_rules->chosen()) > (chooses ? 1 : 0)) {
             fault(u"a key chooses a row"_s);
+        }
         acted(m_rules->chosen(), 1);
     }
 

@@ -43,15 +43,17 @@ public:
 protected:
     void appearanceStateDidChange(UITransitionStack::Motion) override
     {
-        if (appearanceState() == UIAppearanceState::Disappeared)
+        if (appearanceState() == UIAppearanceState::Disappeared) {
             m_state = UIAppearanceState::Disappeared;
+        }
     }
 
 private:
     void expect(bool isRight, QStringView event)
     {
-        if (!isRight)
+        if (!isRight) {
             m_world.faults.append(QStringLiteral("a page %1 out of turn").arg(event));
+        }
     }
 
     ScriptWorld &m_world;

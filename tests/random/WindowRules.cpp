@@ -46,12 +46,14 @@ using Controllers = std::vector<std::shared_ptr<UIViewController>>;
 
 int pagesIn(UIViewController &controller)
 {
-    if (const auto *navigation = qobject_cast<UINavigationController *>(&controller))
+    if (const auto *navigation = qobject_cast<UINavigationController *>(&controller)) {
         return static_cast<int>(navigation->viewControllers().size());
+    }
     const auto *tabs = qobject_cast<UITabBarController *>(&controller);
     int pages = tabs ? 0 : 1;
-    for (const auto &tab : tabs ? tabs->viewControllers() : Controllers())
+    for (const auto &tab : tabs ? tabs->viewControllers() : Controllers()) {
         pages += pagesIn(*tab);
+    }
     return pages;
 }
 
@@ -101,8 +103,9 @@ WindowRules::Row WindowRules::rowAt(const QPoint &point) const
     const QQuickItem *row = hit ? hit->parentItem() : nullptr;
     const auto *entry = row ? row->property("entry").value<QQuickItem *>() : nullptr;
     auto *table = entry ? entry->property("table").value<UITableView *>() : nullptr;
-    if (!table || !hit->inherits("UIPressArea"))
+    if (!table || !hit->inherits("UIPressArea")) {
         return {};
+    }
     return {table, table->entries()->indexPathOf(entry->property("index").toInt())};
 }
 
@@ -123,8 +126,9 @@ void WindowRules::observeTables()
 {
     for (const QQuickItem *list : items("QQuickListView")) {
         auto *table = tableOf(*list);
-        if (table->delegate() && !dynamic_cast<Delegate *>(table->delegate()))
+        if (table->delegate() && !dynamic_cast<Delegate *>(table->delegate())) {
             m_delegates.push_back(std::make_unique<Delegate>(*table, m_chosen));
+        }
     }
 }
 
@@ -132,8 +136,9 @@ int WindowRules::pageCount() const
 {
     int pages = 0;
     for (const auto &controller : m_presentation.controllers()) {
-        if (controller->cover() == UITransitionStack::Cover::Covers)
+        if (controller->cover() == UITransitionStack::Cover::Covers) {
             pages += pagesIn(*controller);
+        }
     }
     return pages;
 }
@@ -148,8 +153,9 @@ void WindowRules::begin()
 QString WindowRules::acted(QList<Row> mayBeChosen, int pages)
 {
     for (const Row &row : m_chosen) {
-        if (!mayBeChosen.removeOne(row))
+        if (!mayBeChosen.removeOne(row)) {
             return u"a row acts that was not let go of"_s;
+        }
     }
     return pageCount() > m_pages + pages ? u"more pages come than were asked for"_s : QString();
 }
@@ -159,12 +165,15 @@ QString WindowRules::tables() const
     QSet<QObject *> cells;
     for (const QQuickItem *entry : items("UITableViewEntryView")) {
         auto *cell = entry->property("cell").value<UITableViewCell *>();
-        if (!cell)
+        if (!cell) {
             continue;
-        if (cells.contains(cell))
+        }
+        if (cells.contains(cell)) {
             return u"a cell is drawn twice"_s;
-        if (cell->isHighlighted())
+        }
+        if (cell->isHighlighted()) {
             return u"a row is lit that no finger is on"_s;
+        }
         cells.insert(cell);
     }
     const auto areListsInBounds = [this] {
@@ -178,8 +187,9 @@ QString WindowRules::tables() const
 QString WindowRules::focus() const
 {
     const QQuickItem *focused = m_window.activeFocusItem();
-    if (!focused || !focused->isVisible() || !focused->isEnabled())
+    if (!focused || !focused->isVisible() || !focused->isEnabled()) {
         return u"the keyboard is with nothing that is seen"_s;
+    }
     const QRectF mark = focused->property("cursorRectangle").toRectF();
     const bool inSight = mark.isEmpty() || (mark.left() > -1 && mark.left() < focused->width() + 1);
     return inSight ? QString() : u"the insertion mark is out of sight"_s;
@@ -190,16 +200,18 @@ QString WindowRules::settled() const
     const auto arePagesInPlace = [this] {
         return std::ranges::all_of(items("UITransitionEntryView"), isInPlace);
     };
-    if (!QTest::qWaitFor(arePagesInPlace))
+    if (!QTest::qWaitFor(arePagesInPlace)) {
         return u"a page rests beside its place"_s;
+    }
     const auto shown = m_presentation.controllers();
     for (const auto &controller : shown) {
         const bool covered = std::any_of(
             std::find(shown.begin(), shown.end(), controller) + 1, shown.end(),
             [](const auto &above) { return above->cover() == UITransitionStack::Cover::Covers; });
         if (controller->appearanceState()
-            != (covered ? UIAppearanceState::Disappeared : UIAppearanceState::Appeared))
+            != (covered ? UIAppearanceState::Disappeared : UIAppearanceState::Appeared)) {
             return u"a controller has not appeared, or not gone"_s;
+        }
     }
     const QString fault = tables();
     return fault.isEmpty() ? focus() : fault;

@@ -43,8 +43,9 @@ private Q_SLOTS:
             const QTemporaryDir folder;
             QVERIFY(Sandbox({.directory = folder.path()}).isRunning());
             QMap<QString, QByteArray> before;
-            for (const QString &name : {authority, leaf})
+            for (const QString &name : {authority, leaf}) {
                 before[name] = contents(folder.filePath(name));
+            }
             QFile file(folder.filePath(damaged));
             if (!damaged.isEmpty() && file.open(QFile::ReadWrite) && file.seek(60)) {
                 file.write("0000000000");
@@ -53,10 +54,12 @@ private Q_SLOTS:
             const Sandbox service(
                 {.directory = folder.path(), .clockOffset = std::chrono::days(days)});
             QVERIFY2(service.isRunning(), qPrintable(service.errorString()));
-            for (const QString &name : {authority, leaf})
+            for (const QString &name : {authority, leaf}) {
                 QCOMPARE(contents(folder.filePath(name)) == before[name], kept.contains(name));
-            if (days == 0)
+            }
+            if (days == 0) {
                 QCOMPARE(Client(service.port(), service.caFile()).get("/user.php").status, 400);
+            }
         }
     }
 };

@@ -11,7 +11,7 @@ namespace {
 size_t collect(char *bytes, size_t, size_t size, void *into)
 {
     auto *collected = static_cast<QByteArray *>(into);
-    collected->append(bytes, qsizetype(size));
+    collected->append(bytes, static_cast<qsizetype>(size));
     return collected->size() > 1'048'576 ? 0 : size;
 }
 

@@ -35,8 +35,9 @@ QByteArray filled(QByteArray text)
         {"{empty}", Sandbox::digestOf(u""_s)},
         {"{id}", "packageId=" + package.toLatin1()},
     };
-    for (const auto &[mark, meaning] : marks)
+    for (const auto &[mark, meaning] : marks) {
         text.replace(mark, meaning);
+    }
     return text;
 }
 
@@ -133,8 +134,9 @@ private Q_SLOTS:
     {
         std::atomic<bool> throws = false;
         Sandbox service(Sandbox::Options{.log = [&](const QString &) {
-            if (throws)
+            if (throws) {
                 throw std::runtime_error("no room");
+            }
         }});
         Client client(service.port(), service.caFile());
         throws = true;
@@ -151,8 +153,9 @@ private Q_SLOTS:
         Sandbox service;
         Client client(service.port(), service.caFile());
         service.stage("*", sandbox::Fault::json("{}"), -1);
-        for (int i = 0; i < 1002; ++i)
+        for (int i = 0; i < 1002; ++i) {
             (void)client.get('/' + QByteArray::number(i));
+        }
         const auto requests = service.requests();
         QCOMPARE(requests.size(), 1000);
         QCOMPARE(requests.first().path, "/2");

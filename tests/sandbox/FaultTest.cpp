@@ -79,8 +79,9 @@ private Q_SLOTS:
     /// What libcurl makes of these depends on its version.
     void stagedCuts()
     {
-        for (const char *line : {"/user.php cut 20", "/user.php unmeasured"})
+        for (const char *line : {"/user.php cut 20", "/user.php unmeasured"}) {
             QCOMPARE(m_service.stageLine(QString::fromLatin1(line)), QString());
+        }
         const Answer cut = answer();
         QVERIFY(cut.head.startsWith("HTTP/1.1 200 OK\r\n") && !cut.head.contains("Content-"));
         const Answer unmeasured = answer();
@@ -116,10 +117,12 @@ private Q_SLOTS:
 
     void stagedForEverUntilCleared()
     {
-        for (const QString &line : {u"* status 500"_s, u"* status 501 -1"_s})
+        for (const QString &line : {u"* status 500"_s, u"* status 501 -1"_s}) {
             QCOMPARE(m_service.stageLine(line), QString());
-        for (const long status : {500, 501, 501})
+        }
+        for (const long status : {500, 501, 501}) {
             QCOMPARE(answer().status, status);
+        }
         QCOMPARE(m_service.stageLine(u"clear"_s), QString());
         QCOMPARE(answer().status, 200);
     }
@@ -139,8 +142,9 @@ private Q_SLOTS:
               "/user.php close x", "/user.php close 0", "/user.php close 1 1", "/user.php delay",
               "/user.php delay -1", "/user.php drip 0 5", "/user.php cut -1", "/user.php gzip",
               "/user.php status 99", "/user.php json 200", "/user.php redirect elsewhere",
-              "connection", "connection odd", "connection mute x"})
+              "connection", "connection odd", "connection mute x"}) {
             QVERIFY2(!m_service.stageLine(QString::fromLatin1(line)).isEmpty(), line);
+        }
         QVERIFY(answer().isUser());
     }
 };

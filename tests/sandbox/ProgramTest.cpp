@@ -44,7 +44,7 @@ struct Running {
     }
     Q_DISABLE_COPY_MOVE(Running)
 
-    [[nodiscard]] Client client() const { return {quint16(QUrl(url).port()), caFile}; }
+    [[nodiscard]] Client client() const { return {static_cast<quint16>(QUrl(url).port()), caFile}; }
 
     QProcess process;
     QList<QStringList> accounts;
@@ -85,7 +85,7 @@ private Q_SLOTS:
                 counts.append(client.get("/issues.php?packageId=" + id).list().size());
             }
             QCOMPARE(counts, (QList<qsizetype>{12, 3, 2000, 0, 5, 2}));
-            ::kill(pid_t(service.process.processId()), signal);
+            ::kill(static_cast<pid_t>(service.process.processId()), signal);
             QVERIFY(service.process.waitForFinished(5000));
             QCOMPARE(service.process.exitStatus(), QProcess::NormalExit);
             QCOMPARE(service.process.exitCode(), 0);

@@ -238,8 +238,9 @@ private Q_SLOTS:
 
         // What has the keyboard keeps it through the reload.
         stage.app.service().clear();
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_F5})
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_F5}) {
             stage.window->key(key);
+        }
         QTRY_VERIFY(!stage.isRefreshing());
         QTRY_COMPARE(stage.window->view().activeFocusItem(),
                      stage.window->drawing(stage.card().editButton()));
@@ -276,8 +277,9 @@ private Q_SLOTS:
     {
         Stage stage({320, 568}, {.textScale = 2});
         const QQuickItem *button = stage.window->drawing(&stage.logout());
-        for (int i = 0; i < 10 && !button->hasActiveFocus(); ++i)
+        for (int i = 0; i < 10 && !button->hasActiveFocus(); ++i) {
             stage.window->key(Qt::Key_Tab);
+        }
         QTRY_VERIFY(WindowDriver::rect(stage.list()).contains(WindowDriver::rect(button)));
         stage.window->key(Qt::Key_Space);
         QTRY_VERIFY(stage.app.top<WZTLoginViewController>());

@@ -37,12 +37,13 @@ struct Stage {
         screen().editProfile(nullptr);
         const auto alert = strong(app.top<UIAlertController>());
         for (std::size_t i = 0; i < alert->textFields().size(); ++i) {
-            const QString text = texts.section(u'|', int(i), int(i));
+            const QString text = texts.section(u'|', static_cast<int>(i), static_cast<int>(i));
             alert->textFields()[i]->setText(text == u"-" ? std::nullopt : std::optional(text));
         }
         alert->trigger(alert->actions()[1].get());
-        for (const std::size_t secret : {1U, 2U})
+        for (const std::size_t secret : {1U, 2U}) {
             QCOMPARE(alert->textFields()[secret]->text(), QString());
+        }
     }
     [[nodiscard]] QString name() { return app.delegate().currentUser()->userName.value_or(u"-"_s); }
     [[nodiscard]] UIRefreshControl &refreshControl()
@@ -133,8 +134,9 @@ private Q_SLOTS:
     {
         const auto &[name, texts, reply, sent, alert] = currentCase<Update>();
         Stage stage;
-        if (!reply.isEmpty())
+        if (!reply.isEmpty()) {
             stage.app.service().stage("/update.php", Fault::json(reply));
+        }
         stage.update(texts);
         QTRY_COMPARE(stage.app.alert(), alert);
         QCOMPARE(stage.name(), reply == another ? u"New"_s : u"Jo"_s);
@@ -168,15 +170,17 @@ private Q_SLOTS:
                                   Fault::json(another).after(100ms));
         updates ? stage.update(u"New||secret"_s) : stage.refreshControl().pull();
         stage.screen().logout(nullptr);
-        if (!next.isEmpty())
+        if (!next.isEmpty()) {
             stage.app.delegate().setCurrentUser(WZTUser(1, next, u"Kim"_s));
+        }
         // The late reply has come once it no longer keeps the screen or its spinner.
         QTRY_COMPARE(screen.use_count(), holders);
         QTRY_VERIFY(!stage.refreshControl().isRefreshing());
         QCOMPARE(stage.app.alert(), alert);
         QCOMPARE(stage.app.delegate().currentUser().has_value(), !next.isEmpty());
-        if (!next.isEmpty())
+        if (!next.isEmpty()) {
             QCOMPARE(stage.name(), next == u"jo@wzt.example" ? u"New"_s : u"Kim"_s);
+        }
     }
 };
 

@@ -29,8 +29,9 @@ private Q_SLOTS:
             const QMetaObject *type =
                 QMetaType::isRegistered(id) ? QMetaType(id).metaObject() : nullptr;
             const int info = type ? type->indexOfClassInfo("view") : -1;
-            if (info < 0)
+            if (info < 0) {
                 continue;
+            }
             const QString file = QString::fromLatin1(type->classInfo(info).value());
             QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/"_s + file));
             QVERIFY2(component.isReady(), qPrintable(component.errorString()));

@@ -24,8 +24,9 @@ constexpr char path[] = "/issues.php";
 Fault listOf(const QByteArrayList &titles)
 {
     QByteArrayList issues;
-    for (const QByteArray &title : titles)
+    for (const QByteArray &title : titles) {
         issues.append(R"({"title":")" + title + R"("})");
+    }
     return Fault::json('[' + issues.join(',') + ']');
 }
 
@@ -63,8 +64,9 @@ QStringList titles(const WZTPackageIssuesViewController *screen)
 {
     QStringList titles;
     const auto issues = screen ? screen->packageIssues() : std::nullopt;
-    for (const WZTPackageIssue &issue : issues.value_or(QList<WZTPackageIssue>()))
+    for (const WZTPackageIssue &issue : issues.value_or(QList<WZTPackageIssue>())) {
         titles.append(issue.title.value_or(u"-"_s));
+    }
     return titles;
 }
 
@@ -184,8 +186,9 @@ private Q_SLOTS:
             QTRY_COMPARE(stage.requests(), 1);
             stage.app.service().stage(path, listOf({"second"}).after(100ms));
             stage.coverAndUncover();
-            if (cancelled)
+            if (cancelled) {
                 screen->cancel(nullptr);
+            }
             QTRY_COMPARE(titles(screen), QStringList{u"second"_s});
             QVERIFY(!screen->activityIndicator()->isAnimating());
             if (cancelled) {

@@ -93,8 +93,9 @@ private Q_SLOTS:
     {
         const auto &[name, title, notes, fault, sent, alert] = currentCase<Outcome>();
         Stage stage;
-        if (fault)
+        if (fault) {
             stage.app.service().stage("/submitissue.php", *fault);
+        }
         stage.title().edit(title);
         stage.notes().edit(notes);
         stage.submit();

@@ -43,12 +43,14 @@ void keys(TestWindow &window, const QString &name)
     const QAccessibleInterface &wanted = *window.accessible(name);
     if (wanted.role() == QAccessible::ListItem) {
         const QString position = wanted.text(QAccessible::Description); // "2 of 6"
-        for (int i = 0; i < position.section(u' ', 0, 0).toInt(); ++i)
+        for (int i = 0; i < position.section(u' ', 0, 0).toInt(); ++i) {
             window.key(Qt::Key_Down);
+        }
         window.key(Qt::Key_Return);
     } else {
-        for (int i = 0; i < 8 && window.view().activeFocusItem() != wanted.object(); ++i)
+        for (int i = 0; i < 8 && window.view().activeFocusItem() != wanted.object(); ++i) {
             window.key(Qt::Key_Tab);
+        }
         window.key(Qt::Key_Space);
     }
 }
@@ -114,8 +116,9 @@ private Q_SLOTS:
         Stage stage;
         QQuickView &view = stage.window->view();
         const QRect row = stage.window->accessible(u"Bug Reporter"_s)->rect();
-        for (int i = 0; i < 2; ++i) // where a project is going to be
+        for (int i = 0; i < 2; ++i) { // where a project is going to be
             WindowDriver::tap(view, view.mapFromGlobal(row.center()));
+        }
         stage.window->settle();
         QVERIFY(stage.window->accessible(u"Projects"_s));
     }

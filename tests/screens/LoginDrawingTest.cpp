@@ -158,8 +158,9 @@ private Q_SLOTS:
             tabs.dismissViewControllerAnimated(false);
             tabs.presentViewController(make<WZTLoginViewController>(), false);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            if (i == 10)
+            if (i == 10) {
                 items = root->findChildren<QObject *>().size();
+            }
         }
         const auto alive = [&] {
             return std::count_if(closed.begin(), closed.end(),

@@ -25,11 +25,13 @@ WZTLoginViewController &login(TestApp &app)
 void answerAlert(TestApp &app, const QString &text)
 {
     const auto alert = strong(app.top<UIAlertController>());
-    for (const auto &field : alert->textFields())
+    for (const auto &field : alert->textFields()) {
         field->edit(text);
+    }
     alert->triggerDefault();
-    for (const auto &field : alert->textFields())
+    for (const auto &field : alert->textFields()) {
         QCOMPARE(field->text(), field->isSecureTextEntry() ? QString() : text);
+    }
 }
 
 const QString typed = u"\u00a0jo "_s;
@@ -192,8 +194,9 @@ private Q_SLOTS:
         flow->start(app, typed);
         const QPointer<WZTLoginViewController> screen = &login(app);
         screen->loginEnded(1, kim); // the reply to another tap, which is quicker
-        if (signsOut)
+        if (signsOut) {
             app.delegate().logout();
+        }
         // The late reply has come once it no longer keeps the screen.
         QTRY_VERIFY(!screen);
         QCOMPARE(app.delegate().currentUser(), signsOut ? std::nullopt : std::optional(kim));

@@ -87,8 +87,9 @@ private Q_SLOTS:
             for (std::size_t i = 0; i < traits.size(); ++i) {
                 const UITextField &field = *app.top<UIAlertController>()->textFields()[i];
                 UITextInputTraits expected = traits[i];
-                if (expected.secureTextEntry && version < 12)
+                if (expected.secureTextEntry && version < 12) {
                     expected.textContentType = Content::Unspecified;
+                }
                 QVERIFY2(field.inputTraits() == expected, qPrintable(field.placeholder()));
                 QCOMPARE(field.borderStyle(), UITextField::BorderStyle::RoundedRect);
             }

@@ -41,8 +41,9 @@ QRectF painted(QQuickItem *item)
 
 void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
 {
-    if (!item->isVisible() || item->opacity() == 0)
+    if (!item->isVisible() || item->opacity() == 0) {
         return;
+    }
     const QRectF clipped = item->clip() ? seen & WindowDriver::rect(item) : seen;
     const QString text = item->property("text").toString();
     const bool edits = item->inherits("QQuickTextInput");
@@ -50,8 +51,9 @@ void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
         const QRectF whole = edits ? WindowDriver::rect(item) : painted(item);
         texts.append({text, whole, whole & clipped, item});
     }
-    for (QQuickItem *child : item->childItems())
+    for (QQuickItem *child : item->childItems()) {
         collect(child, clipped, texts);
+    }
 }
 
 /// The texts of what lies on top.
@@ -82,8 +84,9 @@ QString spokenBelow(QAccessibleInterface *parent)
 /// Whether the item is on something that a finger moves.
 bool scrolls(const QQuickItem *item)
 {
-    while (item && !item->inherits("QQuickFlickable"))
+    while (item && !item->inherits("QQuickFlickable")) {
         item = item->parentItem();
+    }
     return item;
 }
 
@@ -93,25 +96,32 @@ QStringList complaints(QQuickView &view)
     const QSize window = view.size();
     const QString spoken = spokenBelow(QAccessible::queryAccessibleInterface(&view));
     QStringList found;
-    if (texts.isEmpty())
+    if (texts.isEmpty()) {
         found += u"no text"_s;
+    }
     for (qsizetype i = 0; i < texts.size(); ++i) {
         const auto &[text, whole, seen, item] = texts[i];
         const bool cut = item->property("truncated").toBool();
-        if (whole.left() < margin || whole.right() > window.width() - margin)
+        if (whole.left() < margin || whole.right() > window.width() - margin) {
             found += u"at the edge: "_s + text;
-        if (!scrolls(item) && (whole.top() < 0 || whole.bottom() > window.height()))
+        }
+        if (!scrolls(item) && (whole.top() < 0 || whole.bottom() > window.height())) {
             found += u"out of the window: "_s + text;
-        if (item->property("contentHeight").toDouble() > item->height() + 1)
+        }
+        if (item->property("contentHeight").toDouble() > item->height() + 1) {
             found += u"higher than its place: "_s + text;
-        if (item->property("contentWidth").toDouble() > item->width() + 1 && !item->clip())
+        }
+        if (item->property("contentWidth").toDouble() > item->width() + 1 && !item->clip()) {
             found += u"wider than its place: "_s + text;
-        if (cut && !spoken.contains(text))
+        }
+        if (cut && !spoken.contains(text)) {
             found += u"nowhere whole: "_s + text;
+        }
         for (qsizetype j = 0; j < i; ++j) {
             const QRectF both = seen & texts[j].seen;
-            if (both.width() > 1 && both.height() > 1)
+            if (both.width() > 1 && both.height() > 1) {
                 found += texts[j].text + u" overlaps "_s + text;
+            }
         }
     }
     return found;
@@ -128,8 +138,9 @@ QStringList hiddenMarks(QQuickView &view)
         QQuickItem *item = view.activeFocusItem();
         const bool edits = item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
         const QRectF mark = item->mapRectToScene(item->property("cursorRectangle").toRectF());
-        if (edits && !QRectF(0, 0, view.width(), room).contains(mark))
+        if (edits && !QRectF(0, 0, view.width(), room).contains(mark)) {
             found += u"below the keyboard: "_s + item->property("text").toString();
+        }
         QTest::keyClick(&view, Qt::Key_Tab);
     }
     WindowDriver::showKeyboard(view, 0);

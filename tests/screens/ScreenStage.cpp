@@ -55,10 +55,12 @@ const std::vector<Screen> &allScreens()
 
 ScreenStage::ScreenStage(const Screen &screen, const Options &options)
 {
-    if (screen.signedIn)
+    if (screen.signedIn) {
         app.keepUser(options.user);
-    if (!app.service().addIssues(sandbox::demoIssues()))
+    }
+    if (!app.service().addIssues(sandbox::demoIssues())) {
         qFatal("no issues");
+    }
     app.launch();
     window.emplace(app, options.size,
                    UIAppearance{.textScale = options.textScale, .reduceMotion = true});
@@ -67,8 +69,9 @@ ScreenStage::ScreenStage(const Screen &screen, const Options &options)
         accessible(name)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
     window->settle();
-    if (accessible(u"Loading"_s)) // or rows would come while they are looked at
+    if (accessible(u"Loading"_s)) { // or rows would come while they are looked at
         QTRY_VERIFY(!accessible(u"Loading"_s));
+    }
 }
 
 QAccessibleInterface *ScreenStage::accessible(const QString &name)

@@ -48,8 +48,9 @@ struct Seen {
 void collect(QQuickItem *item, QList<Seen> &seen)
 {
     const QString type = QString::fromLatin1(item->metaObject()->className()).section(u'_', 0, 0);
-    if (!item->isVisible() || type == u"TextCursor"_s)
+    if (!item->isVisible() || type == u"TextCursor"_s) {
         return;
+    }
     QRectF area(0, 0, item->width(), item->height());
     const double width = item->property("contentWidth").toDouble();
     if (width > 0 && width < area.width()) {
@@ -66,10 +67,12 @@ void collect(QQuickItem *item, QList<Seen> &seen)
                      along.x() * along.y()});
     }
     // Where a text begins that is edited is up to its letters.
-    if (type == u"TextFieldInput"_s || type == u"UITextViewView"_s)
+    if (type == u"TextFieldInput"_s || type == u"UITextViewView"_s) {
         return;
-    for (QQuickItem *child : item->childItems())
+    }
+    for (QQuickItem *child : item->childItems()) {
         collect(child, seen);
+    }
 }
 
 using Wheel = std::tuple<const char *, std::size_t, QString>;
@@ -117,8 +120,9 @@ private Q_SLOTS:
         const Screen &screen = currentCase<Screen>();
         for (const int tabs : {0, 2, 3}) {
             ScreenStage stage(screen);
-            for (int i = 0; i < tabs; ++i)
+            for (int i = 0; i < tabs; ++i) {
                 stage.window->key(Qt::Key_Tab);
+            }
             QTest::keyClick(&stage.window->view(), Qt::Key_Left, Qt::AltModifier);
             stage.window->settle();
             QVERIFY(stage.accessible(screen.back));

@@ -150,11 +150,13 @@ private Q_SLOTS:
             QCOMPARE(requests[0].method + ' ' + requests[0].target, operation.request);
             QCOMPARE(requests[0].bodySize, 0);
             std::set<QByteArray> names;
-            for (const auto &[name, value] : requests[0].headers)
+            for (const auto &[name, value] : requests[0].headers) {
                 names.insert(name.toLower());
+            }
             std::set<QByteArray> expected{"accept", "accept-encoding", "host"};
-            if (requests[0].method == "POST")
+            if (requests[0].method == "POST") {
                 expected.insert("content-length");
+            }
             QVERIFY(names == expected);
             QCOMPARE(requests[0].header("Host"), QByteArray("localhost"));
         }
@@ -164,8 +166,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("path");
         for (const auto &[path, codes] : allCodes) {
-            if (!codes.results.empty())
+            if (!codes.results.empty()) {
                 QTest::newRow(path.constData()) << path;
+            }
         }
     }
 
@@ -180,22 +183,26 @@ private Q_SLOTS:
 
         std::map<QByteArray, NSUInteger> codes; // by body
         for (const auto &[anyPath, any] : allCodes) {
-            for (const auto &[text, code] : any.results)
+            for (const auto &[text, code] : any.results) {
                 codes[resultOf(text)] = otherCode;
+            }
         }
         for (const QByteArray &body : QByteArrayList{
                  "", "text", "null", "\"Incorrect\"", "{}", "[]", R"([{"result":"Incorrect"}])",
                  resultOf("incorrect"), resultOf("Improper Request"), resultOf(" No User"),
                  resultOf("\xff"), R"({"result":null})", R"({"result":["Incorrect"]})",
                  R"({"result":"Incorrect")", R"({"result":"User Exists"} and)", '[' + user + "}]",
-                 R"({"userTavloID":0,"userEmail":"jo@wzt.example","userName":"Jo"})"})
+                 R"({"userTavloID":0,"userEmail":"jo@wzt.example","userName":"Jo"})"}) {
             codes[body] = otherCode;
-        for (const auto &[text, code] : results)
+        }
+        for (const auto &[text, code] : results) {
             codes[resultOf(text)] = code;
+        }
         codes[user + "}"] = userCode.value_or(otherCode);
         // The record wins over a result that has a code of its own.
-        if (userCode)
+        if (userCode) {
             codes[user + R"(,"result":"Incorrect"})"] = *userCode;
+        }
 
         for (const auto &[body, code] : codes) {
             const Outcome outcome = outcomeOfReply(path, body);
@@ -226,20 +233,24 @@ private Q_SLOTS:
             QVERIFY2(outcome.code == code, body.left(80).constData());
             QVERIFY2(outcome.issues.has_value() == titles.has_value(), body.left(80).constData());
             QStringList found;
-            for (const WZTPackageIssue &issue : outcome.issues.value_or(QList<WZTPackageIssue>()))
+            for (const WZTPackageIssue &issue : outcome.issues.value_or(QList<WZTPackageIssue>())) {
                 found.append(issue.title.value_or(u"nil"_s));
+            }
             QCOMPARE(found, titles.value_or(QStringList()));
         }
     }
 
     void onlyAResultOrAListRefusesASubmission()
     {
-        for (const char *body : {"{}", R"({"issueId":3})", R"({"Result":"refused"})",
-                                 R"({"issue":{"result":1}})", "", "text", R"({"result":"refused")"})
+        for (const char *body :
+             {"{}", R"({"issueId":3})", R"({"Result":"refused"})", R"({"issue":{"result":1}})", "",
+              "text", R"({"result":"refused")"}) {
             QVERIFY2(outcomeOfReply("/submitissue.php", body).code == 0, body);
+        }
         for (const char *body : {R"({"result":"success"})", R"({"issueId":3,"result":null})",
-                                 R"({"result":false})", "[]", R"([{"issueId":3}])"})
+                                 R"({"result":false})", "[]", R"([{"issueId":3}])"}) {
             QVERIFY2(outcomeOfReply("/submitissue.php", body).code == 1, body);
+        }
     }
 
     void whatIsLostIsReportedAndNotSentAgain()
@@ -252,8 +263,9 @@ private Q_SLOTS:
             m_service.stage("*", Fault::raw("HTTP/1.1 200 OK\r\n"));
             m_service.stage("*", Fault::redirectLoop(), -1);
             const NSUInteger code = allCodes.at(path).transportError;
-            for (int i = 0; i < 3; ++i)
+            for (int i = 0; i < 3; ++i) {
                 QCOMPARE(outcomeOf(operation.start).code, code);
+            }
             m_session.reset();
             QCOMPARE(outcomeOf(operation.start).code, code);
             QCOMPARE(m_service.requests().size(), 4);
@@ -265,8 +277,9 @@ private Q_SLOTS:
         Session session;
         logged.clear();
         const QtMessageHandler previous = qInstallMessageHandler(record);
-        for (const auto &[path, operation] : operations)
+        for (const auto &[path, operation] : operations) {
             (void)outcomeOf(operation.start);
+        }
         // Without a session the call is over before it returns: the line must have been first.
         m_session.reset();
         session.user.reset();
@@ -290,8 +303,9 @@ private Q_SLOTS:
             {u"ü"_s, "607474ca475a9724d7360aba71a56d5df77e61350e3f724cfa1f46e857e2d85f"},
             {u"a\0b"_s, "ca978112ca1bbdcafac231b39a23dc4da786eff8147c4e72b9807785afee48bb"},
         };
-        for (const auto &[text, digest] : rows)
+        for (const auto &[text, digest] : rows) {
             QCOMPARE(SHA256(text).toLatin1(), digest);
+        }
     }
 };
 

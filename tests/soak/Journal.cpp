@@ -33,8 +33,9 @@ void destroyed(QObject *)
 /// The same for users that are the same in all they consist of.
 QByteArray nameOf(const std::optional<WZTUser> &user)
 {
-    if (!user)
+    if (!user) {
         return "-";
+    }
     const auto archive = NSKeyedArchiver::archivedDataWithRootObject(*user, WZTUser::className);
     return QCryptographicHash::hash(archive.value(), QCryptographicHash::Sha1).toHex();
 }
@@ -45,8 +46,9 @@ void Journal::note(const QByteArray &line)
 {
     // In one piece, whatever thread it comes from.
     const QByteArray whole = line + '\n';
-    if (::write(STDOUT_FILENO, whole.constData(), static_cast<size_t>(whole.size())) < 0)
+    if (::write(STDOUT_FILENO, whole.constData(), static_cast<size_t>(whole.size())) < 0) {
         std::_Exit(EXIT_FAILURE);
+    }
 }
 
 void Journal::countObjects()
@@ -59,8 +61,9 @@ void Journal::noteHome()
 {
     malloc_trim(0);
     QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QFile::ReadOnly))
+    if (!file.open(QFile::ReadOnly)) {
         return;
+    }
     // Without what is mapped from files: fonts come into sight one by one.
     const QByteArrayList sizes = file.readAll().split(' ');
     const qint64 pages = sizes.at(1).toLongLong() - sizes.at(2).toLongLong();

@@ -27,8 +27,9 @@ bool Ledger::Growth::isBelow(int percent) const
 int Ledger::beyond(const Counts &counts, const Counts &others)
 {
     int excess = 0;
-    for (auto each = counts.begin(); each != counts.end(); ++each)
+    for (auto each = counts.begin(); each != counts.end(); ++each) {
         excess += std::max(0, each.value() - others.value(each.key()));
+    }
     return excess;
 }
 
@@ -87,13 +88,15 @@ bool Ledger::print(const QStringList &stored) const
         return count == 0 && all > 0; // where nothing was tried nothing was shown
     };
     const auto growthRow = [](const char *name, const Growth &growth, int percent) {
-        if (growth.values.size() > 1)
+        if (growth.values.size() > 1) {
             std::printf("%-20s%8lld  at the end %lld\n", name, growth.begin(), growth.end());
+        }
         return growth.isBelow(percent);
     };
     Counts inService;
-    for (const QString &title : stored)
+    for (const QString &title : stored) {
         ++inService[title];
+    }
     const bool isRight[] = {
         row("sessions torn", m_torn, m_changes, "changes"),
         row("reports lost", beyond(m_told, inService), total(m_told), "told as sent"),

@@ -97,8 +97,9 @@ private:
             &Person::report, &Person::goHome, &Person::goHome};
         note("step");
         (this->*m_dice.oneOf(std::span(steps)))();
-        if (m_alarm)
+        if (m_alarm) {
             change();
+        }
         if (m_dice.once(3)) {
             WindowDriver::settle(m_view);
         } else {
@@ -126,17 +127,20 @@ private:
 
     void signIn()
     {
-        if (auto *alert = qobject_cast<UIAlertController *>(m_shown.top()))
+        if (auto *alert = qobject_cast<UIAlertController *>(m_shown.top())) {
             alert->triggerCancel();
+        }
         auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
-        if (!login)
+        if (!login) {
             return;
+        }
         login->emailTextField()->setText(m_dice.oneOf(Life::addresses));
         login->passwordTextField()->setText(Life::password);
         login->login(nullptr);
         const auto isAnswered = [&] { return m_shown.top() != login; };
-        if (m_dice.below(4) > 0)
+        if (m_dice.below(4) > 0) {
             await(isAnswered);
+        }
     }
 
     // As replies do, at any moment; perhaps the last thing that this process does.
@@ -179,8 +183,9 @@ private:
         default:
             const QString title = newTitle();
             WZTAPI::submitIssueForPackage(package, title, {}, [=](NSUInteger code) {
-                if (code == 0)
+                if (code == 0) {
                     note("told " + title.toUtf8());
+                }
                 answered();
             });
         }
@@ -193,8 +198,9 @@ private:
         for (const auto &each : m_shown.controllers()) {
             const auto *modal = qobject_cast<UINavigationController *>(each.get());
             const auto page = modal ? modal->viewControllers().front() : nullptr;
-            if (const auto found = std::dynamic_pointer_cast<Form>(page))
+            if (const auto found = std::dynamic_pointer_cast<Form>(page)) {
                 return found;
+            }
         }
         return nullptr;
     }
@@ -204,37 +210,44 @@ private:
     {
         auto *alert = qobject_cast<UIAlertController *>(m_shown.top());
         const QString what = alert ? alert->title() : QString();
-        if (!what.startsWith("Submission"_L1) || !form() || alert->property("heard").toBool())
+        if (!what.startsWith("Submission"_L1) || !form() || alert->property("heard").toBool()) {
             return;
+        }
         alert->setProperty("heard", true);
         const QString title = titleOf(*form()).value().value_or(QString());
         --untold[title];
-        if (what == "Submission Success"_L1)
+        if (what == "Submission Success"_L1) {
             note("told " + title.toUtf8());
+        }
     }
 
     // Perhaps again before the first outcome is told.
     void report()
     {
-        if (!form())
+        if (!form()) {
             openForm();
+        }
         const auto filled = form();
-        if (!filled)
+        if (!filled) {
             return;
+        }
         XLFormRowDescriptor &row = titleOf(*filled);
-        if (untold.value(row.value().value_or(QString())) <= 0)
+        if (untold.value(row.value().value_or(QString())) <= 0) {
             row.setValue(newTitle());
+        }
         const QString title = row.value().value_or(QString());
         filled->submitPressed(nullptr);
         const auto isOver = [&] { return untold.value(title) <= 0 || form() != filled; };
-        if (m_dice.once(2))
+        if (m_dice.once(2)) {
             await(isOver);
+        }
     }
     void openForm()
     {
         goHome();
-        if (!m_session.currentUser())
+        if (!m_session.currentUser()) {
             return;
+        }
         const auto package = m_dice.oneOf(WZTPackage::allPackages());
         const auto issues = make<WZTPackageIssuesViewController>(package);
         m_tabs.presentViewController(make<UINavigationController>(issues), true);
@@ -247,8 +260,9 @@ private:
     void goHome()
     {
         signIn();
-        if (!m_session.currentUser())
+        if (!m_session.currentUser()) {
             return;
+        }
         m_tabs.dismissViewControllerAnimated(true);
         for (const int tab : {1, 0}) {
             m_tabs.setSelectedIndex(tab);
@@ -257,8 +271,9 @@ private:
         m_delegate.rootVC()->navigationController()->popToRootViewControllerAnimated(true);
         await([] { return pending == 0; });
         WindowDriver::settle(m_view);
-        if (m_shown.top() == &m_tabs && m_titles > 0)
+        if (m_shown.top() == &m_tabs && m_titles > 0) {
             Journal::noteHome();
+        }
     }
 
     QTimer m_next;

@@ -63,8 +63,9 @@ public:
         qputenv("ASAN_OPTIONS", qgetenv("ASAN_OPTIONS") + ":quarantine_size_mb=1");
         startService();
         m_port = m_service->port();
-        for (const QString &address : Life::addresses)
+        for (const QString &address : Life::addresses) {
             m_service->addAccount({.email = address, .name = address}, Life::password);
+        }
         m_service->addIssues(sandbox::demoIssues());
     }
 
@@ -73,9 +74,12 @@ public:
     {
         QElapsedTimer time;
         time.start();
-        const auto isTime = [&](int part) { return time.elapsed() >= qint64(part) * seconds; };
-        for (int lives = 0; seconds ? !isTime(500) : lives < livesOfAShortRun; ++lives)
+        const auto isTime = [&](int part) {
+            return time.elapsed() >= static_cast<qint64>(part) * seconds;
+        };
+        for (int lives = 0; seconds ? !isTime(500) : lives < livesOfAShortRun; ++lives) {
             killOne();
+        }
         live(Ledger::End::InOrder, 0, [&, steps = 0](const QByteArray &line) mutable {
             steps += line == "step" ? 1 : 0;
             return seconds ? isTime(1000) : steps == stepsOfAShortRun;
@@ -89,8 +93,9 @@ private:
     void startService()
     {
         for (int tries = 0; !m_service || !m_service->isRunning(); ++tries) {
-            if (tries == 100)
+            if (tries == 100) {
                 qFatal("no service: %s", qPrintable(m_service->errorString()));
+            }
             QThread::msleep(tries ? 100 : 0);
             m_service.reset();
             m_service = std::make_unique<Sandbox>(Sandbox::Options{
@@ -101,8 +106,9 @@ private:
     void makeTrouble()
     {
         if (!m_service) {
-            if (m_dice.once(5))
+            if (m_dice.once(5)) {
                 startService();
+            }
         } else if (m_dice.once(60)) {
             m_service.reset();
         } else if (m_dice.once(10)) {
@@ -134,16 +140,18 @@ private:
             while (life.canReadLine()) {
                 const QByteArray line = life.readLine().trimmed();
                 m_ledger.take(line);
-                if (line == "step")
+                if (line == "step") {
                     makeTrouble();
+                }
                 if (!isAsked && isEnough(line)) {
                     isAsked = true;
                     wanted == Ledger::End::Killed ? life.kill() : life.terminate();
                 }
             }
         };
-        while (life.waitForReadyRead(-1))
+        while (life.waitForReadyRead(-1)) {
             takeLines();
+        }
         life.waitForFinished(-1);
         takeLines();
         const bool inOrder = life.exitStatus() == QProcess::NormalExit && life.exitCode() == 0;
@@ -159,8 +167,9 @@ private:
         const QDir folder(m_session.home() + u"/.config/"_s
                           + QLatin1StringView(BuildConstants::applicationId));
         const QStringList damaged = folder.entryList({u"*.damaged-*"_s}, QDir::Dirs);
-        for (const QString &each : damaged)
+        for (const QString &each : damaged) {
             QDir(folder.filePath(each)).removeRecursively();
+        }
         return !damaged.isEmpty();
     }
 
@@ -170,8 +179,9 @@ private:
         QStringList all;
         for (const QString &package : sandbox::packages()) {
             for (const sandbox::Issue &issue : m_service->issues(package)) {
-                if (issue.title.contains(" of life "_L1))
+                if (issue.title.contains(" of life "_L1)) {
                     all.append(issue.title);
+                }
             }
         }
         return all;
@@ -191,8 +201,9 @@ private:
 // [SECONDS [SEED]], or what Life takes.
 int main(int argc, char *argv[])
 {
-    if (argc == 5)
+    if (argc == 5) {
         return Life::live(argc, argv);
+    }
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     Soak soak(arguments.value(2, u"1"_s).toUInt());

@@ -17,14 +17,16 @@ public:
         sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
         qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
         if (bind(m_descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-            || listen(m_descriptor, 5) != 0)
+            || listen(m_descriptor, 5) != 0) {
             qFatal("No socket can be made.");
+        }
     }
     ~MuteSocket()
     {
         close(m_descriptor);
-        for (const int client : m_clients)
+        for (const int client : m_clients) {
             close(client);
+        }
     }
     /// From now on nobody else is even accepted.
     void fill()

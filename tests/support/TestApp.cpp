@@ -9,8 +9,9 @@ using namespace Qt::StringLiterals;
 
 TestApp::TestApp()
 {
-    if (!m_service.isRunning())
+    if (!m_service.isRunning()) {
         qFatal("no service: %s", qPrintable(m_service.errorString()));
+    }
 
     m_settings.applicationId = u"example.wzt.Companion.Test"_s;
     m_settings.defaultsFolder = m_folder.path();
@@ -46,11 +47,13 @@ void TestApp::quit()
 QString TestApp::alert()
 {
     const auto *alert = top<UIAlertController>();
-    if (!alert)
+    if (!alert) {
         return {};
+    }
     QStringList shown{alert->title(), alert->message()};
-    for (const auto &field : alert->textFields())
+    for (const auto &field : alert->textFields()) {
         shown.append(field->placeholder());
+    }
     for (const auto &action : alert->actions()) {
         const bool cancels = action->style() == UIAlertAction::Style::Cancel;
         shown.append(cancels ? u'(' + action->title() + u')' : action->title());
@@ -65,8 +68,9 @@ NSUserDefaults TestApp::defaults() const
 
 void TestApp::keepData(const QByteArray &data)
 {
-    if (!defaults().setObject(data, u"currentUser"_s))
+    if (!defaults().setObject(data, u"currentUser"_s)) {
         qFatal("the user defaults cannot be written");
+    }
 }
 
 std::optional<QByteArray> TestApp::keptData() const

@@ -27,16 +27,18 @@ QByteArray TestProcess::startAndRead(const QString &program, const QStringList &
 {
     start(program, arguments);
     while (!canReadLine()) {
-        if (!waitForReadyRead(10000))
+        if (!waitForReadyRead(10000)) {
             qFatal("%s does not start", qPrintable(program));
+        }
     }
     return readLine().trimmed();
 }
 
 bool TestProcess::end()
 {
-    if (state() == QProcess::NotRunning)
+    if (state() == QProcess::NotRunning) {
         return true;
+    }
     terminate();
     return waitForFinished(10000) && exitStatus() == QProcess::NormalExit && exitCode() == 0;
 }

@@ -39,11 +39,13 @@ int TestRunner::run()
         const QString name = QString::fromLatin1(test->metaObject()->className());
         const bool only = arguments.size() > 1 && arguments[1] == name;
         const bool isNamed = arguments.size() > 1 && !arguments[1].startsWith(QLatin1Char('-'));
-        if (isNamed && !only)
+        if (isNamed && !only) {
             continue;
+        }
         QStringList rest = arguments;
-        if (only)
+        if (only) {
             rest.removeAt(1);
+        }
         failures += QTest::qExec(test.get(), rest);
         // Nothing that was to be deleted later counts as a leak.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

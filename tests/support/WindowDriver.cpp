@@ -22,23 +22,28 @@ using Wanted = std::function<bool(const QQuickItem *)>;
 QList<QQuickItem *> collect(QQuickItem *item, const Wanted &wanted)
 {
     QList<QQuickItem *> found;
-    if (wanted(item))
+    if (wanted(item)) {
         found.append(item);
-    for (QQuickItem *child : item->childItems())
+    }
+    for (QQuickItem *child : item->childItems()) {
         found += collect(child, wanted);
+    }
     return found;
 }
 
 QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &name)
 {
-    if (!parent || parent->state().invisible)
+    if (!parent || parent->state().invisible) {
         return nullptr;
-    if (parent->text(QAccessible::Name) == name)
+    }
+    if (parent->text(QAccessible::Name) == name) {
         return parent;
+    }
     // What is drawn last lies on top.
     for (int i = parent->childCount() - 1; i >= 0; --i) {
-        if (QAccessibleInterface *found = findBelow(parent->child(i), name))
+        if (QAccessibleInterface *found = findBelow(parent->child(i), name)) {
             return found;
+        }
     }
     return nullptr;
 }
@@ -48,15 +53,16 @@ void describe(QAccessibleInterface *parent, QStringList &found)
     for (int i = 0; i < parent->childCount(); ++i) {
         QAccessibleInterface *child = parent->child(i);
         const QString role = QVariant::fromValue(child->role()).toString();
-        if (!child->state().invisible)
+        if (!child->state().invisible) {
             found.append(role + u' ' + child->text(QAccessible::Name));
+        }
         describe(child, found);
     }
 }
 
 bool isSettled(const QQuickItem *entry)
 {
-    return entry->property("phase").toInt() == int(UITransitionStack::Phase::Settled);
+    return entry->property("phase").toInt() == static_cast<int>(UITransitionStack::Phase::Settled);
 }
 
 } // namespace
@@ -152,8 +158,9 @@ void WindowDriver::tap(QQuickWindow &window, const QPoint &point)
 
 void WindowDriver::type(QQuickWindow &window, const QString &text)
 {
-    for (const QChar character : text)
+    for (const QChar character : text) {
         QTest::keyClick(&window, character.toLatin1());
+    }
 }
 
 WindowDriver::Finger::Finger(QQuickWindow &window, const QPoint &at) : m_window(window), m_at(at)

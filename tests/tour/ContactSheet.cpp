@@ -22,8 +22,9 @@ bool makeContactSheet(const QDir &folder)
     const int rows = (static_cast<int>(names.size()) + columns - 1) / columns;
     QImage sheet(columns * (small.width() + gap) + gap,
                  rows * (small.height() + caption + gap) + gap, QImage::Format_RGB32);
-    if (sheet.isNull())
+    if (sheet.isNull()) {
         return names.isEmpty();
+    }
     sheet.fill(QColor(128, 128, 132));
     QPainter painter(&sheet);
     QFont font = painter.font();

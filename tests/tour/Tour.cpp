@@ -77,19 +77,21 @@ void Tour::picture()
                                  .joined = joined},
                                 u"secret"_s);
     m_app->service().addIssues(sandbox::demoIssues());
-    if (picture.answer)
+    if (picture.answer) {
         m_app->service().stage(picture.path, *picture.answer);
+    }
     launch();
     for (const Step &step : picture.steps) {
         take(step);
-        if (QTest::currentTestFailed())
+        if (QTest::currentTestFailed()) {
             break;
+        }
     }
     m_window->settle();
     const QString file = m_folder.filePath(QLatin1String(QTest::currentDataTag()) + u".png"_s);
     QVERIFY(m_folder.mkpath(QLatin1String(look->name)));
     QImage image = m_window->view().grabWindow();
-    image.setDevicePixelRatio(double(image.width()) / m_size.width());
+    image.setDevicePixelRatio(static_cast<double>(image.width()) / m_size.width());
     QPainter(&image).fillRect(0, m_size.height() - m_keyboard, m_size.width(), m_keyboard,
                               QColor(128, 128, 132));
     QVERIFY2(image.save(file), qPrintable(file));
@@ -117,8 +119,9 @@ void Tour::contactSheets()
 {
     for (const Look &look : looks) {
         const QString name = QString::fromLatin1(look.name);
-        if (m_folder.exists(name))
+        if (m_folder.exists(name)) {
             QVERIFY(makeContactSheet(m_folder.filePath(name)));
+        }
     }
 }
 
@@ -173,8 +176,9 @@ void Tour::tap(const QString &name)
     await(name);
     QQuickView &view = m_window->view();
     QAccessibleInterface *found = WindowDriver::accessible(view, name);
-    if (!found)
+    if (!found) {
         return;
+    }
     const QPoint centre = view.mapFromGlobal(found->rect().center());
     if (QRect(QPoint(), view.size()).contains(centre)) {
         WindowDriver::tap(view, centre);

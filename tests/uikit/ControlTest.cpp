@@ -54,8 +54,9 @@ private Q_SLOTS:
         UIControl control;
         Meddler one;
         control.addTarget(&one, &Meddler::second, up);
-        for (int again = 0; again < 3; ++again)
+        for (int again = 0; again < 3; ++again) {
             control.addTarget(&one, &Meddler::first, up | down);
+        }
         control.sendActionsForControlEvent(up);
         control.removeTarget(&one, up);
         control.sendActionsForControlEvent(up);
@@ -74,8 +75,9 @@ private Q_SLOTS:
             [&] { later.reset(); },
             [&] { control.reset(); },
             [&] {
-                for (unsigned event = 0; event < 20; ++event)
+                for (unsigned event = 0; event < 20; ++event) {
                     control->addTarget(later.get(), &Meddler::second, UIControlEvent(1U << event));
+                }
             },
         };
         for (const auto &deed : deeds) {

@@ -57,12 +57,14 @@ public:
     }
     std::shared_ptr<UITableViewCell> cellForRowAtIndexPath(const NSIndexPath &at) override
     {
-        if (makeRow)
+        if (makeRow) {
             return makeRow();
+        }
         auto cell = tableView()->dequeueReusableCellWithIdentifier(QStringLiteral("sample"));
         cell->textLabel()->setText(text(at));
-        if (at == NSIndexPath{0, 1})
+        if (at == NSIndexPath{0, 1}) {
             cell->imageView()->setImage(UIImage::imageNamed(QStringLiteral("testMark")));
+        }
         return cell;
     }
     [[nodiscard]] double heightForRowAtIndexPath(const NSIndexPath &at) const override

@@ -33,8 +33,9 @@ public:
     void viewDidAppear(bool) override
     {
         m_log.append(m_name + u'd');
-        if (onDidAppear)
+        if (onDidAppear) {
             onDidAppear();
+        }
     }
     [[nodiscard]] UITransitionStack::Cover cover() const override
     {
@@ -68,8 +69,9 @@ public:
     std::shared_ptr<Page> page(const QString &name)
     {
         auto &page = pages[name];
-        if (!page)
+        if (!page) {
             page = make<Page>(name, log);
+        }
         return page;
     }
 
@@ -93,8 +95,9 @@ public:
     [[nodiscard]] QString present()
     {
         QString names;
-        for (const auto &controller : window.presentation()->controllers())
+        for (const auto &controller : window.presentation()->controllers()) {
             names += controller->navigationItem()->title();
+        }
         return names;
     }
 };
@@ -149,10 +152,12 @@ private Q_SLOTS:
     {
         const auto &[name, drawn, script, events, present] = currentCase<Script>();
         Stage stage;
-        if (drawn)
+        if (drawn) {
             stage.window.presentation()->attachView();
-        for (const QString &step : QString::fromLatin1(script).split(u' '))
+        }
+        for (const QString &step : QString::fromLatin1(script).split(u' ')) {
             stage.run(step);
+        }
         QCOMPARE(stage.log.join(u' '), QLatin1String(events));
         QCOMPARE(stage.present(), QLatin1String(present));
     }

@@ -101,12 +101,14 @@ private Q_SLOTS:
         };
         const auto text = [](const Components &components) {
             QStringList numbers;
-            for (const double component : components)
+            for (const double component : components) {
                 numbers.append(QString::number(component, 'f', 6));
+            }
             return numbers.join(u' ');
         };
-        for (const auto &[color, expected] : rows)
+        for (const auto &[color, expected] : rows) {
             QCOMPARE(text(pressedColor(color).components()), text(expected));
+        }
         QCOMPARE(pressedColor(blue).drawn(false).name(), u"#004eb4"_s); // clamped
     }
 
@@ -146,13 +148,14 @@ private Q_SLOTS:
         const CALayer layer = made.layer();
         QVERIFY(layer.cornerRadius == 8 && layer.borderWidth == 2 && layer.masksToBounds);
         QVERIFY(layer.borderColor == UIColor::colorWithWhite(0.4, 0.2));
-        QCOMPARE(layer.sublayers.size(), std::size_t(1));
+        QCOMPARE(layer.sublayers.size(), std::size_t{1});
         const CAGradientLayer &shine = layer.sublayers[0];
         QCOMPARE(shine.frame, QRectF(0, 0, 200, 50));
         QCOMPARE(shine.locations, Components({0, 0.5, 0.5, 0.8, 1}));
         const Components whites[] = {{1, 0.4}, {1, 0.2}, {0.75, 0.2}, {0.4, 0.2}, {1, 0.4}};
-        for (std::size_t i = 0; i < 5; ++i)
+        for (std::size_t i = 0; i < 5; ++i) {
             QCOMPARE(shine.colors[i].components(), whites[i]);
+        }
         WZTButtonTableViewCell cell(UITableViewCellStyle::Default, u"button"_s);
         QVERIFY(cell.button()->layer().sublayers[0].frame.isEmpty());
         QVERIFY(cell.button()->buttonColor() == blue);

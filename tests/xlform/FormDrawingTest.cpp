@@ -39,8 +39,9 @@ struct Stage {
     void type(const QString &text) { WindowDriver::type(view(), text); }
     void keys(std::initializer_list<Qt::Key> keys)
     {
-        for (const Qt::Key key : keys)
+        for (const Qt::Key key : keys) {
             fixture.key(key);
+        }
     }
     [[nodiscard]] QQuickItem *list() { return fixture.items(u"QQuickListView"_s).last(); }
     [[nodiscard]] double scrolled() { return list()->property("contentY").toDouble(); }
@@ -114,8 +115,9 @@ private Q_SLOTS:
             QVERIFY2(free.contains(stage.mark()), qPrintable(QString::number(i)));
         }
         QVERIFY(stage.rect(stage.notes).height() > 3 * before);
-        for (int i = 0; i < 30; ++i)
+        for (int i = 0; i < 30; ++i) {
             stage.fixture.key(Qt::Key_Up);
+        }
         QVERIFY(free.contains(stage.mark()));
 
         stage.notes->edit({}); // all is gone, and so is the keyboard

@@ -48,8 +48,9 @@ private:
         form->setAssignFirstResponderOnShow(true);
         for (const Row &row : rows) {
             form->addFormSection(XLFormSectionDescriptor::formSection());
-            if (row)
+            if (row) {
                 form->formSections().back()->addFormRow(row);
+            }
         }
         form->formSections().front()->setFooterTitle(QStringLiteral("Below the name"));
         return form;

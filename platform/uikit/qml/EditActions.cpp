@@ -40,8 +40,9 @@ QStringList EditActions::offered() const
 {
     QStringList titles;
     for (const Action &action : actions) {
-        if (m_editor && action.isOffered(*m_editor, m_secret))
+        if (m_editor && action.isOffered(*m_editor, m_secret)) {
             titles.append(tr(action.title));
+        }
     }
     return titles;
 }
@@ -49,8 +50,9 @@ QStringList EditActions::offered() const
 void EditActions::perform(const QString &title)
 {
     for (const Action &action : actions) {
-        if (m_editor && tr(action.title) == title)
+        if (m_editor && tr(action.title) == title) {
             QMetaObject::invokeMethod(m_editor, action.method);
+        }
     }
 }
 
@@ -58,11 +60,13 @@ void EditActions::point(int position, bool selects)
 {
     m_editor->forceActiveFocus();
     if (selected(*m_editor) > 0 && position >= number(*m_editor, "selectionStart")
-        && position <= number(*m_editor, "selectionEnd"))
+        && position <= number(*m_editor, "selectionEnd")) {
         return;
+    }
     m_editor->setProperty("cursorPosition", position);
-    if (!selects)
+    if (!selects) {
         return;
+    }
     m_editor
         ->ungrabTouchPoints(); // or nothing would be selected any more when the finger is lifted
     QMetaObject::invokeMethod(m_editor, m_secret ? "selectAll" : "selectWord");

@@ -13,8 +13,9 @@ bool KeyFocus::isVisible() const
 
 void KeyFocus::begin()
 {
-    if (m_byKey || !m_item.window())
+    if (m_byKey || !m_item.window()) {
         return;
+    }
     m_byKey = true;
     m_item.window()->installEventFilter(this);
     Q_EMIT changed();
@@ -24,8 +25,9 @@ void KeyFocus::follow(Qt::FocusReason reason)
 {
     // For other reasons, such as an alert's end, it stays as it was.
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
-        || reason == Qt::ShortcutFocusReason)
+        || reason == Qt::ShortcutFocusReason) {
         begin();
+    }
     Q_EMIT changed();
 }
 

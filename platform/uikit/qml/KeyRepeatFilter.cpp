@@ -11,8 +11,9 @@ namespace {
 
 bool takesLines(QObject *focused)
 {
-    if (!focused)
+    if (!focused) {
         return false;
+    }
     QInputMethodQueryEvent query(Qt::ImHints);
     QCoreApplication::sendEvent(focused, &query);
     return Qt::InputMethodHints(query.value(Qt::ImHints).toInt()).testFlag(Qt::ImhMultiLine);
@@ -32,11 +33,13 @@ KeyRepeatFilter::KeyRepeatFilter(QWindow &window)
 
 bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
         return false;
+    }
     const auto *press = static_cast<QKeyEvent *>(event);
-    if (isModifier(press->key()))
+    if (isModifier(press->key())) {
         return false; // the other key that is held goes on
+    }
     if (!press->isAutoRepeat()) {
         if (event->type() == QEvent::KeyPress) {
             m_key = press->key();
@@ -46,8 +49,9 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
         }
         return false;
     }
-    if (press->key() != m_key)
+    if (press->key() != m_key) {
         return true;
+    }
     switch (press->key()) {
     case Qt::Key_Escape:
     case Qt::Key_Back:

@@ -6,8 +6,9 @@
 
 void KeyTaker::setCurrent(QQuickItem *current)
 {
-    if (current == m_current)
+    if (current == m_current) {
         return;
+    }
     m_current = current;
     Q_EMIT currentChanged();
     m_spoken.set(current);
@@ -17,15 +18,16 @@ void KeyTaker::itemChange(ItemChange change, const ItemChangeData &data)
 {
     if (change == ItemSceneChange && watched() && !data.window) {
         m_spoken.set(nullptr);
-        if (QQuickItem *focused = watched()->activeFocusItem())
+        if (QQuickItem *focused = watched()->activeFocusItem()) {
             SpokenFocus::tell(*focused);
+        }
     }
     WindowWatcher::itemChange(change, data);
 }
 
 bool KeyTaker::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (int(event->type())) {
+    switch (static_cast<int>(event->type())) {
     case QEvent::ShortcutOverride:
         event->accept(); // no shortcut either
         return true;

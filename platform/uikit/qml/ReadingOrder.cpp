@@ -24,12 +24,15 @@ void ReadingOrder::setIndex(int index)
 void ReadingOrder::updatePolish()
 {
     const QQuickItem *delegate = parentItem();
-    if (!delegate || !delegate->parentItem())
+    if (!delegate || !delegate->parentItem()) {
         return;
+    }
     QList<QQuickItem *> all = delegate->parentItem()->childItems();
-    if (std::ranges::is_sorted(all, {}, indexOf))
+    if (std::ranges::is_sorted(all, {}, indexOf)) {
         return;
+    }
     std::ranges::stable_sort(all, {}, indexOf);
-    for (qsizetype i = 1; i < all.size(); ++i)
+    for (qsizetype i = 1; i < all.size(); ++i) {
         all[i]->stackAfter(all[i - 1]);
+    }
 }

@@ -12,14 +12,16 @@ void SecretTextFilter::setEditor(QQuickItem *editor)
 
 bool SecretTextFilter::eventFilter(QObject *editor, QEvent *event)
 {
-    if (!m_enabled || event->type() != QEvent::InputMethodQuery)
+    if (!m_enabled || event->type() != QEvent::InputMethodQuery) {
         return QObject::eventFilter(editor, event);
+    }
     editor->event(event);
     auto &query = *static_cast<QInputMethodQueryEvent *>(event);
     for (const Qt::InputMethodQuery text : {Qt::ImSurroundingText, Qt::ImCurrentSelection,
                                             Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor}) {
-        if (query.queries().testFlag(text))
+        if (query.queries().testFlag(text)) {
             query.setValue(text, QString(query.value(text).toString().size(), u'\u2022'));
+        }
     }
     return true;
 }

@@ -9,11 +9,13 @@ namespace {
 // Some screen readers do not believe what they are told of an item that does not say so itself.
 void claim(const QQuickItem *item, bool isFocused)
 {
-    if (!item)
+    if (!item) {
         return;
+    }
     for (QObject *child : item->children()) {
-        if (child->inherits("QQuickAccessibleAttached"))
+        if (child->inherits("QQuickAccessibleAttached")) {
             child->setProperty("focused", isFocused);
+        }
     }
 }
 
@@ -21,12 +23,14 @@ void claim(const QQuickItem *item, bool isFocused)
 
 void SpokenFocus::set(QQuickItem *item)
 {
-    if (m_item != item)
+    if (m_item != item) {
         claim(m_item, false);
+    }
     m_item = item;
     claim(item, true);
-    if (item)
+    if (item) {
         tell(*item);
+    }
 }
 
 void SpokenFocus::tell(QQuickItem &item)

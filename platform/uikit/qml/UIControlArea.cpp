@@ -19,8 +19,9 @@ constexpr std::chrono::milliseconds pressDelay(100);
 bool scrolls(const QQuickItem &item)
 {
     for (const QQuickItem *parent = item.parentItem(); parent; parent = parent->parentItem()) {
-        if (parent->inherits("QQuickFlickable") && parent->property("interactive").toBool())
+        if (parent->inherits("QQuickFlickable") && parent->property("interactive").toBool()) {
             return true;
+        }
     }
     return false;
 }
@@ -44,8 +45,9 @@ UIControlArea::~UIControlArea()
 
 void UIControlArea::setReceiver(UIControl *receiver)
 {
-    if (m_receiver == receiver)
+    if (m_receiver == receiver) {
         return;
+    }
     cancel();
     m_receiver = receiver;
     Q_EMIT receiverChanged();
@@ -60,10 +62,12 @@ QRectF UIControlArea::reach() const
 
 bool UIControlArea::contains(const QPointF &point) const
 {
-    if (boundingRect().contains(point))
+    if (boundingRect().contains(point)) {
         return true;
-    if (!window() || !reach().contains(point))
+    }
+    if (!window() || !reach().contains(point)) {
         return false;
+    }
     const QQuickItem *other = HitTest::itemAt(window()->contentItem(), mapToScene(point));
     return !other || other->isAncestorOf(this);
 }
@@ -85,10 +89,12 @@ void UIControlArea::press()
         keepGrab(true); // from what scrolls: the touch is the control's from now on
         QGuiApplication::inputMethod()->commit(); // as in activate()
     }
-    if (m_receiver)
+    if (m_receiver) {
         m_receiver->beginTracking();
-    if (m_receiver && !reach().contains(m_at)) // it has left while the press waited
+    }
+    if (m_receiver && !reach().contains(m_at)) { // it has left while the press waited
         m_receiver->continueTracking(false);
+    }
 }
 
 void UIControlArea::keepGrab(bool keep)
@@ -100,19 +106,22 @@ void UIControlArea::keepGrab(bool keep)
 void UIControlArea::move(const QPointF &point)
 {
     m_at = point;
-    if (m_receiver && !m_press.isActive())
+    if (m_receiver && !m_press.isActive()) {
         m_receiver->continueTracking(reach().contains(point));
+    }
 }
 
 void UIControlArea::end(const QPointF &point)
 {
     m_touch = -1;
     m_at = point;
-    if (m_press.isActive())
+    if (m_press.isActive()) {
         press();
+    }
     keepGrab(false);
-    if (m_receiver)
+    if (m_receiver) {
         m_receiver->endTracking(reach().contains(point));
+    }
 }
 
 void UIControlArea::cancel()
@@ -120,8 +129,9 @@ void UIControlArea::cancel()
     m_touch = -1;
     m_press.stop();
     keepGrab(false);
-    if (m_receiver)
+    if (m_receiver) {
         m_receiver->cancelTracking();
+    }
 }
 
 void UIControlArea::mousePressEvent(QMouseEvent *event)
@@ -173,8 +183,9 @@ void UIControlArea::touchUngrabEvent()
 void UIControlArea::activate()
 {
     QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
-    if (m_receiver)
+    if (m_receiver) {
         m_receiver->activate();
+    }
 }
 
 void UIControlArea::keyPressEvent(QKeyEvent *event)
@@ -182,10 +193,12 @@ void UIControlArea::keyPressEvent(QKeyEvent *event)
     const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
         || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Select;
     event->setAccepted(presses);
-    if (presses)
+    if (presses) {
         m_keyFocus.begin();
-    if (presses && !event->isAutoRepeat())
+    }
+    if (presses && !event->isAutoRepeat()) {
         activate();
+    }
 }
 
 void UIControlArea::focusInEvent(QFocusEvent *event)

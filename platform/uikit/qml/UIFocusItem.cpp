@@ -9,8 +9,9 @@ UIFocusItem::UIFocusItem(QQuickItem *parent) : QQuickItem(parent)
 
 void UIFocusItem::setCurrent(QQuickItem *current)
 {
-    if (current == m_current)
+    if (current == m_current) {
         return;
+    }
     m_current = current;
     Q_EMIT currentChanged();
     tellCurrent();
@@ -25,8 +26,9 @@ bool UIFocusItem::event(QEvent *event)
 {
     const bool isKey = event->type() == QEvent::KeyPress; // the key may change what is current
     const bool isHandled = QQuickItem::event(event);
-    if (isKey)
+    if (isKey) {
         m_keyFocus.begin();
+    }
     return isHandled;
 }
 

@@ -18,8 +18,9 @@ UIImagePicture::~UIImagePicture() = default;
 
 void UIImagePicture::setName(const QString &name)
 {
-    if (m_name == name)
+    if (m_name == name) {
         return;
+    }
     m_name = name;
     m_svg.reset();
     if (!UIImage::imageNamed(name).name().isEmpty()) {
@@ -32,8 +33,9 @@ void UIImagePicture::setName(const QString &name)
 
 void UIImagePicture::setTint(const QColor &tint)
 {
-    if (m_tint == tint)
+    if (m_tint == tint) {
         return;
+    }
     m_tint = tint;
     Q_EMIT changed();
     update();
@@ -42,8 +44,9 @@ void UIImagePicture::setTint(const QColor &tint)
 QImage UIImagePicture::drawn(double pixelRatio) const
 {
     QImage image((size() * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull() || !m_svg || !m_svg->isValid())
+    if (image.isNull() || !m_svg || !m_svg->isValid()) {
         return {};
+    }
     image.fill(Qt::transparent);
     QPainter painter(&image);
     m_svg->render(&painter);
@@ -75,13 +78,15 @@ QSGNode *UIImagePicture::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 void UIImagePicture::geometryChange(const QRectF &now, const QRectF &before)
 {
     QQuickItem::geometryChange(now, before);
-    if (now.size() != before.size())
+    if (now.size() != before.size()) {
         update();
+    }
 }
 
 void UIImagePicture::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged)
+    if (change == ItemDevicePixelRatioHasChanged) {
         update();
+    }
 }

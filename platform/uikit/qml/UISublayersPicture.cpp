@@ -27,13 +27,16 @@ QLinearGradient drawn(const CAGradientLayer &layer)
 
 void UISublayersPicture::setView(UIView *view)
 {
-    if (m_view == view)
+    if (m_view == view) {
         return;
-    if (m_view)
+    }
+    if (m_view) {
         m_view->disconnect(this);
+    }
     m_view = view;
-    if (m_view)
+    if (m_view) {
         connect(m_view, &UIView::changed, this, [this] { update(); });
+    }
     Q_EMIT viewChanged();
     update();
 }

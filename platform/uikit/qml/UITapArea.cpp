@@ -13,8 +13,9 @@ namespace {
 // Whether `item` edits text, or lies in what does.
 bool edits(const QQuickItem *item)
 {
-    while (item && !item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod))
+    while (item && !item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod)) {
         item = item->parentItem();
+    }
     return item;
 }
 
@@ -30,8 +31,9 @@ bool taps(const QMouseEvent &event)
 
 void UITapArea::setReceiver(UIView *receiver)
 {
-    if (m_receiver == receiver)
+    if (m_receiver == receiver) {
         return;
+    }
     m_receiver = receiver;
     Q_EMIT receiverChanged();
 }
@@ -42,36 +44,42 @@ bool UITapArea::eventFilter(QObject *watched, QEvent *event)
         || event->type() == QEvent::TouchEnd;
     const bool mouse = event->type() == QEvent::MouseButtonPress
         || event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonRelease;
-    if (event->type() == QEvent::TouchCancel)
+    if (event->type() == QEvent::TouchCancel) {
         m_press.reset();
-    if (touch || (mouse && taps(*static_cast<QMouseEvent *>(event))))
+    }
+    if (touch || (mouse && taps(*static_cast<QMouseEvent *>(event)))) {
         watch(*static_cast<QPointerEvent *>(event));
+    }
     return WindowWatcher::eventFilter(watched, event);
 }
 
 void UITapArea::watch(const QPointerEvent &event)
 {
     const QPointF at = event.points().first().position();
-    if (event.isBeginEvent())
+    if (event.isBeginEvent()) {
         m_press = takes(at) ? std::optional(at) : std::nullopt;
-    if (!m_press)
+    }
+    if (!m_press) {
         return;
+    }
     const bool still =
         (at - *m_press).manhattanLength() < QGuiApplication::styleHints()->startDragDistance();
     if (event.pointCount() > 1 || !still) {
         m_press.reset();
     } else if (event.isEndEvent()) {
         m_press.reset();
-        if (m_receiver && isVisible() && isEnabled())
+        if (m_receiver && isVisible() && isEnabled()) {
             m_receiver->tapped();
+        }
     }
 }
 
 bool UITapArea::takes(const QPointF &scene) const
 {
     if (!m_receiver || !m_receiver->recognizesTaps() || !isVisible() || !isEnabled()
-        || !parentItem()->contains(parentItem()->mapFromScene(scene)))
+        || !parentItem()->contains(parentItem()->mapFromScene(scene))) {
         return false;
+    }
     const QQuickItem *hit = HitTest::itemAt(window()->contentItem(), scene);
     const bool own = !hit || hit->isAncestorOf(this) || parentItem()->isAncestorOf(hit);
     return own && !edits(hit);

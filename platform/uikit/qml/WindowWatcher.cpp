@@ -5,11 +5,13 @@
 void WindowWatcher::itemChange(ItemChange change, const ItemChangeData &data)
 {
     if (change == ItemSceneChange) {
-        if (m_watched)
+        if (m_watched) {
             m_watched->removeEventFilter(this);
+        }
         m_watched = data.window;
-        if (m_watched)
+        if (m_watched) {
             m_watched->installEventFilter(this);
+        }
     }
     QQuickItem::itemChange(change, data);
 }

@@ -26,8 +26,9 @@ struct Stage : WindowFixture {
                 [&](UITextField &added) { added.setPlaceholder(field); });
         }
         add(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-        for (const QString &other : others)
+        for (const QString &other : others) {
             add(other, UIAlertAction::Style::Default);
+        }
         show(root, {}, size);
         root->presentViewController(alert, true);
     }
@@ -83,8 +84,9 @@ private Q_SLOTS:
         QCOMPARE(actions.size() == 2 && actions[0]->y() == actions[1]->y(), sideBySide);
         // The cancel button is on the left, or else the last.
         QCOMPARE(actions[0]->x(), 0);
-        for (const QQuickItem *other : actions.mid(1))
+        for (const QQuickItem *other : actions.mid(1)) {
             QVERIFY(other->y() < actions[0]->y() || other->x() > actions[0]->x());
+        }
         // Whatever gets the keyboard is scrolled into view.
         for (int i = 0; i < both.size() + actions.size(); ++i) {
             const QQuickItem *focused = stage.host->view().activeFocusItem();
@@ -109,8 +111,9 @@ private Q_SLOTS:
     {
         const auto &[name, fields, others, keys, triggered] = currentCase<Keys>();
         Stage stage(fields, others);
-        for (const Qt::Key key : keys)
+        for (const Qt::Key key : keys) {
             stage.key(key);
+        }
         stage.settle();
         QCOMPARE(stage.triggered, triggered);
         QCOMPARE(stage.focused(), triggered.isEmpty() ? u"Email"_s : u"Root"_s);

@@ -37,8 +37,9 @@ struct Shell : WindowFixture {
 QQuickItem *textOf(const QQuickItem *item)
 {
     for (QQuickItem *child : item->childItems()) {
-        if (child->property("contentWidth").isValid())
+        if (child->property("contentWidth").isValid()) {
             return child;
+        }
     }
     return nullptr;
 }
@@ -95,8 +96,9 @@ private Q_SLOTS:
         shell.navigation->pushViewController(form, false);
         QVERIFY(!shell.item(u"UIBackButtonView"_s)->isVisible());
         QList<QQuickItem *> buttons = shell.items(u"UIBarButtonItemView"_s);
-        if (mirrored)
+        if (mirrored) {
             buttons.swapItemsAt(0, 1);
+        }
         const QRectF left = WindowFixture::rect(textOf(buttons.at(0)));
         const QRectF right = WindowFixture::rect(textOf(buttons.at(1)));
         const QRectF title = WindowFixture::rect(textOf(shell.item(u"UINavigationBarView"_s)));
@@ -131,8 +133,9 @@ private Q_SLOTS:
             shell.tap(tabs[1]);
             QCOMPARE(shell.accessible().join(u", "_s),
                      u"EditableText Account, PageTabList , PageTab Start, PageTab Account"_s);
-            for (const Qt::Key key : {Qt::Key_Tab, back, back}) // of which there is one
+            for (const Qt::Key key : {Qt::Key_Tab, back, back}) { // of which there is one
                 shell.key(key);
+            }
             QCOMPARE(shell.focused(), u"Start"_s);
             shell.key(Qt::Key_Space);
             QCOMPARE(shell.tabs->selectedIndex(), 0);

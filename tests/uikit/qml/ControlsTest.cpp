@@ -113,8 +113,8 @@ private Q_SLOTS:
         const double ratio = page.window.devicePixelRatio();
         // The left half of the picture is filled; its edge is sharp in device pixels.
         const auto pixels = [&](int x) -> QString {
-            const int edge = int(x * ratio);
-            const int y = int(270 * ratio);
+            const int edge = static_cast<int>(x * ratio);
+            const int y = static_cast<int>(270 * ratio);
             return image.pixelColor(edge - 1, y).name() + image.pixelColor(edge, y).name();
         };
         QCOMPARE(pixels(60), u"#ff0000#f2f2f7"_s);

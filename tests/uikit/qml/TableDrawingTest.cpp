@@ -118,8 +118,9 @@ private Q_SLOTS:
             QVERIFY(label->property("contentWidth").toDouble() <= label->width());
         }
         m_fixture->application.traits().setOverride(UIAppearance{.textScale = 1.5});
-        for (const QQuickItem *label : {upper, lower})
+        for (const QQuickItem *label : {upper, lower}) {
             QVERIFY2(!label->property("truncated").toBool(), "enlarged text is cut");
+        }
     }
 
     void aRowIsChosenOnce()
@@ -201,8 +202,9 @@ private Q_SLOTS:
         const auto marked = [this] {
             QList<int> entries;
             for (const int entry : {1, 2, 3}) {
-                if (WindowDriver::named(item(entry), u"selection"_s)->opacity() > 0)
+                if (WindowDriver::named(item(entry), u"selection"_s)->opacity() > 0) {
                     entries.append(entry);
+                }
             }
             return entries;
         };
@@ -216,8 +218,9 @@ private Q_SLOTS:
         QTest::mouseRelease(&window(), Qt::LeftButton, {}, second() + QPoint(0, 100));
         QTRY_VERIFY(marked().isEmpty());
         QVERIFY(m_table->chosen.empty());
-        for (const int entry : {1, 2})
+        for (const int entry : {1, 2}) {
             m_table->tableView()->chooseEntry(entry);
+        }
         m_table->tableView()->deselectRowAtIndexPath({0, 0}, true); // which is not any more
         for (const double offset : {3000, 0}) { // out of sight and back
             list()->setProperty("contentY", offset);
@@ -232,12 +235,14 @@ private Q_SLOTS:
     {
         for (const bool anew : {true, false}) {
             const auto table = make<SampleTable>(std::vector{100000});
-            if (anew) // which nobody asks for again
+            if (anew) { // which nobody asks for again
                 table->makeRow = [] { return make<SampleCell>(UITableViewCellStyle{}, u"anew"_s); };
+            }
             show(table);
             QVERIFY2(SampleCell::living < 40, "rows are made before they are seen");
-            for (int page = 0; page < 20; ++page)
+            for (int page = 0; page < 20; ++page) {
                 keys({Qt::Key_PageDown});
+            }
             QTRY_VERIFY(SampleCell::living < (anew ? 60 : 80));
         }
         keys({Qt::Key_End});
@@ -275,8 +280,9 @@ private Q_SLOTS:
                 return at.row < 12 || at.row > 1988 ? 44 : 44 + at.row * 37 % 200;
             };
             show(table);
-            if (atEnd)
+            if (atEnd) {
                 keys({Qt::Key_End});
+            }
             window().grabWindow();
             const QQuickItem *row = item(atEnd ? 1999 : 1);
             const double rest = WindowDriver::rect(row).y();
@@ -304,8 +310,9 @@ private Q_SLOTS:
             list()->setProperty("contentY", 1000);
             reload({after});
             QTRY_COMPARE(offset(), after < 100 ? item(0)->y() : 1000);
-            for (int i = 1; i <= after && item(i); ++i)
+            for (int i = 1; i <= after && item(i); ++i) {
                 QVERIFY(cell(i)->preparations > 0);
+            }
             QVERIFY(SampleCell::living < 80);
         }
     }
@@ -391,9 +398,10 @@ private:
         for (const int entry : madeEntries()) {
             const auto at = m_table->tableView()->entries()->indexPathOf(entry);
             QQuickItem *row = item(entry); // none for the current row when it is out of sight
-            if (at && row)
+            if (at && row) {
                 QCOMPARE(WindowDriver::named(row, u"textLabel"_s)->property("text").toString(),
                          m_table->text(*at));
+            }
         }
     }
 
@@ -407,8 +415,9 @@ private:
         const auto *content = list()->property("contentItem").value<QQuickItem *>();
         for (const QQuickItem *drawn : content->childItems()) {
             const QVariant index = drawn->property("index");
-            if (index.isValid() && drawn->isVisible())
+            if (index.isValid() && drawn->isVisible()) {
                 entries.append(index.toInt());
+            }
         }
         return entries;
     }
@@ -435,8 +444,9 @@ private:
     }
     void keys(const QList<Qt::Key> &keys) const
     {
-        for (const Qt::Key key : keys)
+        for (const Qt::Key key : keys) {
             m_fixture->key(key);
+        }
     }
 
     std::unique_ptr<WindowFixture> m_fixture;

@@ -154,20 +154,23 @@ private Q_SLOTS:
         Stage stage;
         stage.secret.becomeFirstResponder();
         stage.type("hunter2");
-        for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_X})
+        for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_X}) {
             stage.key(key, Qt::ControlModifier);
+        }
         QCOMPARE(QGuiApplication::clipboard()->text(), u"clip"_s);
         QCOMPARE(stage.secret.text(), std::optional(u"hunter2"_s));
         QAccessibleInterface *field = WindowDriver::accessible(stage.window, u"Password"_s);
         QVERIFY(field->state().passwordEdit);
         QString said = field->textInterface() ? field->textInterface()->text(0, 100) : QString();
-        for (const auto kind : {QAccessible::Value, QAccessible::Description, QAccessible::Help})
+        for (const auto kind : {QAccessible::Value, QAccessible::Description, QAccessible::Help}) {
             said += field->text(kind);
+        }
         QInputMethodQueryEvent asked(Qt::ImQueryAll); // with everything selected
         QCoreApplication::sendEvent(stage.window.activeFocusItem(), &asked);
         for (const auto text : {Qt::ImSurroundingText, Qt::ImCurrentSelection,
-                                Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor})
+                                Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor}) {
             said += asked.value(text).toString();
+        }
         QCOMPARE(asked.value(Qt::ImSurroundingText).toString().size(), 7);
         const Qt::InputMethodHints hints(asked.value(Qt::ImHints).toInt());
         QVERIFY(hints.testFlags(Qt::ImhHiddenText | Qt::ImhSensitiveData));
@@ -197,15 +200,18 @@ private Q_SLOTS:
         const Use &use = currentCase<Use>();
         Stage stage;
         EventLog button(stage.button);
-        if (use.clipboard.isEmpty())
+        if (use.clipboard.isEmpty()) {
             QGuiApplication::clipboard()->clear();
+        }
         stage.name.setInputTraits({.secureTextEntry = use.secret});
         use.open(stage);
         QCOMPARE(stage.menu(), use.offered);
-        for (const Qt::Key key : use.keys)
+        for (const Qt::Key key : use.keys) {
             stage.key(key);
-        if (use.keys.isEmpty())
+        }
+        if (use.keys.isEmpty()) {
             stage.tap(stage.at("button"));
+        }
         QCOMPARE(stage.menu(), QString());
         QCOMPARE(stage.name.text(), std::optional(use.text));
         QCOMPARE(QGuiApplication::clipboard()->text(), use.clipboard);

@@ -76,8 +76,9 @@ private Q_SLOTS:
         QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
 
         modal->dismissViewControllerAnimated(animated, modal->counted());
-        if (slides)
+        if (slides) {
             QTRY_VERIFY(entry && entry->y() > 0);
+        }
         fixture.settle();
         QVERIFY(modal->completed == 2 && root->appeared == 2);
         QCOMPARE(fixture.items(u"UITransitionEntryView"_s).size(), 1);
@@ -98,8 +99,9 @@ private Q_SLOTS:
     void pagesAreSwipedAway()
     {
         const Swipe &swipe = currentCase<Swipe>();
-        if (swipe.mirrored)
+        if (swipe.mirrored) {
             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        }
         const int direction = swipe.mirrored ? -1 : 1;
         const auto at = [&](int x) { return QPoint(swipe.mirrored ? 389 - x : x, 400); };
         Stage stage({.reduceMotion = swipe.reduceMotion});
@@ -113,13 +115,15 @@ private Q_SLOTS:
         QCOMPARE(entries[0]->isVisible(), swipe.moves);
         QVERIFY(!swipe.moves || (entries[0]->x() * direction < 0) != swipe.reduceMotion);
         QCOMPARE(stage.root->appearanceState(), UIAppearanceState::Disappeared);
-        if (swipe.rests)
+        if (swipe.rests) {
             QTRY_COMPARE(stage.speed(), 0.0);
+        }
         finger.lift();
         // On a busy machine a fling may be too slow to be one.
         for (int again = 0; again < 20 && !swipe.rests; ++again) {
-            if (stage.navigation->topViewController() == stage.root.get())
+            if (stage.navigation->topViewController() == stage.root.get()) {
                 break;
+            }
             QTRY_COMPARE(entries[1]->x(), 0);
             WindowDriver::Finger next(stage.host->view(), at(swipe.from));
             next.move(at(swipe.to));
@@ -214,8 +218,9 @@ private Q_SLOTS:
             for (const int width : {800, 320}) {
                 view.resize(width, 600);
                 QTRY_COMPARE(page->width(), width);
-                if (!mirrored) // the edge itself moves
+                if (!mirrored) { // the edge itself moves
                     QCOMPARE(away(), 140);
+                }
                 finger.move(at(170));
                 QTRY_COMPARE(away(), 160);
                 finger.move(at(150));

@@ -48,8 +48,9 @@ void WindowFixture::show(const std::shared_ptr<UIViewController> &root,
 {
     window->makeKeyAndVisible();
     window->setRootViewController(root);
-    if (presented)
+    if (presented) {
         root->presentViewController(presented, false);
+    }
     host = std::make_unique<UIWindowHost>(*window, QStringLiteral("Test"), QIcon());
     host->view().resize(size);
     host->show();
