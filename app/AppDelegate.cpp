@@ -4,16 +4,16 @@
 
 #include "app/QueryString.h"
 #include "app/WZTTabBarController.h"
-#include "platform/foundation/NSKeyedArchiver.h"
-#include "platform/foundation/NSKeyedUnarchiver.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UITabBarItem.h"
-#include "platform/uikit/UIWindow.h"
-#include "screens/WZTLoginViewController.h"
-#include "screens/WZTRootViewController.h"
-#include "screens/WZTUserViewController.h"
+#include "platform/foundation/base/NSLog.h"
+#include "platform/foundation/coding/NSKeyedArchiver.h"
+#include "platform/foundation/coding/NSKeyedUnarchiver.h"
+#include "platform/uikit/bars/UITabBarItem.h"
+#include "platform/uikit/base/Make.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "platform/uikit/presentation/UIWindow.h"
+#include "screens/account/WZTUserViewController.h"
+#include "screens/home/WZTRootViewController.h"
+#include "screens/login/WZTLoginViewController.h"
 
 using namespace Qt::StringLiterals;
 

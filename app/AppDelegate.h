@@ -3,9 +3,9 @@
 #pragma once
 
 #include "model/WZTSession.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/uikit/UIApplicationDelegate.h"
-#include "platform/uikit/UIResponder.h"
+#include "platform/foundation/storage/NSUserDefaults.h"
+#include "platform/uikit/base/UIApplicationDelegate.h"
+#include "platform/uikit/base/UIResponder.h"
 
 #include <QMap>
 

@@ -6,8 +6,8 @@
 #include "app/Renderer.h"
 #include "app/TerminationSignals.h"
 #include "model/BuildConstants.h"
-#include "platform/uikit/UIWindow.h"
-#include "platform/uikit/qml/UIWindowHost.h"
+#include "platform/uikit/presentation/UIWindow.h"
+#include "platform/uikit/presentation/UIWindowHost.h"
 
 #include <QFont>
 #include <QIcon>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/LifeCycle.h"
 
-#include "platform/uikit/UIApplicationDelegate.h"
+#include "platform/uikit/base/UIApplicationDelegate.h"
 
 #include <utility>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "platform/foundation/NSURLSession.h"
-#include "platform/uikit/UIApplication.h"
+#include "platform/foundation/url/NSURLSession.h"
+#include "platform/uikit/base/UIApplication.h"
 
 /// One run of the application, whatever draws it: the shared URL session, the shared application
 /// and its delegate, made in order and ended in order. Needs a Qt application object around it.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
 
-#include "platform/uikit/UIImpactFeedbackGenerator.h"
+#include "platform/uikit/base/UIImpactFeedbackGenerator.h"
 #include "views/UIColorEx.h"
 
 void WZTTabBarController::viewDidLoad()

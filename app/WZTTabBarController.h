@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITabBarController.h"
+#include "platform/uikit/presentation/UITabBarController.h"
 
 /// The root of the interface: tabs in the application's tint colour, felt when they are chosen.
 class WZTTabBarController : public UITabBarController {

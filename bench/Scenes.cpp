@@ -3,13 +3,13 @@
 #include "bench/Scenes.h"
 
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/base/Make.h"
+#include "platform/uikit/presentation/UINavigationController.h"
 #include "sandbox/DemoIssues.h"
-#include "screens/WZTPackageIssuesViewController.h"
-#include "screens/WZTRootIssueViewController.h"
-#include "screens/WZTRootViewController.h"
-#include "screens/WZTUserViewController.h"
+#include "screens/account/WZTUserViewController.h"
+#include "screens/home/WZTRootViewController.h"
+#include "screens/issues/WZTPackageIssuesViewController.h"
+#include "screens/issues/WZTRootIssueViewController.h"
 #include "tests/support/WindowDriver.h"
 
 #include <QEventLoop>

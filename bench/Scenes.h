@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/qml/UIWindowHost.h"
+#include "platform/uikit/presentation/UIWindowHost.h"
 #include "tests/support/TestApp.h"
 
 #include <functional>

@@ -3,7 +3,7 @@
 #include "bench/Figures.h"
 #include "bench/Measurements.h"
 #include "model/BuildConstants.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/storage/NSUserDefaults.h"
 #include "tests/support/TestApp.h"
 
 #include <QProcess>

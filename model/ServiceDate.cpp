@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/ServiceDate.h"
 
-#include "platform/foundation/NSDateFormatter.h"
+#include "platform/foundation/dates/NSDateFormatter.h"
 
 #include <QJsonValue>
 

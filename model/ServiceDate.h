@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSDate.h"
+#include "platform/foundation/dates/NSDate.h"
 
 #include <optional>
 

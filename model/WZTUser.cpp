@@ -3,8 +3,8 @@
 #include "model/WZTUser.h"
 
 #include "model/ServiceDate.h"
-#include "platform/foundation/NSCoder.h"
-#include "platform/foundation/NSNumberReading.h"
+#include "platform/foundation/base/NSNumberReading.h"
+#include "platform/foundation/coding/NSCoder.h"
 
 #include <QJsonObject>
 

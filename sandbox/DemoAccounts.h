@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sandbox/Account.h"
+#include "sandbox/storage/Account.h"
 
 #include <QList>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/DemoIssues.h"
 
-#include "sandbox/Packages.h"
+#include "sandbox/endpoints/Packages.h"
 
 #include <QDateTime>
 

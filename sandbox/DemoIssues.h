@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sandbox/Issue.h"
+#include "sandbox/storage/Issue.h"
 
 #include <QList>
 

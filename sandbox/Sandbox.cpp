@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/Sandbox.h"
 
-#include "sandbox/FaultLine.h"
 #include "sandbox/Service.h"
+#include "sandbox/faults/FaultLine.h"
 
 #include <QCryptographicHash>
 

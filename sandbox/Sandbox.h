@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sandbox/Account.h"
-#include "sandbox/Fault.h"
-#include "sandbox/Issue.h"
-#include "sandbox/Reception.h"
-#include "sandbox/Request.h"
+#include "sandbox/faults/Fault.h"
+#include "sandbox/http/Reception.h"
+#include "sandbox/http/Request.h"
+#include "sandbox/storage/Account.h"
+#include "sandbox/storage/Issue.h"
 
 #include <QByteArrayList>
 #include <QList>

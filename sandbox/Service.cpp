@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/Service.h"
 
-#include "sandbox/HttpMessage.h"
-#include "sandbox/PrivateFile.h"
+#include "sandbox/http/HttpMessage.h"
+#include "sandbox/storage/PrivateFile.h"
 
 #include <boost/asio/post.hpp>
 #include <boost/asio/thread_pool.hpp>

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sandbox/AccountEndpoints.h"
-#include "sandbox/Certificates.h"
-#include "sandbox/DirectoryLock.h"
-#include "sandbox/HttpsServer.h"
-#include "sandbox/IssueEndpoints.h"
 #include "sandbox/Sandbox.h"
-#include "sandbox/StageBook.h"
+#include "sandbox/certificates/Certificates.h"
+#include "sandbox/endpoints/AccountEndpoints.h"
+#include "sandbox/endpoints/IssueEndpoints.h"
+#include "sandbox/faults/StageBook.h"
+#include "sandbox/http/HttpsServer.h"
+#include "sandbox/storage/DirectoryLock.h"
 
 #include <QTemporaryDir>
 

@@ -3,8 +3,8 @@
 #include "sandbox/ControlSocket.h"
 #include "sandbox/DemoAccounts.h"
 #include "sandbox/DemoIssues.h"
-#include "sandbox/FaultLine.h"
 #include "sandbox/Sandbox.h"
+#include "sandbox/faults/FaultLine.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 
 #include "model/WZTPackageIssue.h"
 #include "model/WZTUser.h"
-#include "platform/foundation/NSTypes.h"
+#include "platform/foundation/base/NSTypes.h"
 
 #include <QList>
 

@@ -3,7 +3,7 @@
 #include "service/WZTIssueOperations.h"
 
 #include "model/WZTSession.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/foundation/base/NSLog.h"
 #include "service/WZTAPI.h"
 
 #include <QJsonArray>

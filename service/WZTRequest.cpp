@@ -3,8 +3,8 @@
 #include "service/WZTRequest.h"
 
 #include "model/BuildConstants.h"
-#include "platform/foundation/NSURLComponents.h"
-#include "platform/foundation/NSURLSession.h"
+#include "platform/foundation/url/NSURLComponents.h"
+#include "platform/foundation/url/NSURLSession.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSURLQueryItem.h"
+#include "platform/foundation/url/NSURLQueryItem.h"
 
 #include <QJsonDocument>
 #include <QList>

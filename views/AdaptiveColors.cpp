@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/AdaptiveColors.h"
 
-#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/base/UIApplication.h"
 
 namespace {
 

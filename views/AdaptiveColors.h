@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIColor.h"
+#include "platform/uikit/appearance/UIColor.h"
 
 /// The colours of screens and cells: from system version 13 on those that follow light and dark,
 /// before it fixed ones. The version is looked at when the colour is asked for.

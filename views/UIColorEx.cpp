@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/UIColorEx.h"
 
-#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/base/UIApplication.h"
 
 UIColor UIColorEx::tintColor()
 {

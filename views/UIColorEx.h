@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIColor.h"
+#include "platform/uikit/appearance/UIColor.h"
 
 namespace UIColorEx {
 

@@ -3,8 +3,8 @@
 #include "views/WZTAccountTableViewCell.h"
 
 #include "model/WZTSession.h"
-#include "platform/foundation/NSDateFormatter.h"
-#include "platform/uikit/UIApplication.h"
+#include "platform/foundation/dates/NSDateFormatter.h"
+#include "platform/uikit/base/UIApplication.h"
 #include "views/AdaptiveColors.h"
 #include "views/UIColorEx.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIButton.h"
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/controls/UIButton.h"
+#include "platform/uikit/tables/UITableViewCell.h"
 
 /// The signed-in user's card, filled from the shared session when it is made and at each reuse.
 /// With nobody signed in it has no name and no address. Where its views stand is

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/tables/UITableViewCell.h"
 #include "views/WZTGlossyButton.h"
 
 /// A button as wide as the table allows. What it says and does is set by the screen that shows it.

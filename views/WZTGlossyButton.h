@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIButton.h"
+#include "platform/uikit/controls/UIButton.h"
 
 /// A rounded, bordered button of one colour, darker while a finger is on it, under a fixed shine.
 class WZTGlossyButton : public UIButton {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/tables/UITableViewCell.h"
 
 /// The logo on the table's own background.
 class WZTHeaderTableViewCell : public UITableViewCell {

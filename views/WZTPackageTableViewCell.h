@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/tables/UITableViewCell.h"
 
 /// A project with a picture and two labels, each null until whoever uses the cell assigns it. It
 /// draws nothing but what every cell draws.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/tables/UITableViewCell.h"
 
 /// A heart and a word of thanks.
 class WZTThanksTableViewCell : public UITableViewCell {

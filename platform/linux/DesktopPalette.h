@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIHost.h"
+#include "platform/uikit/base/UIHost.h"
 
 #include <QObject>
 

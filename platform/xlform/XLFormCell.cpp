@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/xlform/XLFormCell.h"
 
-#include "platform/uikit/Make.h"
+#include "platform/uikit/base/Make.h"
 #include "platform/xlform/XLFormTextFieldCell.h"
 #include "platform/xlform/XLFormTextViewCell.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITextField.h"
+#include "platform/uikit/text/UITextField.h"
 #include "platform/xlform/XLFormCell.h"
 
 /// A row of one line: the title, and the text beside it. Return is the end of the row.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITextView.h"
+#include "platform/uikit/text/UITextView.h"
 #include "platform/xlform/XLFormCell.h"
 
 /// A row of as many lines as are typed, below the title.

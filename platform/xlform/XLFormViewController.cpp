@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/xlform/XLFormViewController.h"
 
-#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/bars/UINavigationItem.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewController.h"
+#include "platform/uikit/tables/UITableViewController.h"
 #include "platform/xlform/XLFormCell.h"
 #include "platform/xlform/XLFormDescriptor.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSDateFormatter.h"
+#include "platform/foundation/dates/NSDateFormatter.h"
 #include "tests/support/TestRunner.h"
 
 #include <QDateTime>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSKeyedArchiver.h"
-#include "platform/foundation/NSKeyedUnarchiver.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/coding/NSKeyedArchiver.h"
+#include "platform/foundation/coding/NSKeyedUnarchiver.h"
+#include "platform/foundation/coding/PropertyList.h"
 #include "tests/foundation/BinaryList.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"

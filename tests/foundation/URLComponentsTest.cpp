@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSURLComponents.h"
+#include "platform/foundation/url/NSURLComponents.h"
 #include "tests/support/TestRunner.h"
 
 #include <QTest>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSURLSession.h"
-#include "sandbox/Gzip.h"
+#include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
+#include "sandbox/http/Gzip.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 

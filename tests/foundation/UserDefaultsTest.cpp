@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/coding/PropertyList.h"
+#include "platform/foundation/storage/NSUserDefaults.h"
 #include "tests/foundation/BinaryList.h"
 #include "tests/support/Cases.h"
 #include "tests/support/FullDisk.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FixedReply.h"
 
-#include "platform/foundation/NSURLSession.h"
+#include "platform/foundation/url/NSURLSession.h"
 
 namespace {
 

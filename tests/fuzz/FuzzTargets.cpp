@@ -3,12 +3,12 @@
 #include "tests/fuzz/FuzzTargets.h"
 
 #include "app/QueryString.h"
-#include "platform/foundation/NSDateFormatter.h"
-#include "platform/foundation/NSKeyedArchiver.h"
-#include "platform/foundation/NSKeyedUnarchiver.h"
-#include "platform/foundation/NSURLComponents.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/URLOrigin.h"
+#include "platform/foundation/coding/NSKeyedArchiver.h"
+#include "platform/foundation/coding/NSKeyedUnarchiver.h"
+#include "platform/foundation/dates/NSDateFormatter.h"
+#include "platform/foundation/storage/NSUserDefaults.h"
+#include "platform/foundation/url/NSURLComponents.h"
+#include "platform/foundation/url/URLOrigin.h"
 #include "service/WZTAPI.h"
 #include "tests/fuzz/FixedReply.h"
 

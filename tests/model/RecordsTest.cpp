@@ -4,7 +4,7 @@
 #include "model/WZTPackage.h"
 #include "model/WZTPackageIssue.h"
 #include "model/WZTUser.h"
-#include "platform/foundation/NSCoder.h"
+#include "platform/foundation/coding/NSCoder.h"
 #include "tests/support/TestRunner.h"
 
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/qml/HitTest.h"
+#include "platform/uikit/input/HitTest.h"
 #include "sandbox/DemoIssues.h"
 #include "tests/random/RandomRuns.h"
 #include "tests/random/WindowRules.h"

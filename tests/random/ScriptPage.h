@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIViewController.h"
+#include "platform/uikit/presentation/UIViewController.h"
 
 #include <QStringList>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/random/WindowRules.h"
 
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UITabBarController.h"
-#include "platform/uikit/qml/HitTest.h"
+#include "platform/uikit/input/HitTest.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "platform/uikit/presentation/UITabBarController.h"
 #include "tests/support/WindowDriver.h"
 
 #include <QSet>

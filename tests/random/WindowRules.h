@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableView.h"
-#include "platform/uikit/UITransitionStack.h"
+#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/tables/UITableView.h"
 
 #include <QPointer>
 #include <QQuickView>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/Packages.h"
 #include "sandbox/Sandbox.h"
+#include "sandbox/endpoints/Packages.h"
 #include "tests/sandbox/Client.h"
 #include "tests/support/TestRunner.h"
 

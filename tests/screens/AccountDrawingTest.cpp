@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/UIAlertController.h"
-#include "screens/WZTLoginViewController.h"
-#include "screens/WZTUserViewController.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "screens/account/WZTUserViewController.h"
+#include "screens/login/WZTLoginViewController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"

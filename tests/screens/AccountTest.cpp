@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UIAlertController.h"
-#include "screens/WZTUserViewController.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/base/Make.h"
+#include "screens/account/WZTUserViewController.h"
 #include "service/TavloCategoryExtension.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"

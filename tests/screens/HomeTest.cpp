@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UINavigationItem.h"
-#include "screens/WZTIssueReporterViewController.h"
-#include "screens/WZTPackageIssuesViewController.h"
-#include "screens/WZTRootIssueViewController.h"
-#include "screens/WZTRootViewController.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "screens/home/WZTRootViewController.h"
+#include "screens/issues/WZTIssueReporterViewController.h"
+#include "screens/issues/WZTPackageIssuesViewController.h"
+#include "screens/issues/WZTRootIssueViewController.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 

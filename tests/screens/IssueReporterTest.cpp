@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/UIAlertController.h"
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/xlform/XLFormTextFieldCell.h"
 #include "platform/xlform/XLFormTextViewCell.h"
-#include "screens/WZTIssueReporterViewController.h"
+#include "screens/issues/WZTIssueReporterViewController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/WZTPackage.h"
 #include "sandbox/DemoIssues.h"
-#include "screens/WZTPackageIssuesViewController.h"
-#include "screens/WZTRootViewController.h"
+#include "screens/home/WZTRootViewController.h"
+#include "screens/issues/WZTPackageIssuesViewController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"

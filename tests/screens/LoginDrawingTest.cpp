@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
-#include "platform/uikit/UIAlertController.h"
-#include "platform/uikit/UINavigationController.h"
-#include "screens/WZTIssueReporterViewController.h"
-#include "screens/WZTLoginViewController.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "screens/issues/WZTIssueReporterViewController.h"
+#include "screens/login/WZTLoginViewController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"

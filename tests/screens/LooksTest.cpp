@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UIAlertController.h"
-#include "screens/WZTLoginViewController.h"
-#include "screens/WZTPackageIssuesViewController.h"
-#include "screens/WZTRootIssueViewController.h"
-#include "screens/WZTUserViewController.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/base/Make.h"
+#include "screens/account/WZTUserViewController.h"
+#include "screens/issues/WZTPackageIssuesViewController.h"
+#include "screens/issues/WZTRootIssueViewController.h"
+#include "screens/login/WZTLoginViewController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"

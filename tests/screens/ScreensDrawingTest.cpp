@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "screens/WZTLoginViewController.h"
+#include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"

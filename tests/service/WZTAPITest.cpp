@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "service/WZTAPI.h"
 #include "model/WZTSession.h"
-#include "platform/foundation/NSURLSession.h"
+#include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
 #include "service/TavloCategoryExtension.h"
 #include "tests/support/TestRunner.h"

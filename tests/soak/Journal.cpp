@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/soak/Journal.h"
 
-#include "platform/foundation/NSKeyedArchiver.h"
+#include "platform/foundation/coding/NSKeyedArchiver.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -6,8 +6,8 @@
 
 #include "model/BuildConstants.h"
 #include "sandbox/DemoIssues.h"
-#include "sandbox/Packages.h"
 #include "sandbox/Sandbox.h"
+#include "sandbox/endpoints/Packages.h"
 #include "tests/random/RandomRuns.h"
 #include "tests/soak/Ledger.h"
 #include "tests/soak/Life.h"

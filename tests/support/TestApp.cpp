@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/TestApp.h"
 
-#include "platform/foundation/NSKeyedArchiver.h"
-#include "platform/uikit/UIAlertController.h"
+#include "platform/foundation/coding/NSKeyedArchiver.h"
+#include "platform/uikit/alerts/UIAlertController.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/Runtime.h"
-#include "platform/uikit/UIWindow.h"
+#include "platform/uikit/presentation/UIWindow.h"
 #include "sandbox/Sandbox.h"
 #include "tests/support/RecordingHost.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIHost.h"
-#include "platform/uikit/qml/UIWindowHost.h"
+#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/presentation/UIWindowHost.h"
 
 #include <memory>
 

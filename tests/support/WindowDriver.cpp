@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/WindowDriver.h"
 
-#include "platform/uikit/UITransitionStack.h"
+#include "platform/uikit/presentation/UITransitionStack.h"
 
 #include <QAccessible>
 #include <QPointingDevice>

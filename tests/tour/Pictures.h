@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sandbox/Fault.h"
+#include "sandbox/faults/Fault.h"
 
 #include <QList>
 #include <QString>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/base/UIApplication.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TestRunner.h"
 

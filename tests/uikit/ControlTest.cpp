@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/UITextField.h"
+#include "platform/uikit/text/UITextField.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/EventLog.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIControl.h"
+#include "platform/uikit/controls/UIControl.h"
 
 #include <QStringList>
 

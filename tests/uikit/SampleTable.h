@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UITableViewController.h"
+#include "platform/uikit/tables/UITableViewController.h"
 
 /// A cell that is counted, and counts its uses.
 class SampleCell : public UITableViewCell {

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UINavigationItem.h"
-#include "platform/uikit/UITabBarController.h"
-#include "platform/uikit/UIWindow.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/base/Make.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "platform/uikit/presentation/UITabBarController.h"
+#include "platform/uikit/presentation/UIWindow.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 

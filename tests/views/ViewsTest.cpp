@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/Make.h"
+#include "platform/uikit/base/Make.h"
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 #include "views/PressedColor.h"

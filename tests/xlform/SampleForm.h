@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/xlform/XLFormTextFieldCell.h"
 #include "platform/xlform/XLFormTextViewCell.h"
 #include "platform/xlform/XLFormViewController.h"

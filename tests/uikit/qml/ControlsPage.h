@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/UIActivityIndicatorView.h"
-#include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIButton.h"
-#include "platform/uikit/UIImageView.h"
-#include "platform/uikit/UITextField.h"
+#include "platform/uikit/base/UIApplication.h"
+#include "platform/uikit/controls/UIActivityIndicatorView.h"
+#include "platform/uikit/controls/UIButton.h"
+#include "platform/uikit/controls/UIImageView.h"
+#include "platform/uikit/text/UITextField.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/WindowDriver.h"
 #include "tests/uikit/EventLog.h"

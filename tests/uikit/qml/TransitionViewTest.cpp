@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/presentation/UINavigationController.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/SampleTable.h"

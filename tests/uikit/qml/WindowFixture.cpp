@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/uikit/qml/WindowFixture.h"
 
-#include "platform/uikit/UINavigationItem.h"
+#include "platform/uikit/bars/UINavigationItem.h"
 
 #include <QAccessible>
 #include <QIcon>

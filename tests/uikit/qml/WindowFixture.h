@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/Make.h"
-#include "platform/uikit/UIAlertController.h"
-#include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIViewController.h"
-#include "platform/uikit/UIWindow.h"
-#include "platform/uikit/qml/UIWindowHost.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/base/Make.h"
+#include "platform/uikit/base/UIApplication.h"
+#include "platform/uikit/presentation/UIViewController.h"
+#include "platform/uikit/presentation/UIWindow.h"
+#include "platform/uikit/presentation/UIWindowHost.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/WindowDriver.h"
 

@@ -1,8 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The WZT Companion authors
-// SPDX-License-Identifier: MIT
-#include "platform/foundation/NSURLQueryItem.h"
-
-NSURLQueryItem NSURLQueryItem::queryItemWithName(QString name, std::optional<QString> value)
-{
-    return {std::move(name), std::move(value)};
-}

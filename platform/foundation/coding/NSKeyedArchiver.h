@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/foundation/coding/NSCoder.h"
+
+#include <QByteArray>
+
+/// Writes the platform's keyed archives: a binary property list of $version 100000, whose
+/// $objects refer to each other by UID, the first of them "$null".
+namespace NSKeyedArchiver {
+
+/// The archive of an object of class `className` with the values of `coder`. Equal objects are
+/// stored once. Nil when a text is no valid Unicode.
+[[nodiscard]] std::optional<QByteArray> archivedDataWithCoder(const NSCoder &coder,
+                                                              const QString &className);
+
+/// The archive of `root`, a record with `void encodeWithCoder(NSCoder &) const`.
+template <typename Record>
+[[nodiscard]] std::optional<QByteArray> archivedDataWithRootObject(const Record &root,
+                                                                   const QString &className)
+{
+    NSCoder coder;
+    root.encodeWithCoder(coder);
+    return archivedDataWithCoder(coder, className);
+}
+
+} // namespace NSKeyedArchiver

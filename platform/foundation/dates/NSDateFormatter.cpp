@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/dates/NSDateFormatter.h"
+
+#include "platform/foundation/dates/DateFields.h"
+#include "platform/foundation/dates/LocalTime.h"
+
+#include <QByteArray>
+
+#include <unicode/datefmt.h>
+#include <unicode/gregocal.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+/// From 1970-01-01 to 2001-01-01.
+constexpr double referenceDate = 978307200;
+constexpr double millisecondsPerSecond = 1000;
+/// Further from today than any date that can be shown.
+constexpr double farthest = 1e15;
+
+QByteArray deviceLocale()
+{
+    for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QByteArray name = qgetenv(variable);
+        if (!name.isEmpty()) {
+            return name;
+        }
+    }
+    return "C";
+}
+
+icu::Locale localeOf(const QByteArray &name)
+{
+    // The C locale is none of ICU's, which would show months as "M11".
+    const bool plain = name == "C" || name.startsWith("C.") || name == "POSIX";
+    return icu::Locale::createCanonical(plain ? "en_US_POSIX" : name.constData());
+}
+
+/// The thread's writer of clocks for the device's locale, null when ICU has none. It is kept:
+/// making one costs far more than using it.
+const icu::DateFormat *writer()
+{
+    thread_local QByteArray knownLocale;
+    thread_local std::unique_ptr<icu::DateFormat> known;
+    const QByteArray locale = deviceLocale();
+    if (locale != knownLocale) {
+        known.reset(
+            icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, localeOf(locale)));
+        if (known) {
+            known->setTimeZone(*icu::TimeZone::getGMT());
+        }
+        knownLocale = locale;
+    }
+    return known.get();
+}
+
+/// A Gregorian calendar that refuses what does not exist, null when there is no memory for it.
+std::unique_ptr<icu::Calendar> makeCalendar()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    auto calendar = std::make_unique<icu::GregorianCalendar>(*icu::TimeZone::getGMT(), status);
+    calendar->setLenient(false);
+    return U_SUCCESS(status) ? std::move(calendar) : nullptr;
+}
+
+/// The clock that shows these fields, nil when none does.
+std::optional<qint64> clockOf(const DateFields &fields)
+{
+    thread_local const std::unique_ptr<icu::Calendar> calendar = makeCalendar();
+    if (!calendar) {
+        return std::nullopt;
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    calendar->clear();
+    calendar->set(fields.year, fields.month - 1, fields.day, fields.hour, fields.minute,
+                  fields.second);
+    const UDate milliseconds = calendar->getTime(status);
+    return U_SUCCESS(status)
+        ? std::optional(static_cast<qint64>(milliseconds / millisecondsPerSecond))
+        : std::nullopt;
+}
+
+} // namespace
+
+std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
+{
+    const auto fields = m_format.isEmpty() ? std::nullopt : readDateFields(m_format, text);
+    const auto clock = fields ? clockOf(*fields) : std::nullopt;
+    const auto moment = clock ? LocalTime::momentOf(*clock) : std::nullopt;
+    return moment ? std::optional(NSDate{static_cast<double>(*moment) - referenceDate})
+                  : std::nullopt;
+}
+
+QString NSDateFormatter::stringFromDate(const NSDate &date) const
+{
+    const double moment = std::floor(date.timeIntervalSinceReferenceDate + referenceDate);
+    if (m_style == NSDateFormatterStyle::None || !(std::abs(moment) < farthest)) {
+        return {};
+    }
+    const auto clock = LocalTime::clockAt(static_cast<qint64>(moment));
+    const icu::DateFormat *formatter = clock ? writer() : nullptr;
+    if (!formatter) {
+        return {};
+    }
+    icu::UnicodeString text;
+    formatter->format(static_cast<double>(*clock) * millisecondsPerSecond, text);
+    return QString::fromUtf16(text.getBuffer(), text.length());
+}

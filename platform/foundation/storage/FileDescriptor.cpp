@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/storage/FileDescriptor.h"
+
+#include <unistd.h>
+
+FileDescriptor::~FileDescriptor()
+{
+    if (isOpen()) {
+        close(m_descriptor);
+    }
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/storage/NSUserDefaults.h"
+
+#include "platform/foundation/coding/PropertyList.h"
+#include "platform/foundation/storage/PrivateFile.h"
+
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Nil when the file is damaged: something is there, but no property list of keys and values.
+std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray &content)
+{
+    if (state == PrivateFile::State::Absent) {
+        return PropertyList::dictionary();
+    }
+    std::optional<PropertyList> values;
+    if (state == PrivateFile::State::Read) {
+        values = PropertyList::fromData(content);
+    }
+    return values && values->isDictionary() ? std::move(values) : std::nullopt;
+}
+
+/// The values to change, nil when the file can neither be read nor moved out of the way.
+std::optional<PropertyList> readForChange(const PrivateFile &file, const PrivateFile::Lock &lock)
+{
+    QByteArray content;
+    const PrivateFile::State state = file.read(&content);
+    if (!lock.isHeld() || state == PrivateFile::State::Unavailable) {
+        return std::nullopt;
+    }
+    std::optional<PropertyList> values = valuesIn(state, content);
+    if (!values && file.moveAside(lock)) {
+        return PropertyList::dictionary();
+    }
+    return values;
+}
+
+/// Writes nothing that would be refused when it is read.
+bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values,
+           const QString &key)
+{
+    const QByteArray content = values.toData();
+    const std::optional<PropertyList> readBack = PropertyList::fromData(content);
+    return readBack && readBack->item(key).data() == values.item(key).data()
+        && file.write(lock, content);
+}
+
+} // namespace
+
+NSUserDefaults::NSUserDefaults(const QString &applicationId, const QString &folder)
+    : m_file((folder.isEmpty()
+                  ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+                  : folder)
+                 + u'/' + applicationId,
+             applicationId + ".plist"_L1, PropertyList::maximumLength)
+{
+}
+
+std::optional<QByteArray> NSUserDefaults::dataForKey(const QString &key) const
+{
+    QByteArray content;
+    const PrivateFile::State state = m_file.read(&content);
+    if (const std::optional<PropertyList> values = valuesIn(state, content)) {
+        return values->item(key).data();
+    }
+    // Damaged, unless another process has just replaced it.
+    const PrivateFile::Lock lock(m_file);
+    const std::optional<PropertyList> values = readForChange(m_file, lock);
+    return values ? values->item(key).data() : std::nullopt;
+}
+
+bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QString &key)
+{
+    if (!data) {
+        return removeObjectForKey(key);
+    }
+    const PrivateFile::Lock lock(m_file);
+    std::optional<PropertyList> values = readForChange(m_file, lock);
+    if (!values) {
+        return false;
+    }
+    values->insert(key, PropertyList(*data));
+    return write(m_file, lock, *values, key);
+}
+
+bool NSUserDefaults::removeObjectForKey(const QString &key)
+{
+    QByteArray content;
+    const PrivateFile::State state = m_file.read(&content);
+    const std::optional<PropertyList> values = valuesIn(state, content);
+    const bool isAbsent = values && !values->item(key).isPresent();
+    const bool isRemoved = isAbsent || writeWithout(key) || m_file.remove();
+    return m_file.removeMovedAside() && isRemoved;
+}
+
+bool NSUserDefaults::writeWithout(const QString &key)
+{
+    const PrivateFile::Lock lock(m_file);
+    std::optional<PropertyList> values = readForChange(m_file, lock);
+    if (!values) {
+        return false;
+    }
+    values->remove(key);
+    return values->items().isEmpty() ? m_file.remove() : write(m_file, lock, *values, key);
+}

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/url/HTTPBody.h"
+
+#define ZLIB_CONST
+#include <zlib.h>
+
+#include <array>
+
+namespace {
+
+/// However little it decodes to: a compressed body may decode to nothing for ever.
+constexpr size_t maximumReceived = size_t{64} * 1024 * 1024;
+
+/// The largest window, of a stream in gzip's format and no other.
+constexpr int gzipWindow = 15 + 16;
+
+void drop(z_stream *stream)
+{
+    inflateEnd(stream);
+    delete stream;
+}
+
+} // namespace
+
+HTTPBody::HTTPBody(qsizetype maximumLength)
+    : m_maximumLength(maximumLength), m_inflater(nullptr, drop)
+{
+}
+
+bool HTTPBody::setCoding(QByteArray coding)
+{
+    coding = coding.trimmed().toLower();
+    if (coding.isEmpty() || coding == "identity") {
+        return true;
+    }
+    if (coding != "gzip" && coding != "x-gzip") {
+        return false;
+    }
+    m_inflater.reset(new z_stream());
+    return inflateInit2(m_inflater.get(), gzipWindow) == Z_OK;
+}
+
+std::optional<NSURLErrorCode> HTTPBody::append(const char *bytes, size_t length)
+{
+    if (length > maximumReceived - m_received) {
+        return NSURLErrorDataLengthExceedsMaximum;
+    }
+    m_received += length;
+    return m_inflater ? inflate(bytes, length) : add(bytes, length);
+}
+
+std::optional<NSURLErrorCode> HTTPBody::add(const char *bytes, size_t length)
+{
+    if (static_cast<qsizetype>(length) > m_maximumLength - m_decoded.size()) {
+        return NSURLErrorDataLengthExceedsMaximum;
+    }
+    m_decoded.append(bytes, static_cast<qsizetype>(length));
+    return std::nullopt;
+}
+
+std::optional<NSURLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
+{
+    std::array<char, size_t{64} * 1024> piece;
+    z_stream &stream = *m_inflater;
+    stream.next_in = reinterpret_cast<const Bytef *>(bytes);
+    stream.avail_in = static_cast<uInt>(length);
+    bool hasMore = false;
+    while (stream.avail_in > 0 || hasMore) {
+        if (m_isWhole) {
+            // Compressed files may be strung together; anything else is found out to be none.
+            inflateReset(&stream);
+        }
+        stream.next_out = reinterpret_cast<Bytef *>(piece.data());
+        stream.avail_out = static_cast<uInt>(piece.size());
+        const int state = ::inflate(&stream, Z_NO_FLUSH);
+        if (state != Z_OK && state != Z_STREAM_END && state != Z_BUF_ERROR) {
+            return NSURLErrorCannotDecodeContentData;
+        }
+        m_isWhole = state == Z_STREAM_END;
+        hasMore = !m_isWhole && stream.avail_out == 0;
+        if (const auto error = add(piece.data(), piece.size() - stream.avail_out)) {
+            return error;
+        }
+    }
+    return std::nullopt;
+}

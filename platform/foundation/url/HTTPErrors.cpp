@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/url/HTTPErrors.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// CURLE_TOO_LARGE, which the library has a name for since 8.6.
+constexpr long tooLarge = 100;
+
+struct ErrorRow {
+    long reported;
+    NSURLErrorCode code;
+};
+
+/// By CURLcode. Anything that is not listed is NSURLErrorUnknown.
+constexpr std::array errorTable{
+    ErrorRow{CURLE_URL_MALFORMAT, NSURLErrorBadURL},
+    ErrorRow{CURLE_COULDNT_RESOLVE_HOST, NSURLErrorCannotFindHost},
+    ErrorRow{CURLE_COULDNT_RESOLVE_PROXY, NSURLErrorCannotFindHost},
+    ErrorRow{CURLE_COULDNT_CONNECT, NSURLErrorCannotConnectToHost},
+    ErrorRow{CURLE_PROXY, NSURLErrorCannotConnectToHost},
+    ErrorRow{CURLE_OPERATION_TIMEDOUT, NSURLErrorTimedOut},
+    ErrorRow{CURLE_GOT_NOTHING, NSURLErrorNetworkConnectionLost},
+    ErrorRow{CURLE_PARTIAL_FILE, NSURLErrorNetworkConnectionLost},
+    ErrorRow{CURLE_RECV_ERROR, NSURLErrorNetworkConnectionLost},
+    ErrorRow{CURLE_SEND_ERROR, NSURLErrorNetworkConnectionLost},
+    ErrorRow{CURLE_BAD_CONTENT_ENCODING, NSURLErrorCannotDecodeContentData},
+    ErrorRow{CURLE_WEIRD_SERVER_REPLY, NSURLErrorBadServerResponse},
+    // A first line that is no HTTP.
+    ErrorRow{CURLE_UNSUPPORTED_PROTOCOL, NSURLErrorBadServerResponse},
+    ErrorRow{tooLarge, NSURLErrorDataLengthExceedsMaximum},
+    ErrorRow{CURLE_SSL_CONNECT_ERROR, NSURLErrorSecureConnectionFailed},
+    ErrorRow{CURLE_SSL_CACERT_BADFILE, NSURLErrorSecureConnectionFailed},
+};
+
+/// By OpenSSL's verification result, after CURLE_PEER_FAILED_VERIFICATION. Anything that is not
+/// listed (a certificate for another host, above all) is NSURLErrorServerCertificateUntrusted.
+constexpr std::array certificateTable{
+    ErrorRow{9, NSURLErrorServerCertificateNotYetValid},
+    ErrorRow{10, NSURLErrorServerCertificateHasBadDate},
+    ErrorRow{18, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{19, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{20, NSURLErrorServerCertificateHasUnknownRoot},
+    ErrorRow{21, NSURLErrorServerCertificateHasUnknownRoot},
+};
+
+template <size_t size>
+NSURLErrorCode lookUp(const std::array<ErrorRow, size> &table, long reported,
+                      NSURLErrorCode otherwise)
+{
+    const auto *row = std::find_if(table.begin(), table.end(),
+                                   [&](const ErrorRow &r) { return r.reported == reported; });
+    return row == table.end() ? otherwise : row->code;
+}
+
+} // namespace
+
+NSURLErrorCode HTTPErrors::codeOf(void *easy, int reported)
+{
+    if (reported != CURLE_PEER_FAILED_VERIFICATION) {
+        return lookUp(errorTable, reported, NSURLErrorUnknown);
+    }
+    long verification = 0;
+    curl_easy_getinfo(easy, CURLINFO_SSL_VERIFYRESULT, &verification);
+    return lookUp(certificateTable, verification, NSURLErrorServerCertificateUntrusted);
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/foundation/url/NSError.h"
+#include "platform/foundation/url/NSMutableURLRequest.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class NSURLSessionQueue;
+
+/// One request on its way. Made by NSURLSession::dataTaskWithRequest.
+class NSURLSessionDataTask : public std::enable_shared_from_this<NSURLSessionDataTask> {
+public:
+    /// `data`: the decoded body, whatever the HTTP status was; empty when `error` is set.
+    using Completion =
+        std::function<void(const QByteArray &data, const std::optional<NSError> &error)>;
+
+    NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
+                         std::weak_ptr<NSURLSessionQueue> queue);
+
+    /// Sends the request. Any thread. Once only, a second call does nothing; a task that is
+    /// never resumed is never sent and never completes. The task may be dropped right after.
+    void resume();
+
+    [[nodiscard]] const NSMutableURLRequest &originalRequest() const { return m_request; }
+
+private:
+    friend class NSURLSessionQueue;
+    void complete(const QByteArray &data, std::optional<NSURLErrorCode> code);
+
+    NSMutableURLRequest m_request;
+    Completion m_completion;
+    std::weak_ptr<NSURLSessionQueue> m_queue;
+    std::atomic_flag m_resumed;
+};

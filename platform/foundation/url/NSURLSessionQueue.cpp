@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/url/NSURLSessionQueue.h"
+
+#include "platform/foundation/url/NSURLSessionDataTask.h"
+
+NSURLSessionQueue::NSURLSessionQueue(const NSURLSessionConfiguration &configuration)
+    : m_loader(configuration)
+{
+}
+
+bool NSURLSessionQueue::enqueue(const Task &task)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_closed) {
+        return false;
+    }
+    m_incoming.push_back(task);
+    m_loader.wake();
+    return true;
+}
+
+void NSURLSessionQueue::stop()
+{
+    const std::lock_guard lock(m_mutex);
+    m_stopping = true;
+    m_loader.wake();
+}
+
+void NSURLSessionQueue::run()
+{
+    for (;;) {
+        const Arrival arrival = takeArrivals();
+        for (const Task &task : arrival.tasks) {
+            start(task);
+        }
+        if (arrival.stopping) {
+            break;
+        }
+        m_loader.wait();
+    }
+    m_loader.cancelAll();
+    cancelArrivals();
+}
+
+NSURLSessionQueue::Arrival NSURLSessionQueue::takeArrivals()
+{
+    const std::lock_guard lock(m_mutex);
+    return {std::exchange(m_incoming, {}), m_stopping};
+}
+
+void NSURLSessionQueue::start(const Task &task)
+{
+    m_loader.start(task->originalRequest(),
+                   [this, task](const HTTPLoader::Result &result) { complete(task, result); });
+}
+
+void NSURLSessionQueue::complete(const Task &task, const HTTPLoader::Result &result) const
+{
+    if (!m_abandoned) {
+        task->complete(result.body, result.error);
+    }
+}
+
+/// Completions may resume further tasks; the queue closes when there are no more.
+void NSURLSessionQueue::cancelArrivals()
+{
+    for (;;) {
+        std::unique_lock lock(m_mutex);
+        if (m_incoming.empty()) {
+            m_closed = true;
+            return;
+        }
+        const std::vector<Task> tasks = std::exchange(m_incoming, {});
+        lock.unlock();
+        for (const Task &task : tasks) {
+            complete(task, {{}, NSURLErrorCancelled});
+        }
+    }
+}

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/base/UITargetAction.h"
+
+#include <QtQmlIntegration>
+
+#include <optional>
+
+enum class UIBarButtonItemStyle { Plain };
+/// Buttons that the platform names and draws, with its values.
+enum class UIBarButtonSystemItem { Cancel = 1, Add = 4 };
+
+/// A button of a navigation bar. Made by `make`, given to a controller's navigation item.
+class UIBarButtonItem : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by a screen")
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(bool drawsPlus READ drawsPlus CONSTANT FINAL)
+
+public:
+    /// `action` is a member function of `target` that takes the item or nothing.
+    template <class Target, class Method>
+    UIBarButtonItem(UIBarButtonSystemItem item, Target *target, Method action)
+        : UIBarButtonItem(titleOf(item), UIBarButtonItemStyle::Plain, target, action)
+    {
+        m_systemItem = item;
+    }
+    template <class Target, class Method>
+    UIBarButtonItem(const QString &title, UIBarButtonItemStyle style, Target *target, Method action)
+        : m_title(title),
+          m_style(style),
+          m_action(std::make_unique<const UIMethodAction<UIBarButtonItem, Target, Method>>(target,
+                                                                                           action))
+    {
+    }
+
+    /// What is drawn, or said for what is drawn as a picture.
+    [[nodiscard]] QString title() const { return m_title; }
+    [[nodiscard]] UIBarButtonItemStyle style() const { return m_style; }
+    [[nodiscard]] bool isSystemItem(UIBarButtonSystemItem item) const
+    {
+        return m_systemItem == item;
+    }
+    [[nodiscard]] bool drawsPlus() const { return isSystemItem(UIBarButtonSystemItem::Add); }
+
+    /// What a touch does: sends the action, which may put another item in this one's place.
+    Q_INVOKABLE void trigger() { m_action->send(this); }
+
+private:
+    [[nodiscard]] static QString titleOf(UIBarButtonSystemItem item);
+
+    QString m_title;
+    UIBarButtonItemStyle m_style;
+    std::optional<UIBarButtonSystemItem> m_systemItem;
+    std::unique_ptr<const UITargetAction<UIBarButtonItem>> m_action;
+};

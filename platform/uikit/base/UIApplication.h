@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/appearance/UITraits.h"
+#include "platform/uikit/base/UIResponder.h"
+
+#include <QPointer>
+
+class UIApplicationDelegate;
+class UIWindow;
+
+/// The application: its machine, its traits, its delegate and who has the keyboard. There is one
+/// at a time, made before any screen and destroyed after all of them.
+class UIApplication : public QObject {
+    Q_OBJECT
+
+public:
+    /// `host` outlives the application.
+    explicit UIApplication(UIHost &host);
+    ~UIApplication() override;
+
+    /// The one application; null before it is made and after its end.
+    [[nodiscard]] static UIApplication *sharedApplication();
+
+    [[nodiscard]] UIHost &host() const { return m_host; }
+    [[nodiscard]] UITraits &traits() { return m_traits; }
+
+    [[nodiscard]] UIApplicationDelegate *delegate() const { return m_delegate; }
+    void setDelegate(UIApplicationDelegate *delegate) { m_delegate = delegate; }
+
+    [[nodiscard]] UIResponder *firstResponder() const { return m_firstResponder; }
+
+    /// Whether an application is registered for the scheme of `url`.
+    [[nodiscard]] bool canOpenURL(const QString &url) const;
+    /// Hands `url` over, character for character; nothing is reported back.
+    void openURL(const QString &url);
+
+private:
+    friend class UIResponder;
+
+    UIHost &m_host;
+    UITraits m_traits;
+    UIApplicationDelegate *m_delegate = nullptr;
+    QPointer<UIResponder> m_firstResponder;
+};

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/uikit/base/UITargetAction.h"
+
+/// Recognises a single tap on the view that it is added to. It never takes the touch from the
+/// controls inside the view, and leaves taps on text fields to them.
+class UITapGestureRecognizer {
+public:
+    template <class Target, class Method>
+    UITapGestureRecognizer(Target *target, Method action)
+        : m_action(std::make_unique<UIMethodAction<UITapGestureRecognizer, Target, Method>>(target,
+                                                                                            action))
+    {
+    }
+
+    /// Sends the action.
+    void recognize() { m_action->send(this); }
+
+private:
+    std::unique_ptr<const UITargetAction<UITapGestureRecognizer>> m_action;
+};

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/input/KeyRepeatFilter.h"
+
+#include <QGuiApplication>
+#include <QInputMethodQueryEvent>
+#include <QKeyEvent>
+#include <QWindow>
+
+namespace {
+
+bool takesLines(QObject *focused)
+{
+    if (!focused) {
+        return false;
+    }
+    QInputMethodQueryEvent query(Qt::ImHints);
+    QCoreApplication::sendEvent(focused, &query);
+    return Qt::InputMethodHints(query.value(Qt::ImHints).toInt()).testFlag(Qt::ImhMultiLine);
+}
+
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
+} // namespace
+
+KeyRepeatFilter::KeyRepeatFilter(QWindow &window)
+{
+    window.installEventFilter(this);
+}
+
+bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
+        return false;
+    }
+    const auto *press = static_cast<QKeyEvent *>(event);
+    if (isModifier(press->key())) {
+        return false; // the other key that is held goes on
+    }
+    if (!press->isAutoRepeat()) {
+        if (event->type() == QEvent::KeyPress) {
+            m_key = press->key();
+            m_beganInLines = takesLines(QGuiApplication::focusObject());
+        } else if (press->key() == m_key) {
+            m_key = 0;
+        }
+        return false;
+    }
+    if (press->key() != m_key) {
+        return true;
+    }
+    switch (press->key()) {
+    case Qt::Key_Escape:
+    case Qt::Key_Back:
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return !m_beganInLines || !takesLines(QGuiApplication::focusObject());
+    default:
+        return false;
+    }
+}

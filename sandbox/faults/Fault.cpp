@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "sandbox/faults/Fault.h"
+
+#include "sandbox/http/Gzip.h"
+#include "sandbox/http/HttpMessage.h"
+#include "sandbox/http/Request.h"
+
+#include <algorithm>
+
+namespace sandbox {
+
+namespace {
+
+constexpr std::chrono::milliseconds surplusPause{100};
+
+QByteArray hostOf(const Request &request, quint16 port)
+{
+    return request.header("Host").value_or("localhost:" + QByteArray::number(port));
+}
+
+QByteArray otherHostOf(const Request &request, quint16 port)
+{
+    const bool isLocalhost = hostOf(request, port).startsWith("localhost");
+    return (isLocalhost ? "127.0.0.1:" : "localhost:") + QByteArray::number(port);
+}
+
+} // namespace
+
+Fault Fault::delay(std::chrono::milliseconds time)
+{
+    return Fault().after(time);
+}
+
+Fault Fault::silence()
+{
+    return raw({}).ending(Transmission::Ending::Silence);
+}
+
+Fault Fault::close()
+{
+    return raw({});
+}
+
+Fault Fault::reset()
+{
+    Fault fault = Fault().ending(Transmission::Ending::Reset);
+    fault.m_isHalved = true;
+    return fault;
+}
+
+Fault Fault::cut(qint64 size)
+{
+    Fault fault = Fault().ending(Transmission::Ending::Cut);
+    fault.m_cut = size;
+    return fault;
+}
+
+Fault Fault::wrongLength(qint64 difference)
+{
+    Fault fault = Fault().ending(Transmission::Ending::Close);
+    fault.m_lengthDifference = difference;
+    return fault;
+}
+
+Fault Fault::drip(qint64 pieceSize, std::chrono::milliseconds pause)
+{
+    Fault fault;
+    fault.m_manner.pieceSize = pieceSize;
+    fault.m_manner.pause = pause;
+    return fault;
+}
+
+Fault Fault::gzip(qint64 missing)
+{
+    return Fault().compressed(missing);
+}
+
+Fault Fault::surplus(const QByteArray &bytes)
+{
+    Fault fault;
+    fault.m_surplus = bytes;
+    return fault;
+}
+
+Fault Fault::status(int code)
+{
+    Fault fault;
+    fault.m_status = code;
+    return fault;
+}
+
+Fault Fault::json(const QByteArray &body, int code)
+{
+    Fault fault;
+    fault.m_replacement = [body, code](const Request &, quint16) {
+        return Reply{
+            .status = code, .headers = {{"Content-Type", "application/json"}}, .body = body};
+    };
+    return fault;
+}
+
+Fault Fault::raw(const QByteArray &bytes)
+{
+    Fault fault = json(bytes).ending(Transmission::Ending::Close);
+    fault.m_isRaw = true;
+    return fault;
+}
+
+Fault Fault::endless()
+{
+    Fault fault = json({}).withoutLength();
+    fault.m_manner.isEndless = true;
+    return fault;
+}
+
+Fault Fault::keyUpdates(int count)
+{
+    Fault fault;
+    fault.m_manner.keyUpdates = count;
+    return fault;
+}
+
+Fault Fault::redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location)
+{
+    Fault fault;
+    fault.m_replacement = [code, location = std::move(location)](const Request &request,
+                                                                 quint16 port) {
+        return Reply{
+            .status = code, .headers = {{"Location", location(request, port)}}, .body = {}};
+    };
+    return fault;
+}
+
+Fault Fault::redirect(const QByteArray &location, int code)
+{
+    return redirectTo(code, [location](const Request &, quint16) { return location; });
+}
+
+Fault Fault::redirectLoop(int code)
+{
+    return redirectTo(code, [](const Request &request, quint16) { return request.target; });
+}
+
+Fault Fault::redirectFurther(int code)
+{
+    return redirectTo(code, [](const Request &request, quint16) {
+        return QByteArray(request.target + "&further");
+    });
+}
+
+Fault Fault::redirectToHttp(int code)
+{
+    return redirectTo(code, [](const Request &request, quint16 port) {
+        return QByteArray("http://" + hostOf(request, port) + request.target);
+    });
+}
+
+Fault Fault::redirectToOtherHost(int code)
+{
+    return redirectTo(code, [](const Request &request, quint16 port) {
+        return QByteArray("https://" + otherHostOf(request, port) + request.target);
+    });
+}
+
+Fault Fault::redirectToPath(const QByteArray &path, int code)
+{
+    return redirectTo(code, [path](const Request &request, quint16) {
+        return QByteArray(path + request.target.mid(request.path.size()));
+    });
+}
+
+Fault Fault::after(std::chrono::milliseconds time) const
+{
+    Fault fault = *this;
+    fault.m_manner.delay = time;
+    return fault;
+}
+
+Fault Fault::withHeader(const QByteArray &name, const QByteArray &value) const
+{
+    Fault fault = *this;
+    fault.m_headers.append({name, value});
+    return fault;
+}
+
+Fault Fault::withoutLength() const
+{
+    Fault fault = ending(Transmission::Ending::Close);
+    fault.m_hasLength = false;
+    return fault;
+}
+
+Fault Fault::compressed(qint64 missing) const
+{
+    Fault fault = withHeader("Content-Encoding", "gzip");
+    fault.m_missing = missing;
+    return fault;
+}
+
+Fault Fault::ending(Transmission::Ending ending) const
+{
+    Fault fault = *this;
+    fault.m_ending = ending;
+    return fault;
+}
+
+Transmission Fault::transmission(const Request &request, const Reply &real, quint16 port) const
+{
+    Reply reply = m_replacement ? m_replacement(request, port) : real;
+    Transmission transmission = m_manner;
+    transmission.bytes = reply.body;
+    transmission.ending = m_ending.value_or(transmissionOf(request, reply).ending);
+    if (m_isRaw) {
+        return transmission;
+    }
+    reply.status = m_status.value_or(reply.status);
+    reply.headers += m_headers;
+    if (m_missing) {
+        reply.body = gzipped(reply.body);
+        reply.body.chop(*m_missing);
+    }
+    const bool keepsAlive = transmission.ending == Transmission::Ending::KeepOpen;
+    std::optional<qint64> length;
+    if (m_hasLength) {
+        length = std::max(qint64{0}, reply.body.size() + m_lengthDifference);
+    }
+    const qsizetype sent = m_isHalved ? reply.body.size() / 2 : reply.body.size();
+    const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent) + m_surplus;
+    transmission.bytes = whole.left(m_cut.value_or(whole.size()));
+    if (!m_surplus.isEmpty()) {
+        // Later, or it would be found and the connection given up.
+        transmission.pieceSize = whole.size() - m_surplus.size();
+        transmission.pause = surplusPause;
+    }
+    return transmission;
+}
+
+} // namespace sandbox

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "screens/issues/WZTPackageIssuesViewController.h"
+
+#include "model/WZTPackage.h"
+#include "platform/foundation/base/Dispatch.h"
+#include "platform/foundation/base/NSLog.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "screens/issues/WZTIssueReporterViewController.h"
+#include "service/WZTAPI.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void stopIndicator(const std::weak_ptr<WZTPackageIssuesViewController> &weakScreen)
+{
+    if (const auto screen = weakScreen.lock()) {
+        screen->activityIndicator()->stopAnimating();
+    }
+}
+
+} // namespace
+
+WZTPackageIssuesViewController::WZTPackageIssuesViewController(std::shared_ptr<WZTPackage> package)
+    : m_package(std::move(package))
+{
+    using Screen = WZTPackageIssuesViewController;
+    navigationItem()->setRightBarButtonItem(
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Add, this, &Screen::addNewIssue));
+    navigationItem()->setLeftBarButtonItem(
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &Screen::cancel));
+    navigationItem()->setTitle(u"%1 Issues"_s.arg(m_package->name));
+    tableView()->registerClass<UITableViewCell>(u"reuseIdentifier"_s);
+}
+
+WZTPackageIssuesViewController::~WZTPackageIssuesViewController() = default;
+
+void WZTPackageIssuesViewController::viewDidAppear(bool animated)
+{
+    WZTBusyTableViewController::viewDidAppear(animated);
+    activityIndicator()->startAnimating();
+    WZTAPI::issuesForPackageIdentifier(
+        m_package->bundleIdentifier,
+        [self = strong(this), weakSelf = weak(this)](NSUInteger, const Issues &issues) {
+            dispatchAsyncMain([self, weakSelf, issues] {
+                stopIndicator(weakSelf);
+                self->setPackageIssues(issues);
+            });
+        });
+}
+
+void WZTPackageIssuesViewController::setPackageIssues(const Issues &issues)
+{
+    m_packageIssues = issues;
+    tableView()->reloadData();
+}
+
+int WZTPackageIssuesViewController::numberOfRowsInSection(int /*section*/) const
+{
+    return m_packageIssues ? static_cast<int>(m_packageIssues->size()) : 0;
+}
+
+std::shared_ptr<UITableViewCell>
+WZTPackageIssuesViewController::cellForRowAtIndexPath(const NSIndexPath &indexPath)
+{
+    auto cell = make<UITableViewCell>(UITableViewCellStyle::Subtitle, u"reuseIdentifier"_s);
+    const WZTPackageIssue &issue = std::as_const(*m_packageIssues)[indexPath.row];
+    cell->setSelectionStyle(UITableViewCellSelectionStyle::None);
+    cell->textLabel()->setText(issue.title.value_or(QString()));
+    cell->textLabel()->setNumberOfLines(0);
+    cell->detailTextLabel()->setNumberOfLines(0);
+    cell->detailTextLabel()->setText(issue.issueDescription.value_or(QString()));
+    return cell;
+}
+
+void WZTPackageIssuesViewController::addNewIssue(UIBarButtonItem *)
+{
+    const auto address = reinterpret_cast<quintptr>(m_package.get());
+    NSLog(u"Add new issue to package: <WZTPackage: 0x%1>"_s.arg(address, 0, 16));
+    presentViewController(
+        make<UINavigationController>(make<WZTIssueReporterViewController>(m_package)), true);
+}
+
+void WZTPackageIssuesViewController::cancel(UIBarButtonItem *)
+{
+    dismissViewControllerAnimated(true);
+}
