@@ -3,7 +3,7 @@
 #include "model/WZTPackageIssue.h"
 
 #include "model/ServiceDate.h"
-#include "platform/foundation/base/NSNumberReading.h"
+#include "platform/foundation/base/NumberReading.h"
 #include "platform/foundation/coding/NSCoder.h"
 
 #include <QJsonObject>

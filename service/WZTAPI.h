@@ -4,7 +4,7 @@
 
 #include "model/WZTPackageIssue.h"
 #include "model/WZTUser.h"
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 
 #include <QList>
 

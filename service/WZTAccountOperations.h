@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "service/WZTRequest.h"
 
 /// The code that stands for a text under "result".

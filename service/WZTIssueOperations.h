@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "service/WZTRequest.h"
 
 /// The list of a project's issues: its request, and the codes that its outcomes are reported as.

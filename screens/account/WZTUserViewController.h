@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/WZTUser.h"
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "platform/uikit/tables/UITableViewController.h"
 #include "screens/common/MessageAlert.h"
 

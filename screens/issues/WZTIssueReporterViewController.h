@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/WZTPackage.h"
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "platform/uikit/alerts/UIAlertAction.h"
 #include "platform/xlform/XLFormViewController.h"
 

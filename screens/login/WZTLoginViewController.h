@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/base/NSTypes.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "platform/uikit/controls/UIActivityIndicatorView.h"
 #include "platform/uikit/controls/UIButton.h"
 #include "platform/uikit/controls/UIImageView.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/base/NSNumberReading.h"
+#include "platform/foundation/base/NumberReading.h"
 #include "tests/support/TestRunner.h"
 
 #include <QJsonArray>

@@ -33,11 +33,11 @@ NSURLSession::dataTaskWithRequest(const NSMutableURLRequest &request,
                                   NSURLSessionDataTask::Completion completion)
 {
     return std::make_shared<NSURLSessionDataTask>(request, std::move(completion),
-                                                  std::weak_ptr<NSURLSessionQueue>());
+                                                  std::weak_ptr<TaskQueue>());
 }
 
 NSURLSessionDataTask::NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
-                                           std::weak_ptr<NSURLSessionQueue> queue)
+                                           std::weak_ptr<TaskQueue> queue)
     : m_request(std::move(request)), m_completion(std::move(completion)), m_queue(std::move(queue))
 {
 }
@@ -47,7 +47,7 @@ void NSURLSessionDataTask::resume()
     complete(currentReply, std::nullopt);
 }
 
-void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<NSURLErrorCode>)
+void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<URLErrorCode>)
 {
     m_completion(data, std::nullopt);
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/coding/NSCoder.h"
 
-#include "platform/foundation/base/NSNumberReading.h"
+#include "platform/foundation/base/NumberReading.h"
 
 namespace {
 

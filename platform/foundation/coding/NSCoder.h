@@ -31,7 +31,7 @@ public:
 
     /// Text as it stands, a number as its decimal text.
     [[nodiscard]] std::optional<QString> decodeStringForKey(const QString &key) const;
-    /// The intValue of a number or a text (see NSNumberReading.h).
+    /// The intValue of a number or a text (see NumberReading.h).
     [[nodiscard]] int decodeIntForKey(const QString &key) const;
     [[nodiscard]] std::optional<NSDate> decodeDateForKey(const QString &key) const;
     /// A number is true when it is not 0.

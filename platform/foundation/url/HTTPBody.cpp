@@ -41,7 +41,7 @@ bool HTTPBody::setCoding(QByteArray coding)
     return inflateInit2(m_inflater.get(), gzipWindow) == Z_OK;
 }
 
-std::optional<NSURLErrorCode> HTTPBody::append(const char *bytes, size_t length)
+std::optional<URLErrorCode> HTTPBody::append(const char *bytes, size_t length)
 {
     if (length > maximumReceived - m_received) {
         return NSURLErrorDataLengthExceedsMaximum;
@@ -50,7 +50,7 @@ std::optional<NSURLErrorCode> HTTPBody::append(const char *bytes, size_t length)
     return m_inflater ? inflate(bytes, length) : add(bytes, length);
 }
 
-std::optional<NSURLErrorCode> HTTPBody::add(const char *bytes, size_t length)
+std::optional<URLErrorCode> HTTPBody::add(const char *bytes, size_t length)
 {
     if (static_cast<qsizetype>(length) > m_maximumLength - m_decoded.size()) {
         return NSURLErrorDataLengthExceedsMaximum;
@@ -59,7 +59,7 @@ std::optional<NSURLErrorCode> HTTPBody::add(const char *bytes, size_t length)
     return std::nullopt;
 }
 
-std::optional<NSURLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
+std::optional<URLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
 {
     std::array<char, size_t{64} * 1024> piece;
     z_stream &stream = *m_inflater;

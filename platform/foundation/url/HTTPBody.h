@@ -26,7 +26,7 @@ public:
     [[nodiscard]] bool setCoding(QByteArray coding);
 
     /// Takes bytes as they came over the wire; says why the transfer must end.
-    [[nodiscard]] std::optional<NSURLErrorCode> append(const char *bytes, size_t length);
+    [[nodiscard]] std::optional<URLErrorCode> append(const char *bytes, size_t length);
 
     /// Whether no coded byte is missing at its end. A body that is not coded cannot tell.
     [[nodiscard]] bool isWhole() const { return !m_inflater || m_isWhole; }
@@ -34,8 +34,8 @@ public:
     [[nodiscard]] const QByteArray &decoded() const { return m_decoded; }
 
 private:
-    [[nodiscard]] std::optional<NSURLErrorCode> add(const char *bytes, size_t length);
-    [[nodiscard]] std::optional<NSURLErrorCode> inflate(const char *bytes, size_t length);
+    [[nodiscard]] std::optional<URLErrorCode> add(const char *bytes, size_t length);
+    [[nodiscard]] std::optional<URLErrorCode> inflate(const char *bytes, size_t length);
 
     qsizetype m_maximumLength;
     size_t m_received = 0;

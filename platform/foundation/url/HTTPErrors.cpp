@@ -14,7 +14,7 @@ constexpr long tooLarge = 100;
 
 struct ErrorRow {
     long reported;
-    NSURLErrorCode code;
+    URLErrorCode code;
 };
 
 /// By CURLcode. Anything that is not listed is NSURLErrorUnknown.
@@ -50,8 +50,7 @@ constexpr std::array certificateTable{
 };
 
 template <size_t size>
-NSURLErrorCode lookUp(const std::array<ErrorRow, size> &table, long reported,
-                      NSURLErrorCode otherwise)
+URLErrorCode lookUp(const std::array<ErrorRow, size> &table, long reported, URLErrorCode otherwise)
 {
     const auto *row = std::find_if(table.begin(), table.end(),
                                    [&](const ErrorRow &r) { return r.reported == reported; });
@@ -60,7 +59,7 @@ NSURLErrorCode lookUp(const std::array<ErrorRow, size> &table, long reported,
 
 } // namespace
 
-NSURLErrorCode HTTPErrors::codeOf(void *easy, int reported)
+URLErrorCode HTTPErrors::codeOf(void *easy, int reported)
 {
     if (reported != CURLE_PEER_FAILED_VERIFICATION) {
         return lookUp(errorTable, reported, NSURLErrorUnknown);

@@ -8,6 +8,6 @@ namespace HTTPErrors {
 
 /// What a transfer's end is called. `reported`: libcurl's CURLcode, not that for success; `easy`:
 /// the handle that it was reported for.
-[[nodiscard]] NSURLErrorCode codeOf(void *easy, int reported);
+[[nodiscard]] URLErrorCode codeOf(void *easy, int reported);
 
 } // namespace HTTPErrors

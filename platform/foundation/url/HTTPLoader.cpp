@@ -27,7 +27,7 @@ struct HTTPLoader::State {
     std::vector<std::unique_ptr<Running>> all;
 
     std::unique_ptr<Running> take(const Running *running);
-    void finish(const Running *running, std::optional<NSURLErrorCode> error);
+    void finish(const Running *running, std::optional<URLErrorCode> error);
     void ended(Running &running, CURLcode result);
     void redirect(Running &running, const NSMutableURLRequest &next);
     void finishTimedOut();
@@ -44,7 +44,7 @@ std::unique_ptr<Running> HTTPLoader::State::take(const Running *running)
     return taken;
 }
 
-void HTTPLoader::State::finish(const Running *running, std::optional<NSURLErrorCode> error)
+void HTTPLoader::State::finish(const Running *running, std::optional<URLErrorCode> error)
 {
     const std::unique_ptr<Running> taken = take(running);
     taken->finished({error ? QByteArray() : taken->transfer.body(), error});

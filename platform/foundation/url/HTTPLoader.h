@@ -18,7 +18,7 @@ public:
     /// The decoded body, or nothing of it and why.
     struct Result {
         QByteArray body;
-        std::optional<NSURLErrorCode> error;
+        std::optional<URLErrorCode> error;
     };
     /// Called once for each transfer, from start(), wait() or cancelAll(). May call start().
     using Finished = std::function<void(const Result &)>;

@@ -33,7 +33,7 @@ QByteArrayView askedBy(QByteArrayView url)
 
 } // namespace
 
-std::optional<NSURLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLRequest &request)
+std::optional<URLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLRequest &request)
 {
     const std::optional<URLOrigin> origin = URLOrigin::of(request.URL());
     if (!origin) {
@@ -165,7 +165,7 @@ void HTTPTransfer::takeHead()
     }
 }
 
-std::optional<NSURLErrorCode> HTTPTransfer::failure(int reported) const
+std::optional<URLErrorCode> HTTPTransfer::failure(int reported) const
 {
     if (m_refusal) {
         return m_refusal;
@@ -225,7 +225,7 @@ std::optional<NSMutableURLRequest> HTTPTransfer::redirection() const
 
 /// Redirects are followed here and not by libcurl, which would go to any host, ask the same thing
 /// over and over and, for a "POST", send it again or turn it into a "GET".
-std::optional<NSURLErrorCode> HTTPTransfer::redirect(const NSMutableURLRequest &next)
+std::optional<URLErrorCode> HTTPTransfer::redirect(const NSMutableURLRequest &next)
 {
     const QByteArrayView target = askedBy(next.URL());
     if (m_asked.front().HTTPMethod() != "GET" || URLOrigin::of(next.URL()) != m_origin) {

@@ -22,7 +22,7 @@ public:
     using Clock = std::chrono::steady_clock;
 
     /// Why the request cannot be sent at all; only others may be transferred.
-    [[nodiscard]] static std::optional<NSURLErrorCode>
+    [[nodiscard]] static std::optional<URLErrorCode>
     objectionTo(const NSMutableURLRequest &request);
 
     HTTPTransfer(const NSMutableURLRequest &request, const NSURLSessionConfiguration &configuration,
@@ -36,13 +36,13 @@ public:
     [[nodiscard]] Clock::time_point lastActivity() const { return m_lastActivity; }
 
     /// Why there is no whole reply. `reported`: the CURLcode that the transfer ended with.
-    [[nodiscard]] std::optional<NSURLErrorCode> failure(int reported) const;
+    [[nodiscard]] std::optional<URLErrorCode> failure(int reported) const;
 
     /// Asks where a whole reply says that the answer is; nil if it is the answer.
     [[nodiscard]] std::optional<NSMutableURLRequest> redirection() const;
 
     /// Makes ready to send `next` instead, or says why it must not be sent.
-    [[nodiscard]] std::optional<NSURLErrorCode> redirect(const NSMutableURLRequest &next);
+    [[nodiscard]] std::optional<URLErrorCode> redirect(const NSMutableURLRequest &next);
 
     /// The decoded body of a whole reply.
     [[nodiscard]] const QByteArray &body() const { return m_body.decoded(); }
@@ -78,5 +78,5 @@ private:
     size_t m_headLength = 0;
     bool m_hasHead = false;
     HTTPBody m_body;
-    std::optional<NSURLErrorCode> m_refusal;
+    std::optional<URLErrorCode> m_refusal;
 };

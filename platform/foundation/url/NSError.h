@@ -16,7 +16,7 @@ struct NSError {
 inline constexpr char16_t NSURLErrorDomain[] = u"NSURLErrorDomain";
 
 /// The platform's public URL loading error codes, as far as a URL session reports them.
-enum NSURLErrorCode : int {
+enum URLErrorCode : int {
     NSURLErrorUnknown = -1,
     NSURLErrorCancelled = -999,
     NSURLErrorBadURL = -1000,

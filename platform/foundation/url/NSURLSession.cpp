@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/url/NSURLSession.h"
 
-#include "platform/foundation/url/NSURLSessionQueue.h"
+#include "platform/foundation/url/TaskQueue.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ std::atomic<NSURLSession *> installedSession = nullptr;
 } // namespace
 
 NSURLSession::NSURLSession(const NSURLSessionConfiguration &configuration)
-    : m_queue(std::make_shared<NSURLSessionQueue>(configuration)),
+    : m_queue(std::make_shared<TaskQueue>(configuration)),
       m_thread([queue = m_queue] { queue->run(); })
 {
 }

@@ -4,7 +4,7 @@
 
 #include "platform/foundation/url/NSURLSessionConfiguration.h"
 #include "platform/foundation/url/NSURLSessionDataTask.h"
-#include "platform/foundation/url/NSURLSessionThread.h"
+#include "platform/foundation/url/SessionThread.h"
 
 /// An asynchronous HTTPS client on one thread of its own, asleep while nothing is under way.
 ///
@@ -41,12 +41,12 @@ public:
     /// exactly once after `resume()`, on the session's own thread (on the resuming thread, with
     /// NSURLErrorCancelled, if the session is gone by then), and must not block for long: every
     /// other task waits for it.
-    /// Errors are of the domain NSURLErrorDomain, their codes those of NSURLErrorCode.
+    /// Errors are of the domain NSURLErrorDomain, their codes those of URLErrorCode.
     [[nodiscard]] std::shared_ptr<NSURLSessionDataTask>
     dataTaskWithRequest(const NSMutableURLRequest &request,
                         NSURLSessionDataTask::Completion completion);
 
 private:
-    std::shared_ptr<NSURLSessionQueue> m_queue;
-    NSURLSessionThread m_thread;
+    std::shared_ptr<TaskQueue> m_queue;
+    SessionThread m_thread;
 };

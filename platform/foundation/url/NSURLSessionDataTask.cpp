@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/url/NSURLSessionDataTask.h"
 
-#include "platform/foundation/url/NSURLSessionQueue.h"
+#include "platform/foundation/url/TaskQueue.h"
 
 NSURLSessionDataTask::NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
-                                           std::weak_ptr<NSURLSessionQueue> queue)
+                                           std::weak_ptr<TaskQueue> queue)
     : m_request(std::move(request)), m_completion(std::move(completion)), m_queue(std::move(queue))
 {
 }
@@ -15,13 +15,13 @@ void NSURLSessionDataTask::resume()
     if (m_resumed.test_and_set()) {
         return;
     }
-    const std::shared_ptr<NSURLSessionQueue> queue = m_queue.lock();
+    const std::shared_ptr<TaskQueue> queue = m_queue.lock();
     if (!queue || !queue->enqueue(shared_from_this())) {
         complete({}, NSURLErrorCancelled);
     }
 }
 
-void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<NSURLErrorCode> code)
+void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<URLErrorCode> code)
 {
     // What the completion holds is let go as soon as it has run.
     const Completion completion = std::exchange(m_completion, {});

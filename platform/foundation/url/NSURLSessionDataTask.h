@@ -10,7 +10,7 @@
 #include <memory>
 #include <optional>
 
-class NSURLSessionQueue;
+class TaskQueue;
 
 /// One request on its way. Made by NSURLSession::dataTaskWithRequest.
 class NSURLSessionDataTask : public std::enable_shared_from_this<NSURLSessionDataTask> {
@@ -20,7 +20,7 @@ public:
         std::function<void(const QByteArray &data, const std::optional<NSError> &error)>;
 
     NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
-                         std::weak_ptr<NSURLSessionQueue> queue);
+                         std::weak_ptr<TaskQueue> queue);
 
     /// Sends the request. Any thread. Once only, a second call does nothing; a task that is
     /// never resumed is never sent and never completes. The task may be dropped right after.
@@ -29,11 +29,11 @@ public:
     [[nodiscard]] const NSMutableURLRequest &originalRequest() const { return m_request; }
 
 private:
-    friend class NSURLSessionQueue;
-    void complete(const QByteArray &data, std::optional<NSURLErrorCode> code);
+    friend class TaskQueue;
+    void complete(const QByteArray &data, std::optional<URLErrorCode> code);
 
     NSMutableURLRequest m_request;
     Completion m_completion;
-    std::weak_ptr<NSURLSessionQueue> m_queue;
+    std::weak_ptr<TaskQueue> m_queue;
     std::atomic_flag m_resumed;
 };

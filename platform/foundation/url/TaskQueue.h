@@ -12,11 +12,11 @@
 class NSURLSessionDataTask;
 
 /// Hands resumed tasks over to the thread of their session.
-class NSURLSessionQueue {
+class TaskQueue {
 public:
     using Task = std::shared_ptr<NSURLSessionDataTask>;
 
-    explicit NSURLSessionQueue(const NSURLSessionConfiguration &configuration);
+    explicit TaskQueue(const NSURLSessionConfiguration &configuration);
 
     /// False, and nothing done, once run() no longer takes tasks. Any thread.
     [[nodiscard]] bool enqueue(const Task &task);

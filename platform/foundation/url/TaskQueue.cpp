@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/NSURLSessionQueue.h"
+#include "platform/foundation/url/TaskQueue.h"
 
 #include "platform/foundation/url/NSURLSessionDataTask.h"
 
-NSURLSessionQueue::NSURLSessionQueue(const NSURLSessionConfiguration &configuration)
-    : m_loader(configuration)
-{
-}
+TaskQueue::TaskQueue(const NSURLSessionConfiguration &configuration) : m_loader(configuration) {}
 
-bool NSURLSessionQueue::enqueue(const Task &task)
+bool TaskQueue::enqueue(const Task &task)
 {
     const std::lock_guard lock(m_mutex);
     if (m_closed) {
@@ -20,14 +17,14 @@ bool NSURLSessionQueue::enqueue(const Task &task)
     return true;
 }
 
-void NSURLSessionQueue::stop()
+void TaskQueue::stop()
 {
     const std::lock_guard lock(m_mutex);
     m_stopping = true;
     m_loader.wake();
 }
 
-void NSURLSessionQueue::run()
+void TaskQueue::run()
 {
     for (;;) {
         const Arrival arrival = takeArrivals();
@@ -43,19 +40,19 @@ void NSURLSessionQueue::run()
     cancelArrivals();
 }
 
-NSURLSessionQueue::Arrival NSURLSessionQueue::takeArrivals()
+TaskQueue::Arrival TaskQueue::takeArrivals()
 {
     const std::lock_guard lock(m_mutex);
     return {std::exchange(m_incoming, {}), m_stopping};
 }
 
-void NSURLSessionQueue::start(const Task &task)
+void TaskQueue::start(const Task &task)
 {
     m_loader.start(task->originalRequest(),
                    [this, task](const HTTPLoader::Result &result) { complete(task, result); });
 }
 
-void NSURLSessionQueue::complete(const Task &task, const HTTPLoader::Result &result) const
+void TaskQueue::complete(const Task &task, const HTTPLoader::Result &result) const
 {
     if (!m_abandoned) {
         task->complete(result.body, result.error);
@@ -63,7 +60,7 @@ void NSURLSessionQueue::complete(const Task &task, const HTTPLoader::Result &res
 }
 
 /// Completions may resume further tasks; the queue closes when there are no more.
-void NSURLSessionQueue::cancelArrivals()
+void TaskQueue::cancelArrivals()
 {
     for (;;) {
         std::unique_lock lock(m_mutex);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/NSURLSessionThread.h"
+#include "platform/foundation/url/SessionThread.h"
 
 #include <atomic>
 #include <chrono>
@@ -40,7 +40,7 @@ void skipWhatIsInUse(int status, void *)
 
 } // namespace
 
-NSURLSessionThread::NSURLSessionThread(std::function<void()> life)
+SessionThread::SessionThread(std::function<void()> life)
 {
     std::promise<void> ended;
     m_ended = ended.get_future();
@@ -54,7 +54,7 @@ NSURLSessionThread::NSURLSessionThread(std::function<void()> life)
     });
 }
 
-bool NSURLSessionThread::end()
+bool SessionThread::end()
 {
     if (m_ended.wait_for(patience) == std::future_status::ready) {
         m_thread.join();

@@ -10,13 +10,13 @@
 
 /// The thread of a URL session. It leaves every signal to the others, and keeps no program from
 /// ending.
-class NSURLSessionThread {
+class SessionThread {
 public:
     /// Starts it: it calls `life`, and ends.
-    explicit NSURLSessionThread(std::function<void()> life);
+    explicit SessionThread(std::function<void()> life);
     /// After end().
-    ~NSURLSessionThread() = default;
-    Q_DISABLE_COPY_MOVE(NSURLSessionThread)
+    ~SessionThread() = default;
+    Q_DISABLE_COPY_MOVE(SessionThread)
 
     /// Waits until `life` has returned, for a second at most. False: it has not, and the thread is
     /// left alone from now on, until the process ends.
