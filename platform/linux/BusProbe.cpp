@@ -47,8 +47,8 @@ int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
         static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + static_cast<size_t>(name.size()));
     const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const qint64 left = std::max(qint64{1}, deadline.remainingTime()); // 0 would be for ever
-    const timeval patience{.tv_sec = left / 1000, .tv_usec = left % 1000 * 1000};
-    setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
+    const timeval timeout{.tv_sec = left / 1000, .tv_usec = left % 1000 * 1000};
+    setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof timeout);
     if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0) {
         return descriptor;
     }

@@ -15,16 +15,16 @@
 std::chrono::milliseconds LinuxHost::prepare()
 {
     SingleInstance::prepareEnvironment();
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(startTimeout);
     if (!SessionBus::probe(deadline)) {
         qInfo("The session bus does not answer: this start does without it.");
     }
     return std::chrono::milliseconds(deadline.remainingTime());
 }
 
-LinuxHost::LinuxHost(const QString &applicationId, std::chrono::milliseconds patienceLeft)
+LinuxHost::LinuxHost(const QString &applicationId, std::chrono::milliseconds remainingTime)
     : m_applicationId(applicationId),
-      m_patienceLeft(patienceLeft),
+      m_remainingTime(remainingTime),
       m_bus(std::make_unique<SessionBus>())
 {
 }
@@ -49,30 +49,30 @@ void LinuxHost::impactOccurred(UIImpactFeedbackStyle /*style*/)
 void LinuxHost::observeAppearance(std::function<void(const UIAppearance &)> changed)
 {
     m_appearanceChanged = std::move(changed);
-    m_told = {};
+    m_reportedAppearance = {};
     if (!m_palette) {
-        m_palette = std::make_unique<DesktopPalette>([this] { tellAppearance(); });
+        m_palette = std::make_unique<DesktopPalette>([this] { reportAppearance(); });
         m_settings =
-            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { tellAppearance(); });
+            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { reportAppearance(); });
     }
-    tellAppearance();
+    reportAppearance();
 }
 
-void LinuxHost::tellAppearance()
+void LinuxHost::reportAppearance()
 {
     UIAppearance appearance = m_settings->appearance();
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {
         appearance.style = m_palette->style();
     }
-    if (appearance == m_told) {
+    if (appearance == m_reportedAppearance) {
         return;
     }
-    m_told = appearance;
+    m_reportedAppearance = appearance;
     m_appearanceChanged(appearance);
 }
 
-bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
-                                   std::function<void(const QStringList &)> opened)
+bool LinuxHost::claimSingleInstance(const QStringList &urls,
+                                    std::function<void(const QStringList &)> opened)
 {
     if (!m_bus->isConnected()) {
         if (!SessionBus::isDisabled()) {
@@ -82,10 +82,10 @@ bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
     }
     m_instance =
         std::make_unique<SingleInstance>(m_bus->connection(), m_applicationId, std::move(opened));
-    return m_instance->claimOrHandOver(urls, QDeadlineTimer(m_patienceLeft));
+    return m_instance->claimOrHandOver(urls, QDeadlineTimer(m_remainingTime));
 }
 
-void LinuxHost::resignOnlyInstance()
+void LinuxHost::releaseSingleInstance()
 {
     m_instance.reset();
 }

@@ -18,17 +18,17 @@ class SingleInstance;
 class LinuxHost final : public UIHost {
 public:
     /// How long a start waits for the desktop, all in all.
-    static constexpr std::chrono::milliseconds patience = std::chrono::seconds(1);
+    static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
 
     /// Makes sure that the session bus does not hold up the application object, whose plugins use
     /// it: one that does not answer is out of use from then on. Before that object is made.
-    /// Returns what is left of `patience`.
+    /// Returns what is left of `startTimeout`.
     [[nodiscard]] static std::chrono::milliseconds prepare();
 
     /// `applicationId` is the reverse-DNS name under which the desktop knows the application.
-    /// `patienceLeft` is what `prepare` returned.
+    /// `remainingTime` is what `prepare` returned.
     explicit LinuxHost(const QString &applicationId,
-                       std::chrono::milliseconds patienceLeft = patience);
+                       std::chrono::milliseconds remainingTime = startTimeout);
     ~LinuxHost() override;
     Q_DISABLE_COPY_MOVE(LinuxHost)
 
@@ -36,20 +36,21 @@ public:
     void openURL(const QString &url) override;
     void impactOccurred(UIImpactFeedbackStyle style) override;
     void observeAppearance(std::function<void(const UIAppearance &)> changed) override;
-    [[nodiscard]] bool becomeOnlyInstance(const QStringList &urls,
-                                          std::function<void(const QStringList &)> opened) override;
+    [[nodiscard]] bool
+    claimSingleInstance(const QStringList &urls,
+                        std::function<void(const QStringList &)> opened) override;
     /// A later start of the application is on its own from now on.
-    void resignOnlyInstance();
+    void releaseSingleInstance();
 
 private:
-    void tellAppearance();
+    void reportAppearance();
 
     QString m_applicationId;
-    std::chrono::milliseconds m_patienceLeft;
+    std::chrono::milliseconds m_remainingTime;
     std::unique_ptr<SessionBus> m_bus;
     std::unique_ptr<DesktopSettings> m_settings;
     std::unique_ptr<DesktopPalette> m_palette;
     std::unique_ptr<SingleInstance> m_instance;
     std::function<void(const UIAppearance &)> m_appearanceChanged;
-    UIAppearance m_told;
+    UIAppearance m_reportedAppearance;
 };

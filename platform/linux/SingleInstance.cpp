@@ -93,7 +93,7 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
 
 SingleInstance::~SingleInstance()
 {
-    m_bus.send(askBus(u"ReleaseName"_s, {m_name}));
+    m_bus.send(busCall(u"ReleaseName"_s, {m_name}));
     m_bus.unregisterObject(m_path);
 }
 
@@ -112,7 +112,7 @@ bool SingleInstance::claimOrHandOver(const QStringList &urls, QDeadlineTimer dea
     return true;
 }
 
-QDBusMessage SingleInstance::askBus(const QString &method, const QVariantList &arguments) const
+QDBusMessage SingleInstance::busCall(const QString &method, const QVariantList &arguments) const
 {
     const QString bus = u"org.freedesktop.DBus"_s;
     QDBusMessage message =
@@ -127,7 +127,7 @@ SingleInstance::Claim SingleInstance::claim(QDeadlineTimer deadline)
     constexpr uint owner = 1;
     constexpr uint ownedByAnother = 3;
     constexpr uint alreadyOwner = 4;
-    const QDBusMessage reply = m_bus.call(askBus(u"RequestName"_s, {m_name, doNotQueue}),
+    const QDBusMessage reply = m_bus.call(busCall(u"RequestName"_s, {m_name, doNotQueue}),
                                           QDBus::Block, static_cast<int>(deadline.remainingTime()));
     const uint code =
         reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toUInt() : 0;
@@ -161,18 +161,18 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
         const EnvironmentTokens tokens(platformData);
         m_opened(urls);
     }
-    trimMemorySoon();
+    scheduleMemoryTrim();
 }
 
 // A call may be long, and the allocator keeps what it once had. A second later the bus connection's
 // thread has freed its copy too.
-void SingleInstance::trimMemorySoon()
+void SingleInstance::scheduleMemoryTrim()
 {
-    if (std::exchange(m_trimming, true)) {
+    if (std::exchange(m_isTrimScheduled, true)) {
         return;
     }
     const auto trim = [this] {
-        m_trimming = false;
+        m_isTrimScheduled = false;
         malloc_trim(0);
     };
     QTimer::singleShot(std::chrono::seconds(1), this, trim);

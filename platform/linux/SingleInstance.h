@@ -46,13 +46,13 @@ private:
     [[nodiscard]] Claim claim(QDeadlineTimer deadline);
     /// Whether the owner has answered.
     [[nodiscard]] bool handOver(const QStringList &urls, QDeadlineTimer deadline);
-    [[nodiscard]] QDBusMessage askBus(const QString &method, const QVariantList &arguments) const;
+    [[nodiscard]] QDBusMessage busCall(const QString &method, const QVariantList &arguments) const;
 
-    void trimMemorySoon();
+    void scheduleMemoryTrim();
 
     QDBusConnection m_bus;
     QString m_name;
     QString m_path;
     std::function<void(const QStringList &)> m_opened;
-    bool m_trimming = false;
+    bool m_isTrimScheduled = false;
 };

@@ -14,13 +14,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The program as a later start of the application: uses all of the port, then says what it is.
-int startApplication(QStringList arguments, std::chrono::milliseconds patience)
+int startApplication(QStringList arguments, std::chrono::milliseconds remainingTime)
 {
-    LinuxHost host(arguments.takeFirst(), patience);
+    LinuxHost host(arguments.takeFirst(), remainingTime);
     host.observeAppearance([](const UIAppearance &) {});
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
-    return std::puts(host.becomeOnlyInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
+    return std::puts(host.claimSingleInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
 }
 
 } // namespace
@@ -28,9 +28,9 @@ int startApplication(QStringList arguments, std::chrono::milliseconds patience)
 int main(int argc, char **argv)
 {
     if (argc > 2 && qstrcmp(argv[1], "--start") == 0) {
-        const auto patience = LinuxHost::prepare();
+        const auto remainingTime = LinuxHost::prepare();
         const QGuiApplication application(argc, argv);
-        return startApplication(QCoreApplication::arguments().sliced(2), patience);
+        return startApplication(QCoreApplication::arguments().sliced(2), remainingTime);
     }
     const TestSession session;
     (void)LinuxHost::prepare();
