@@ -3,7 +3,7 @@
 #include "sandbox/Sandbox.h"
 
 #include "sandbox/Service.h"
-#include "sandbox/faults/FaultLine.h"
+#include "sandbox/faults/StageCommand.h"
 
 #include <QCryptographicHash>
 
@@ -117,17 +117,17 @@ int Sandbox::issueCount() const
 
 void Sandbox::stage(const QByteArray &path, const Fault &fault, int count)
 {
-    m_service->book.stage(path, fault, count);
+    m_service->stagedFaults.stage(path, fault, count);
 }
 
-void Sandbox::receive(Reception reception, int count)
+void Sandbox::stageConnection(ConnectionKind kind, int count)
 {
-    m_service->book.receive(reception, count);
+    m_service->stagedFaults.stageConnection(kind, count);
 }
 
 QString Sandbox::stageLine(const QString &line)
 {
-    return sandbox::stageLine(m_service->book, line);
+    return sandbox::stageLine(m_service->stagedFaults, line);
 }
 
 void Sandbox::clear()

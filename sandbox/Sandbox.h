@@ -3,7 +3,7 @@
 #pragma once
 
 #include "sandbox/faults/Fault.h"
-#include "sandbox/http/Reception.h"
+#include "sandbox/http/ConnectionKind.h"
 #include "sandbox/http/Request.h"
 #include "sandbox/storage/Account.h"
 #include "sandbox/storage/Issue.h"
@@ -99,7 +99,7 @@ public:
     void stage(const QByteArray &path, const Fault &fault, int count = 1);
     /// Receives the next `count` connections in that way; a negative count lasts until clear().
     /// Connections that are open already are not affected.
-    void receive(Reception reception, int count = 1);
+    void stageConnection(ConnectionKind kind, int count = 1);
     /// Stages what one line says, as the control socket takes it (see README.md). Returns an empty
     /// text, or what is wrong with the line.
     QString stageLine(const QString &line);

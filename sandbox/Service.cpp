@@ -21,7 +21,7 @@ namespace sandbox {
 namespace {
 
 constexpr qsizetype mostRequests = 1000;
-constexpr auto late = std::chrono::seconds(2);
+constexpr auto handshakeDelay = std::chrono::seconds(2);
 
 } // namespace
 
@@ -37,7 +37,7 @@ Service::Service(const Sandbox::Options &given)
           std::max(2U, std::thread::hardware_concurrency()))),
       server([this](const Request &request,
                     const HttpsServer::Answer &answer) { handle(request, answer); },
-             [this] { return welcome(book.takeReception()); })
+             [this] { return settings(stagedFaults.takeConnectionKind()); })
 {
     m_router.add(m_accountEndpoints.endpoints());
     m_router.add(m_issueEndpoints.endpoints());
@@ -77,13 +77,13 @@ void Service::clear()
 {
     const std::lock_guard guard(m_mutex);
     m_requests.clear();
-    book.clear();
+    stagedFaults.clear();
 }
 
-HttpsServer::Welcome Service::welcome(Reception reception) const
+HttpsServer::ConnectionSettings Service::settings(ConnectionKind kind) const
 {
-    return {m_certificates.context(reception),
-            reception == Reception::Late ? late : std::chrono::seconds(0)};
+    return {m_certificates.context(kind),
+            kind == ConnectionKind::LateHandshake ? handshakeDelay : std::chrono::seconds(0)};
 }
 
 void Service::handle(const Request &request, const HttpsServer::Answer &answer)
@@ -95,7 +95,7 @@ void Service::handle(const Request &request, const HttpsServer::Answer &answer)
             m_requests.removeFirst();
         }
         m_requests.append(request);
-        fault = book.takeFault(request.path);
+        fault = stagedFaults.takeFault(request.path);
     }
     if (fault && !fault->sendsRealAnswer()) {
         log(request, u"staged"_s);

@@ -6,7 +6,7 @@
 #include "sandbox/certificates/Certificates.h"
 #include "sandbox/endpoints/AccountEndpoints.h"
 #include "sandbox/endpoints/IssueEndpoints.h"
-#include "sandbox/faults/StageBook.h"
+#include "sandbox/faults/StagedFaults.h"
 #include "sandbox/http/HttpsServer.h"
 #include "sandbox/storage/DirectoryLock.h"
 
@@ -32,7 +32,7 @@ public:
     void clear();
 
 private:
-    [[nodiscard]] HttpsServer::Welcome welcome(Reception reception) const;
+    [[nodiscard]] HttpsServer::ConnectionSettings settings(ConnectionKind kind) const;
     [[nodiscard]] Reply answerTo(const Request &request) const;
     void handle(const Request &request, const HttpsServer::Answer &answer);
     void log(const Request &request, const QString &outcome) const;
@@ -48,7 +48,7 @@ public:
     AccountStore store{database};
     IssueStore issues{database, clock};
     Outbox outbox;
-    StageBook book;
+    StagedFaults stagedFaults;
 
 private:
     DirectoryLock m_lock;

@@ -4,7 +4,7 @@
 #include "sandbox/DemoAccounts.h"
 #include "sandbox/DemoIssues.h"
 #include "sandbox/Sandbox.h"
-#include "sandbox/faults/FaultLine.h"
+#include "sandbox/faults/StageCommand.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -54,7 +54,7 @@ void parse(QCommandLineParser &parser, const QCoreApplication &application)
         u"Lines for --stage, and for the socket DIR/control; a count may follow each but the "
         u"last,\n"
         u"1 if left out, -1 for no end; a word with blanks stands between apostrophes:\n"_s
-        + sandbox::faultHelp());
+        + sandbox::stageCommandHelp());
     parser.addHelpOption();
     parser.addOptions(options());
     parser.process(application);

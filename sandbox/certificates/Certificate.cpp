@@ -128,7 +128,7 @@ QByteArray Certificate::keyPem() const
     return contents(bio);
 }
 
-bool Certificate::isGood(const Certificate &issuer, qint64 now, qint64 until) const
+bool Certificate::isValid(const Certificate &issuer, qint64 now, qint64 until) const
 {
     time_t begin = time_t(now);
     time_t end = time_t(until);

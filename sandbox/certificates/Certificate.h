@@ -23,7 +23,7 @@ struct Certificate {
     [[nodiscard]] QByteArray keyPem() const;
     /// Whether it is in date at both moments (seconds since 1970) and signed by the issuer, which
     /// may be itself.
-    [[nodiscard]] bool isGood(const Certificate &issuer, qint64 now, qint64 until) const;
+    [[nodiscard]] bool isValid(const Certificate &issuer, qint64 now, qint64 until) const;
 };
 
 /// Makes an authority that may sign for localhost and the loopback addresses only, and through no

@@ -108,7 +108,7 @@ QString Certificates::openAuthority(const QString &directory, qint64 now)
 {
     const QString stem = directory + u"/ca"_s;
     const auto kept = readPair(stem);
-    if (kept && kept->isGood(*kept, now, now + leafLife)) {
+    if (kept && kept->isValid(*kept, now, now + leafLife)) {
         m_authority = *kept;
         return {};
     }
@@ -124,7 +124,7 @@ QString Certificates::openLeaf(const QString &directory, qint64 now)
 {
     const QString stem = directory + u"/server"_s;
     const auto kept = readPair(stem);
-    if (kept && kept->isGood(m_authority, now, now + reserve)) {
+    if (kept && kept->isValid(m_authority, now, now + reserve)) {
         m_leaf = *kept;
         return {};
     }
@@ -158,9 +158,9 @@ QString Certificates::makeContexts(qint64 now)
     return {};
 }
 
-SSL_CTX *Certificates::context(Reception reception) const
+SSL_CTX *Certificates::context(ConnectionKind kind) const
 {
-    const auto index = static_cast<size_t>(reception);
+    const auto index = static_cast<size_t>(kind);
     return index < m_contexts.size() ? m_contexts[index].get() : nullptr;
 }
 

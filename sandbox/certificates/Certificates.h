@@ -3,7 +3,7 @@
 #pragma once
 
 #include "sandbox/certificates/Certificate.h"
-#include "sandbox/http/Reception.h"
+#include "sandbox/http/ConnectionKind.h"
 
 #include <QString>
 
@@ -20,7 +20,7 @@ public:
     /// Reads or makes them. Returns an empty text, or why it cannot. Times in seconds since 1970.
     QString open(const QString &directory, qint64 now);
     /// What a connection of that kind is to be shown; null for one that is shown nothing.
-    [[nodiscard]] SSL_CTX *context(Reception reception) const;
+    [[nodiscard]] SSL_CTX *context(ConnectionKind kind) const;
 
     /// The file with the authority's certificate.
     static QString caFile(const QString &directory);

@@ -95,7 +95,7 @@ Reply AccountEndpoints::login(const Request &request)
     StoredAccount found;
     const Outcome outcome = m_store.find(email, &found);
     if (outcome == Outcome::Missing) {
-        m_hasher.pretend(digest.toUtf8());
+        m_hasher.verifyDummy(digest.toUtf8());
         return resultReply("User Does Not Exist"_L1, statusFor(email));
     }
     if (outcome != Outcome::Done) {
@@ -170,7 +170,7 @@ Reply AccountEndpoints::update(const Request &request)
     StoredAccount found;
     const Outcome outcome = m_store.find(email, &found);
     if (outcome == Outcome::Missing) {
-        m_hasher.pretend(oldDigest.toUtf8());
+        m_hasher.verifyDummy(oldDigest.toUtf8());
         return resultReply("User Not Found"_L1, statusFor(email));
     }
     if (outcome != Outcome::Done) {

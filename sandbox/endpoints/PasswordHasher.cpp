@@ -12,7 +12,7 @@ PasswordHasher::PasswordHasher(size_t memory, unsigned long long passes)
     : m_passes(passes), m_memory(memory)
 {
     if (sodium_init() >= 0) {
-        m_nobodys = hash("nobody");
+        m_dummyHash = hash("nobody");
     }
 }
 

@@ -15,13 +15,13 @@ public:
     PasswordHasher(size_t memory, unsigned long long passes);
 
     /// False if the cryptographic library cannot work with these settings.
-    [[nodiscard]] bool isReady() const { return !m_nobodys.isEmpty(); }
+    [[nodiscard]] bool isReady() const { return !m_dummyHash.isEmpty(); }
     /// An Argon2id hash with its salt and settings, as text; empty when memory is short.
     [[nodiscard]] QString hash(const QByteArray &digest) const;
     /// Whether the hash was made of that digest.
     [[nodiscard]] static bool matches(const QString &hash, const QByteArray &digest);
     /// Takes the time of matches(), so that an unknown address is not told by an early answer.
-    void pretend(const QByteArray &digest) const { (void)matches(m_nobodys, digest); }
+    void verifyDummy(const QByteArray &digest) const { (void)matches(m_dummyHash, digest); }
 
     /// A fast hash, for texts that nobody can guess.
     [[nodiscard]] static QByteArray fingerprint(const QByteArray &text);
@@ -29,7 +29,7 @@ public:
 private:
     unsigned long long m_passes;
     size_t m_memory;
-    QString m_nobodys;
+    QString m_dummyHash;
 };
 
 } // namespace sandbox

@@ -66,8 +66,8 @@ Fault Fault::wrongLength(qint64 difference)
 Fault Fault::drip(qint64 pieceSize, std::chrono::milliseconds pause)
 {
     Fault fault;
-    fault.m_manner.pieceSize = pieceSize;
-    fault.m_manner.pause = pause;
+    fault.m_delivery.pieceSize = pieceSize;
+    fault.m_delivery.pause = pause;
     return fault;
 }
 
@@ -110,14 +110,14 @@ Fault Fault::raw(const QByteArray &bytes)
 Fault Fault::endless()
 {
     Fault fault = json({}).withoutLength();
-    fault.m_manner.isEndless = true;
+    fault.m_delivery.isEndless = true;
     return fault;
 }
 
 Fault Fault::keyUpdates(int count)
 {
     Fault fault;
-    fault.m_manner.keyUpdates = count;
+    fault.m_delivery.keyUpdates = count;
     return fault;
 }
 
@@ -173,7 +173,7 @@ Fault Fault::redirectToPath(const QByteArray &path, int code)
 Fault Fault::after(std::chrono::milliseconds time) const
 {
     Fault fault = *this;
-    fault.m_manner.delay = time;
+    fault.m_delivery.delay = time;
     return fault;
 }
 
@@ -208,7 +208,7 @@ Fault Fault::ending(Transmission::Ending ending) const
 Transmission Fault::transmission(const Request &request, const Reply &real, quint16 port) const
 {
     Reply reply = m_replacement ? m_replacement(request, port) : real;
-    Transmission transmission = m_manner;
+    Transmission transmission = m_delivery;
     transmission.bytes = reply.body;
     transmission.ending = m_ending.value_or(transmissionOf(request, reply).ending);
     if (m_isRaw) {

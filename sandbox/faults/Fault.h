@@ -33,7 +33,7 @@ public:
     /// Headers and the first half of the real answer's body, then a TCP reset.
     static Fault reset();
     /// The first so many bytes of the real answer, its head among them; then TCP is closed without
-    /// the TLS farewell.
+    /// TLS's close_notify.
     static Fault cut(qint64 size);
     /// The real answer under a Content-Length that is off by so many bytes (never below 0); then
     /// the connection is closed. With 0 the length is right.
@@ -104,7 +104,7 @@ private:
     bool m_isRaw = false;
     bool m_isHalved = false;
     /// Delay, pieces, endlessness; its bytes and ending are not looked at.
-    Transmission m_manner;
+    Transmission m_delivery;
     /// Absent: as the client wants it.
     std::optional<Transmission::Ending> m_ending;
 };

@@ -35,7 +35,7 @@ namespace {
 
 constexpr auto handshakeTime = 10s;
 constexpr auto idleTime = 60s;
-constexpr auto farewellTime = 1s;
+constexpr auto shutdownTime = 1s;
 // A field of 64 KiB is more than the parser has room for.
 constexpr std::uint32_t headerLimit = 65'536;
 constexpr std::uint64_t bodyLimit = 65'536;
@@ -69,22 +69,22 @@ public:
     {
     }
 
-    void welcome(std::chrono::milliseconds delay) { pauseThen(delay, &Connection::handshake); }
+    void start(std::chrono::milliseconds delay) { pauseThen(delay, &Connection::handshake); }
 
     // Reads and drops whatever comes, until the client goes.
     template <typename Stream>
-    void outwait(Stream &stream)
+    void readUntilClosed(Stream &stream)
     {
         tcpStream().expires_never();
-        stream.async_read_some(asio::buffer(m_dropped),
+        stream.async_read_some(asio::buffer(m_discarded),
                                [self = shared_from_this(), &stream](error_code error, size_t) {
                                    if (!error) {
-                                       self->outwait(stream);
+                                       self->readUntilClosed(stream);
                                    }
                                });
     }
 
-    void outwait() { outwait(tcpStream()); }
+    void readUntilClosed() { readUntilClosed(tcpStream()); }
 
 private:
     beast::tcp_stream &tcpStream() { return m_stream.next_layer(); }
@@ -114,7 +114,7 @@ private:
     void haveRead(const error_code &error)
     {
         if (error == http::error::end_of_stream) {
-            return farewell();
+            return shutDownTls();
         }
         if (error
             && error.category() != http::make_error_code(http::error::bad_method).category()) {
@@ -222,7 +222,7 @@ private:
         case Transmission::Ending::KeepOpen:
             return read();
         case Transmission::Ending::Close:
-            return farewell();
+            return shutDownTls();
         case Transmission::Ending::Cut:
             return tcpStream().close();
         case Transmission::Ending::Reset: {
@@ -231,7 +231,7 @@ private:
             return tcpStream().close();
         }
         case Transmission::Ending::Silence:
-            return outwait(m_stream);
+            return readUntilClosed(m_stream);
         }
     }
 
@@ -273,9 +273,9 @@ private:
                                         });
     }
 
-    void farewell()
+    void shutDownTls()
     {
-        tcpStream().expires_after(farewellTime);
+        tcpStream().expires_after(shutdownTime);
         m_stream.async_shutdown([self = shared_from_this()](error_code) { self->drain(); });
     }
 
@@ -284,7 +284,7 @@ private:
     {
         error_code ignored;
         tcpStream().socket().shutdown(tcp::socket::shutdown_send, ignored);
-        tcpStream().async_read_some(asio::buffer(m_dropped),
+        tcpStream().async_read_some(asio::buffer(m_discarded),
                                     [self = shared_from_this()](error_code error, size_t) {
                                         if (!error) {
                                             self->drain();
@@ -300,22 +300,22 @@ private:
     std::optional<http::request_parser<http::string_body>> m_parser;
     Transmission m_transmission;
     size_t m_sent = 0;
-    std::array<char, 4096> m_dropped{};
+    std::array<char, 4096> m_discarded{};
 };
 
 } // namespace
 
-void HttpsConnection::start(tcp::socket socket, const HttpsServer::Welcome &welcome,
+void HttpsConnection::start(tcp::socket socket, const HttpsServer::ConnectionSettings &settings,
                             const HttpsServer::Handler &handler)
 {
     error_code ignored;
     socket.set_option(tcp::no_delay(true), ignored);
     const auto connection =
-        std::make_shared<Connection>(std::move(socket), welcome.context, handler);
-    if (welcome.context) {
-        connection->welcome(welcome.delay);
+        std::make_shared<Connection>(std::move(socket), settings.context, handler);
+    if (settings.context) {
+        connection->start(settings.delay);
     } else {
-        connection->outwait();
+        connection->readUntilClosed();
     }
 }
 

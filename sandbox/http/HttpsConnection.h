@@ -14,7 +14,7 @@ namespace HttpsConnection {
 
 /// Starts one: with a handshake that shows the context's certificate, or, without a context, with
 /// nothing. The handler must outlive it.
-void start(boost::asio::ip::tcp::socket socket, const HttpsServer::Welcome &welcome,
+void start(boost::asio::ip::tcp::socket socket, const HttpsServer::ConnectionSettings &settings,
            const HttpsServer::Handler &handler);
 
 } // namespace HttpsConnection

@@ -24,7 +24,7 @@ namespace {
 
 /// One of the two addresses.
 struct Listener {
-    explicit Listener(asio::io_context &io) : acceptor(io), respite(io) {}
+    explicit Listener(asio::io_context &io) : acceptor(io), retryTimer(io) {}
 
     error_code open(const tcp::endpoint &endpoint)
     {
@@ -52,14 +52,14 @@ struct Listener {
     }
 
     tcp::acceptor acceptor;
-    asio::steady_timer respite;
+    asio::steady_timer retryTimer;
 };
 
 } // namespace
 
 struct HttpsServer::State {
     Handler handler;
-    Receiver receiver;
+    ConnectionSetup connectionSettings;
     std::atomic<int> accepted{0};
     quint16 port = 0;
     asio::io_context io{1};
@@ -103,19 +103,19 @@ struct HttpsServer::State {
     {
         listener.acceptor.async_accept([this, &listener](error_code error, tcp::socket socket) {
             if (error) {
-                return rest(listener);
+                return retryLater(listener);
             }
             ++accepted;
             accept(listener); // first: whatever is thrown for this one, the next is taken
-            HttpsConnection::start(std::move(socket), receiver(), handler);
+            HttpsConnection::start(std::move(socket), connectionSettings(), handler);
         });
     }
 
     // Out of file descriptors, most likely: trying again at once would spin.
-    void rest(Listener &listener)
+    void retryLater(Listener &listener)
     {
-        listener.respite.expires_after(100ms);
-        listener.respite.async_wait([this, &listener](error_code error) {
+        listener.retryTimer.expires_after(100ms);
+        listener.retryTimer.async_wait([this, &listener](error_code error) {
             if (!error) {
                 accept(listener);
             }
@@ -123,10 +123,11 @@ struct HttpsServer::State {
     }
 };
 
-HttpsServer::HttpsServer(Handler handler, Receiver receiver) : m_state(std::make_unique<State>())
+HttpsServer::HttpsServer(Handler handler, ConnectionSetup connectionSettings)
+    : m_state(std::make_unique<State>())
 {
     m_state->handler = std::move(handler);
-    m_state->receiver = std::move(receiver);
+    m_state->connectionSettings = std::move(connectionSettings);
 }
 
 HttpsServer::~HttpsServer()

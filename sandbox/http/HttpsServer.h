@@ -25,7 +25,7 @@ public:
     /// Called on the server's thread with each request; must not block.
     using Handler = std::function<void(Request, const Answer &)>;
     /// How a connection is received.
-    struct Welcome {
+    struct ConnectionSettings {
         /// The certificate to show it; null leaves it without a handshake. The server keeps a
         /// reference of its own.
         SSL_CTX *context = nullptr;
@@ -33,9 +33,9 @@ public:
         std::chrono::milliseconds delay{0};
     };
     /// Called on the server's thread for each connection.
-    using Receiver = std::function<Welcome()>;
+    using ConnectionSetup = std::function<ConnectionSettings()>;
 
-    HttpsServer(Handler handler, Receiver receiver);
+    HttpsServer(Handler handler, ConnectionSetup connectionSettings);
     ~HttpsServer();
     Q_DISABLE_COPY_MOVE(HttpsServer)
 

@@ -15,7 +15,7 @@ struct Transmission {
         KeepOpen,
         /// TLS and TCP are closed in good order.
         Close,
-        /// TCP is closed without the TLS farewell: looks like a truncation.
+        /// TCP is closed without TLS's close_notify: looks like a truncation.
         Cut,
         /// A TCP reset.
         Reset,

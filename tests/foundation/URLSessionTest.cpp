@@ -166,7 +166,8 @@ private Q_SLOTS:
             {"compression of another kind", "GET", coded("hello", "br"), undecodable},
             {"compressed for the way", "GET", framed, undecodable},
             {"end without a length", "GET", unmeasured},
-            {"end without a farewell", "GET", unmeasured.ending(Transmission::Ending::Cut), lost},
+            {"end without a close_notify", "GET", unmeasured.ending(Transmission::Ending::Cut),
+             lost},
             {"interim head alone", "GET", interim, lost},
             {"closed", "POST", Fault::close(), lost},
             {"reset", "GET", Fault::reset(), lost},
@@ -207,14 +208,14 @@ private Q_SLOTS:
 
     void nothingIsSentToTheWrongService()
     {
-        const std::pair<sandbox::Reception, int> receptions[] = {
-            {sandbox::Reception::Expired, NSURLErrorServerCertificateHasBadDate},
-            {sandbox::Reception::WrongHost, NSURLErrorServerCertificateUntrusted},
-            {sandbox::Reception::Untrusted, NSURLErrorServerCertificateHasUnknownRoot},
-            {sandbox::Reception::OldTls, NSURLErrorSecureConnectionFailed},
+        const std::pair<sandbox::ConnectionKind, int> connectionKinds[] = {
+            {sandbox::ConnectionKind::Expired, NSURLErrorServerCertificateHasBadDate},
+            {sandbox::ConnectionKind::WrongHost, NSURLErrorServerCertificateUntrusted},
+            {sandbox::ConnectionKind::Untrusted, NSURLErrorServerCertificateHasUnknownRoot},
+            {sandbox::ConnectionKind::OldTls, NSURLErrorSecureConnectionFailed},
         };
-        for (const auto &[reception, code] : receptions) {
-            m_service.receive(reception);
+        for (const auto &[kind, code] : connectionKinds) {
+            m_service.stageConnection(kind);
             QCOMPARE(codeOf(), code);
         }
         const std::tuple<QByteArray, QByteArray, int> requests[] = {
@@ -226,7 +227,7 @@ private Q_SLOTS:
         for (const auto &[method, url, code] : requests) {
             QCOMPARE(codeOf(method, url), code);
         }
-        m_service.receive(sandbox::Reception::Mute);
+        m_service.stageConnection(sandbox::ConnectionKind::NoHandshake);
         const auto [file, address, time, length] = configuration(soon);
         const std::pair<NSURLSessionConfiguration, int> sessions[] = {
             {{file, address, time}, NSURLErrorTimedOut},
@@ -255,13 +256,13 @@ private Q_SLOTS:
             for (const auto &[fields, body, endsWithClose] : replies) {
                 const QByteArray head = "HTTP/1.1 200 OK\r\n" + fields + "\r\n";
                 const QByteArray reply = head + body;
-                const bool needsFarewell =
+                const bool needsCloseNotify =
                     !fields.contains("Length") && !fields.contains("chunked");
                 for (qsizetype length = 0; length <= reply.size(); ++length) {
                     const bool isWhole =
                         length == reply.size() || (endsWithClose && length >= head.size());
                     const bool isFine =
-                        isWhole && (!needsFarewell || ending == Transmission::Ending::Close);
+                        isWhole && (!needsCloseNotify || ending == Transmission::Ending::Close);
                     const QByteArray sent = reply.left(length);
                     // All but a line feed that libcurl does without.
                     if (sent.endsWith("0\r\n\r")) {
@@ -296,7 +297,7 @@ private Q_SLOTS:
     void connectingIsActivity()
     {
         m_session = std::make_unique<NSURLSession>(configuration(3500ms));
-        m_service.receive(sandbox::Reception::Late);
+        m_service.stageConnection(sandbox::ConnectionKind::LateHandshake);
         m_service.stage("/user.php", Fault::delay(2s));
         QCOMPARE(codeOf(), 0);
     }
@@ -399,7 +400,7 @@ private Q_SLOTS:
     {
         NSURLSession::setSharedSession(m_session.get());
         m_service.stage("*", Fault::silence(), -1);
-        m_service.receive(sandbox::Reception::Mute, 5);
+        m_service.stageConnection(sandbox::ConnectionKind::NoHandshake, 5);
         std::array<Outcome, 20> outcomes;
         for (Outcome &outcome : outcomes) {
             send(outcome);

@@ -26,8 +26,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
+using sandbox::ConnectionKind;
 using sandbox::Fault;
-using sandbox::Reception;
 using sandbox::Sandbox;
 
 constexpr int livesOfAShortRun = 8;
@@ -50,7 +50,8 @@ const Fault faults[] = {
     Fault::redirectLoop(),
     Fault::redirectToOtherHost(),
 };
-constexpr Reception receptions[] = {Reception::Expired, Reception::Untrusted, Reception::Mute};
+constexpr ConnectionKind connectionKinds[] = {ConnectionKind::Expired, ConnectionKind::Untrusted,
+                                              ConnectionKind::NoHandshake};
 
 class Soak {
 public:
@@ -112,7 +113,7 @@ private:
         } else if (m_dice.once(60)) {
             m_service.reset();
         } else if (m_dice.once(10)) {
-            m_service->receive(m_dice.oneOf(std::span(receptions)));
+            m_service->stageConnection(m_dice.oneOf(std::span(connectionKinds)));
         } else if (m_dice.once(3)) {
             m_service->stage("*", m_dice.oneOf(std::span(faults)));
         }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "sandbox/faults/Fault.h"
-#include "sandbox/http/Reception.h"
+#include "sandbox/http/ConnectionKind.h"
 
 #include <mutex>
 #include <vector>
@@ -11,18 +11,18 @@
 namespace sandbox {
 
 /// What is staged for the requests and connections to come. Safe on any thread.
-class StageBook {
+class StagedFaults {
 public:
     /// For the next `count` requests of that path ("*": of any); for good if negative.
     void stage(const QByteArray &path, const Fault &fault, int count);
     /// For the next `count` connections; for good if negative.
-    void receive(Reception reception, int count);
+    void stageConnection(ConnectionKind kind, int count);
     void clear();
 
     /// Uses up what is staged first for that path.
     std::optional<Fault> takeFault(const QByteArray &path);
     /// Uses up what is staged first for connections: Normal if nothing is.
-    Reception takeReception();
+    ConnectionKind takeConnectionKind();
 
 private:
     struct StagedFault {
@@ -30,14 +30,14 @@ private:
         Fault fault;
         int left;
     };
-    struct StagedReception {
-        Reception reception;
+    struct StagedConnection {
+        ConnectionKind kind;
         int left;
     };
 
     std::mutex m_mutex;
     std::vector<StagedFault> m_faults;
-    std::vector<StagedReception> m_receptions;
+    std::vector<StagedConnection> m_connections;
 };
 
 } // namespace sandbox

@@ -8,10 +8,10 @@
 namespace sandbox {
 
 /// The words of a line: separated by blanks, what stands between apostrophes kept together.
-QStringList wordsOf(const QString &line);
+QStringList splitWords(const QString &line);
 
 /// The text with \r, \n, \t, \xNN and \\ turned into the bytes that they stand for; any other
 /// backslash stands for itself.
-QByteArray unescaped(const QByteArray &text);
+QByteArray unescape(const QByteArray &text);
 
 } // namespace sandbox

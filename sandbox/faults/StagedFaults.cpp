@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/faults/StageBook.h"
+#include "sandbox/faults/StagedFaults.h"
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ void useUp(Entries &entries, typename Entries::iterator entry)
 
 } // namespace
 
-void StageBook::stage(const QByteArray &path, const Fault &fault, int count)
+void StagedFaults::stage(const QByteArray &path, const Fault &fault, int count)
 {
     const std::lock_guard lock(m_mutex);
     if (count != 0) {
@@ -26,22 +26,22 @@ void StageBook::stage(const QByteArray &path, const Fault &fault, int count)
     }
 }
 
-void StageBook::receive(Reception reception, int count)
+void StagedFaults::stageConnection(ConnectionKind kind, int count)
 {
     const std::lock_guard lock(m_mutex);
     if (count != 0) {
-        m_receptions.push_back({reception, count});
+        m_connections.push_back({kind, count});
     }
 }
 
-void StageBook::clear()
+void StagedFaults::clear()
 {
     const std::lock_guard lock(m_mutex);
     m_faults.clear();
-    m_receptions.clear();
+    m_connections.clear();
 }
 
-std::optional<Fault> StageBook::takeFault(const QByteArray &path)
+std::optional<Fault> StagedFaults::takeFault(const QByteArray &path)
 {
     const std::lock_guard lock(m_mutex);
     const auto entry = std::find_if(m_faults.begin(), m_faults.end(), [&](const auto &each) {
@@ -55,15 +55,15 @@ std::optional<Fault> StageBook::takeFault(const QByteArray &path)
     return fault;
 }
 
-Reception StageBook::takeReception()
+ConnectionKind StagedFaults::takeConnectionKind()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_receptions.empty()) {
-        return Reception::Normal;
+    if (m_connections.empty()) {
+        return ConnectionKind::Normal;
     }
-    const Reception reception = m_receptions.front().reception;
-    useUp(m_receptions, m_receptions.begin());
-    return reception;
+    const ConnectionKind kind = m_connections.front().kind;
+    useUp(m_connections, m_connections.begin());
+    return kind;
 }
 
 } // namespace sandbox

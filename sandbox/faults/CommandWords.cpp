@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/faults/Words.h"
+#include "sandbox/faults/CommandWords.h"
 
 namespace sandbox {
 
-QStringList wordsOf(const QString &line)
+QStringList splitWords(const QString &line)
 {
     QStringList words;
     QString word;
@@ -26,7 +26,7 @@ QStringList wordsOf(const QString &line)
     return isWord ? words << word : words;
 }
 
-QByteArray unescaped(const QByteArray &text)
+QByteArray unescape(const QByteArray &text)
 {
     QByteArray bytes;
     for (qsizetype i = 0; i < text.size(); ++i) {

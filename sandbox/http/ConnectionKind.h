@@ -5,7 +5,7 @@
 namespace sandbox {
 
 /// How a new connection is received, whatever is asked over it afterwards.
-enum class Reception {
+enum class ConnectionKind {
     /// The ordinary certificate.
     Normal,
     /// Issued by the service's authority for the right names, but out of date.
@@ -17,9 +17,9 @@ enum class Reception {
     /// The ordinary certificate, by TLS 1.1 and nothing newer.
     OldTls,
     /// The ordinary certificate, two seconds after the connection was accepted.
-    Late,
+    LateHandshake,
     /// Accepted, and then not a byte: not even the TLS handshake.
-    Mute,
+    NoHandshake,
 };
 
 } // namespace sandbox

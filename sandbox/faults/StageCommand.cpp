@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/faults/FaultLine.h"
+#include "sandbox/faults/StageCommand.h"
 
-#include "sandbox/faults/StageBook.h"
-#include "sandbox/faults/Words.h"
+#include "sandbox/faults/CommandWords.h"
+#include "sandbox/faults/StagedFaults.h"
 
 #include <QStringList>
 
@@ -30,16 +30,16 @@ public:
     {
         bool isNumber = false;
         const int number = m_words[index].toInt(&isNumber);
-        m_areGood = m_areGood && isNumber && number >= least && number <= most;
+        m_areValid = m_areValid && isNumber && number >= least && number <= most;
         return number;
     }
     milliseconds time(int index) { return milliseconds(number(index, 0, day)); }
-    void refuse() { m_areGood = false; }
-    bool areGood() const { return m_areGood; }
+    void refuse() { m_areValid = false; }
+    bool areValid() const { return m_areValid; }
 
 private:
     QStringList m_words;
-    bool m_areGood = true;
+    bool m_areValid = true;
 };
 
 Fault redirect(Arguments &arguments)
@@ -96,7 +96,7 @@ constexpr std::array faultWords{
               "is not"},
     FaultWord{"gzip"_L1, 1, [](Arguments &a) { return Fault::gzip(a.number(0, 0, maximum)); },
               "gzip MISSING           the real answer compressed, less so many bytes at its end"},
-    FaultWord{"surplus"_L1, 1, [](Arguments &a) { return Fault::surplus(unescaped(a.bytes(0))); },
+    FaultWord{"surplus"_L1, 1, [](Arguments &a) { return Fault::surplus(unescape(a.bytes(0))); },
               "surplus BYTES          the real answer, and a moment later these bytes"},
     FaultWord{"drip"_L1, 2,
               [](Arguments &a) { return Fault::drip(a.number(0, 1, maximum), a.time(1)); },
@@ -107,7 +107,7 @@ constexpr std::array faultWords{
               [](Arguments &a) { return Fault::json(a.bytes(1), a.number(0, 200, 999)); },
               "json CODE BODY         this body under this HTTP status"},
     FaultWord{
-        "raw"_L1, 1, [](Arguments &a) { return Fault::raw(unescaped(a.bytes(0))); },
+        "raw"_L1, 1, [](Arguments &a) { return Fault::raw(unescape(a.bytes(0))); },
         "raw BYTES              these bytes and nothing else; \\r \\n \\t \\\\ \\xNN are bytes"},
     FaultWord{"endless"_L1, 0, [](Arguments &) { return Fault::endless(); },
               "endless                a body without an end"},
@@ -119,14 +119,14 @@ constexpr std::array faultWords{
               "/path, a URL"},
 };
 
-constexpr std::array<std::pair<QLatin1StringView, Reception>, 7> receptions{{
-    {"normal"_L1, Reception::Normal},
-    {"expired"_L1, Reception::Expired},
-    {"wrong-host"_L1, Reception::WrongHost},
-    {"untrusted"_L1, Reception::Untrusted},
-    {"old-tls"_L1, Reception::OldTls},
-    {"late"_L1, Reception::Late},
-    {"mute"_L1, Reception::Mute},
+constexpr std::array<std::pair<QLatin1StringView, ConnectionKind>, 7> connectionKinds{{
+    {"normal"_L1, ConnectionKind::Normal},
+    {"expired"_L1, ConnectionKind::Expired},
+    {"wrong-host"_L1, ConnectionKind::WrongHost},
+    {"untrusted"_L1, ConnectionKind::Untrusted},
+    {"old-tls"_L1, ConnectionKind::OldTls},
+    {"late"_L1, ConnectionKind::LateHandshake},
+    {"mute"_L1, ConnectionKind::NoHandshake},
 }};
 
 // The number that may follow the `before` first words, and must be the last.
@@ -141,9 +141,9 @@ std::optional<int> countIn(const QStringList &words, qsizetype before)
                                                                 : std::nullopt;
 }
 
-QString stageReception(StageBook &book, const QStringList &words)
+QString stageConnection(StagedFaults &staged, const QStringList &words)
 {
-    for (const auto &[word, reception] : receptions) {
+    for (const auto &[word, kind] : connectionKinds) {
         if (words.value(1) != word) {
             continue;
         }
@@ -151,13 +151,13 @@ QString stageReception(StageBook &book, const QStringList &words)
         if (!count) {
             return u"the count is no number, or not the last word"_s;
         }
-        book.receive(reception, *count);
+        staged.stageConnection(kind, *count);
         return {};
     }
     return u"unknown kind of connection"_s;
 }
 
-QString stageFault(StageBook &book, const QStringList &words)
+QString stageFault(StagedFaults &staged, const QStringList &words)
 {
     for (const FaultWord &each : faultWords) {
         if (words.value(1) != each.word) {
@@ -170,10 +170,10 @@ QString stageFault(StageBook &book, const QStringList &words)
         }
         Arguments arguments(words.mid(2, each.argumentCount));
         const Fault fault = each.make(arguments);
-        if (!arguments.areGood()) {
+        if (!arguments.areValid()) {
             return u"an argument is not what it should be"_s;
         }
-        book.stage(words[0].toUtf8(), fault, *count);
+        staged.stage(words[0].toUtf8(), fault, *count);
         return {};
     }
     return u"unknown fault"_s;
@@ -181,29 +181,29 @@ QString stageFault(StageBook &book, const QStringList &words)
 
 } // namespace
 
-QString stageLine(StageBook &book, const QString &line)
+QString stageLine(StagedFaults &staged, const QString &line)
 {
-    const QStringList words = wordsOf(line);
+    const QStringList words = splitWords(line);
     if (words == QStringList(u"clear"_s)) {
-        book.clear();
+        staged.clear();
         return {};
     }
     if (words.value(0) == "connection"_L1) {
-        return stageReception(book, words);
+        return stageConnection(staged, words);
     }
     if (words.isEmpty() || (words[0] != "*"_L1 && !words[0].startsWith(u'/'))) {
         return u"a line begins with a path, *, connection or clear"_s;
     }
-    return stageFault(book, words);
+    return stageFault(staged, words);
 }
 
-QString faultHelp()
+QString stageCommandHelp()
 {
     QString help;
     for (const FaultWord &each : faultWords) {
         help += "  PATH "_L1 + QString::fromLatin1(each.help) + u'\n';
     }
-    for (const auto &[word, reception] : receptions) {
+    for (const auto &[word, kind] : connectionKinds) {
         help += "  connection "_L1 + word + u'\n';
     }
     return help + "  clear\n"_L1;

@@ -6,7 +6,7 @@
 
 namespace sandbox {
 
-class StageBook;
+class StagedFaults;
 
 /// Stages what one line says:
 ///     PATH FAULT [ARGUMENTS] [COUNT]     "/login.php delay 3000 2"
@@ -15,9 +15,9 @@ class StageBook;
 /// The count is 1 if it is left out, and negative for no end. Words are separated by blanks; what
 /// stands between apostrophes is one word, or part of one. In the text of "raw", \r, \n, \t, \xNN
 /// and \\ stand for bytes. Returns an empty text, or what is wrong; then nothing is staged.
-QString stageLine(StageBook &book, const QString &line);
+QString stageLine(StagedFaults &staged, const QString &line);
 
 /// The faults and kinds of connections, one a line, for a help text.
-QString faultHelp();
+QString stageCommandHelp();
 
 } // namespace sandbox
