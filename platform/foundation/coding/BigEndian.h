@@ -4,13 +4,13 @@
 
 #include <QByteArray>
 
-/// The fewest of 1, 2, 4 and 8 bytes that hold `number`.
-[[nodiscard]] constexpr int bytesFor(quint64 number)
+/// The smallest of 1, 2, 4 and 8 bytes that can hold `number`.
+[[nodiscard]] constexpr int bytesNeededFor(quint64 number)
 {
     return number >> 8 == 0 ? 1 : number >> 16 == 0 ? 2 : number >> 32 == 0 ? 4 : 8;
 }
 
-/// The lowest `size` bytes of `number`, the highest first.
+/// The lowest `size` bytes of `number`, in big-endian order.
 [[nodiscard]] inline QByteArray bigEndian(quint64 number, int size)
 {
     QByteArray bytes(size, '\0');
@@ -20,8 +20,8 @@
     return bytes;
 }
 
-/// The number that these bytes are; of more than eight bytes the last eight.
-[[nodiscard]] constexpr quint64 numberIn(QByteArrayView bytes)
+/// The number in these big-endian bytes; in the last eight of a longer array.
+[[nodiscard]] constexpr quint64 numberFromBigEndian(QByteArrayView bytes)
 {
     quint64 number = 0;
     for (const char byte : bytes) {

@@ -14,7 +14,7 @@ namespace {
 
 const QString nullText = u"$null"_s;
 
-/// The $objects of one archive as they grow; they refer to each other by index.
+/// Collects the $objects of one archive; they refer to each other by index.
 class ObjectList {
 public:
     ObjectList() { add(PropertyList(nullText)); }
@@ -67,7 +67,7 @@ private:
         if (value != nullText) {
             return add(PropertyList(value));
         }
-        // In its place as a plain text it would be read as nil.
+        // A plain text "$null" is nil.
         const quint64 index = add(PropertyList::dictionary());
         m_objects[index].insert(u"NS.string"_s, PropertyList(value));
         setClass(index, u"NSString"_s);
@@ -98,7 +98,7 @@ private:
         m_objects[index].insert(u"$class"_s, PropertyList::reference(known->second));
     }
 
-    /// A deque: objects stay where they are while others are added.
+    /// A deque, because added objects must not move the others.
     std::deque<PropertyList> m_objects;
     std::vector<std::pair<NSCoder::Value, quint64>> m_known;
     std::vector<std::pair<QString, quint64>> m_classes;

@@ -6,12 +6,12 @@
 
 #include <QByteArray>
 
-/// Writes the platform's keyed archives: a binary property list of $version 100000, whose
-/// $objects refer to each other by UID, the first of them "$null".
+/// Writes the platform's keyed archives: binary property lists of $version 100000 whose $objects
+/// refer to each other by UID. The first object is "$null".
 namespace NSKeyedArchiver {
 
 /// The archive of an object of class `className` with the values of `coder`. Equal objects are
-/// stored once. Nil when a text is no valid Unicode.
+/// stored once. Nil if a text is not valid Unicode.
 [[nodiscard]] std::optional<QByteArray> archivedDataWithCoder(const NSCoder &coder,
                                                               const QString &className);
 

@@ -16,7 +16,7 @@ namespace {
 
 using Value = NSCoder::Value;
 
-/// What stands for itself: a text, a number, a boolean, a date; anything else is nil.
+/// The value of a plain text, number, boolean or date; nil for any other node.
 Value plainValue(const PropertyList &node)
 {
     if (const auto text = node.string()) {
@@ -102,7 +102,7 @@ public:
     }
 
 private:
-    /// Nothing for what is no reference, or one to nowhere.
+    /// The object with that UID, or nothing.
     [[nodiscard]] PropertyList referred(std::optional<quint64> uid) const
     {
         const bool exists = uid && *uid < static_cast<quint64>(m_objects.size());
@@ -142,7 +142,7 @@ private:
         return coder;
     }
 
-    /// Each object is decoded once, however often it is referred to.
+    /// Decodes each object only once.
     [[nodiscard]] Value valueAt(quint64 uid)
     {
         const auto known = m_values.constFind(uid);
@@ -151,7 +151,7 @@ private:
             : *m_values.insert(uid, valueOf(m_objects[static_cast<qsizetype>(uid)]));
     }
 
-    /// Follows no reference further than to a class: a cycle is no danger.
+    /// Follows only references to classes, so cycles of objects are harmless.
     [[nodiscard]] Value valueOf(const PropertyList &object) const
     {
         const auto className = classOf(object).item(u"$classname"_s).string();

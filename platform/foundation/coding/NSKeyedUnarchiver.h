@@ -6,13 +6,13 @@
 
 #include <QByteArray>
 
-/// Reads keyed archives as the platform and other writers of its format make them: binary or XML,
-/// UIDs of the format's own type or as {CF$UID: n}, dates as NSDate objects or plain ones.
+/// Reads keyed archives of the platform and of other writers of its format: binary or XML, UIDs as
+/// values of their own type or as {CF$UID: n}, dates as NSDate objects or as plain dates.
 namespace NSKeyedUnarchiver {
 
-/// The values of the root object. Nil when `data` is no keyed archive, is damaged, has nil as its
-/// root, or a root that is not of class `className` (or of one derived from it). Values that a
-/// record cannot hold (lists, data, objects of other classes) read as nil.
+/// The values of the root object. Nil if `data` is not an intact keyed archive, or if its root is
+/// not an object of class `className` or of a derived class. Values of types that a record cannot
+/// hold (lists, data, objects of other classes) are nil.
 [[nodiscard]] std::optional<NSCoder> unarchiveObjectWithData(const QByteArray &data,
                                                              const QString &className);
 

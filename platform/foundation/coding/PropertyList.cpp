@@ -3,7 +3,7 @@
 #include "platform/foundation/coding/PropertyList.h"
 
 #include "platform/foundation/coding/BigEndian.h"
-#include "platform/foundation/coding/PropertyListForms.h"
+#include "platform/foundation/coding/PropertyListFormats.h"
 #include "platform/foundation/coding/UTF8Reading.h"
 
 #include <QtEndian>
@@ -19,7 +19,7 @@ constexpr char trueContent = 0x09;
 /// The fewest of 1, 2, 4 and 8 bytes; 8 for a negative number.
 QByteArray integerContent(qint64 value)
 {
-    return bigEndian(static_cast<quint64>(value), bytesFor(static_cast<quint64>(value)));
+    return bigEndian(static_cast<quint64>(value), bytesNeededFor(static_cast<quint64>(value)));
 }
 
 QByteArray realContent(double value)
@@ -29,9 +29,9 @@ QByteArray realContent(double value)
 
 double realIn(const QByteArray &content)
 {
-    return content.size() == sizeof(float)
-        ? static_cast<double>(std::bit_cast<float>(static_cast<quint32>(numberIn(content))))
-        : std::bit_cast<double>(numberIn(content));
+    return content.size() == sizeof(float) ? static_cast<double>(
+               std::bit_cast<float>(static_cast<quint32>(numberFromBigEndian(content))))
+                                           : std::bit_cast<double>(numberFromBigEndian(content));
 }
 
 QByteArray utf16Content(const QString &text)
@@ -60,13 +60,13 @@ std::optional<PropertyList> PropertyList::fromData(const QByteArray &data)
     if (data.size() > maximumLength) {
         return std::nullopt;
     }
-    return PropertyListForms::isBinary(data) ? PropertyListForms::readBinary(data)
-                                             : PropertyListForms::readXML(data);
+    return PropertyListFormats::isBinary(data) ? PropertyListFormats::readBinary(data)
+                                               : PropertyListFormats::readXML(data);
 }
 
 QByteArray PropertyList::toData() const
 {
-    return PropertyListForms::writeBinary(*this);
+    return PropertyListFormats::writeBinary(*this);
 }
 
 PropertyList::PropertyList(Type type, QByteArray content, QList<PropertyList> items)
@@ -96,7 +96,7 @@ PropertyList::PropertyList(const QString &value)
 
 PropertyList PropertyList::reference(quint64 uid)
 {
-    return {Type::UID, bigEndian(uid, bytesFor(uid))};
+    return {Type::UID, bigEndian(uid, bytesNeededFor(uid))};
 }
 
 PropertyList PropertyList::item(const QString &key) const
@@ -112,7 +112,7 @@ PropertyList PropertyList::item(const QString &key) const
 QMap<QString, PropertyList> PropertyList::itemsByKey() const
 {
     QMap<QString, PropertyList> result;
-    // From the end: the first of several values stays.
+    // Backwards, so that the first of several values replaces the others.
     for (qsizetype i = isDictionary() ? m_items.size() : 0; i > 0; i -= 2) {
         result.insert(m_items[i - 2].string().value_or(QString()), m_items[i - 1]);
     }
@@ -133,8 +133,9 @@ std::optional<bool> PropertyList::boolean() const
 
 std::optional<qint64> PropertyList::integer() const
 {
-    return m_type == Type::Integer ? std::optional(static_cast<qint64>(numberIn(m_content)))
-                                   : std::nullopt;
+    return m_type == Type::Integer
+        ? std::optional(static_cast<qint64>(numberFromBigEndian(m_content)))
+        : std::nullopt;
 }
 
 std::optional<double> PropertyList::real() const
@@ -167,7 +168,7 @@ std::optional<quint64> PropertyList::uid() const
         const std::optional<qint64> number = item(QStringLiteral("CF$UID")).integer();
         return number ? std::optional(static_cast<quint64>(*number)) : std::nullopt;
     }
-    return m_type == Type::UID ? std::optional(numberIn(m_content)) : std::nullopt;
+    return m_type == Type::UID ? std::optional(numberFromBigEndian(m_content)) : std::nullopt;
 }
 
 void PropertyList::insert(const QString &key, const PropertyList &item)

@@ -11,15 +11,17 @@
 
 #include <optional>
 
-/// A value of a property list, or nothing. Copies share what they hold.
+/// A value of a property list, or nothing. Copies share their content.
 ///
-/// A value that was read is written again as it was, whether or not this class knows what it means.
+/// The formats: "bplist00" as in the platform's published CFBinaryPList.c, and XML by the public
+/// DTD PropertyList-1.0. Values of every type of the format are written again unchanged, even those
+/// that have no accessor here.
 class PropertyList {
 public:
-    /// In bytes; a longer list is not read.
+    /// The maximum length of a list in bytes.
     static constexpr qsizetype maximumLength = qsizetype{64} * 1024;
 
-    /// As the upper half of the byte that begins a value in the binary form says it.
+    /// The numbers of the types in the binary format, the upper half of a value's marker.
     enum class Type : uchar {
         Simple = 0x0,
         Integer = 0x1,
@@ -35,16 +37,17 @@ public:
         Nothing = 0xf,
     };
 
-    /// Binary or XML. Nil for anything else, and for what is longer than `maximumLength` or nested
-    /// more than 64 deep. Takes time and memory in proportion to the length, whatever `data` is.
+    /// Reads the binary or the XML format. Nil for any other data, for data longer than
+    /// `maximumLength`, and for more than 64 levels of nesting. Time and memory are proportional to
+    /// the length, for malicious data too.
     [[nodiscard]] static std::optional<PropertyList> fromData(const QByteArray &data);
-    /// The binary form. What a value holds twice is written once.
+    /// The binary format. Equal values are written once.
     [[nodiscard]] QByteArray toData() const;
 
     PropertyList() = default;
-    /// A value as the binary form has it: `content` of all but containers, without the length that
-    /// may stand before it; `items` of containers, those of a dictionary by turns a key, which is a
-    /// text, and its value.
+    /// A value in terms of the binary format. `content`: the bytes of a plain value, without marker
+    /// and length. `items`: the items of a container; those of a dictionary alternate between keys,
+    /// which are texts, and values.
     PropertyList(Type type, QByteArray content, QList<PropertyList> items = {});
     explicit PropertyList(bool value);
     explicit PropertyList(qint64 value);
@@ -65,16 +68,16 @@ public:
     [[nodiscard]] const QByteArray &content() const { return m_content; }
     [[nodiscard]] const QList<PropertyList> &items() const { return m_items; }
 
-    /// The first value under `key`; nothing when this is no dictionary or does not have the key.
+    /// The first value under `key`; nothing if it is absent or this is not a dictionary.
     [[nodiscard]] PropertyList item(const QString &key) const;
-    /// The first value under each key. Empty for anything but a dictionary.
+    /// The first value under each key; empty if this is not a dictionary.
     [[nodiscard]] QMap<QString, PropertyList> itemsByKey() const;
-    /// Empty for anything but an array.
+    /// Empty if this is not an array.
     [[nodiscard]] QList<PropertyList> elements() const;
 
-    /// Each is nil for a value of another type.
+    /// Nil for a value of another type.
     [[nodiscard]] std::optional<bool> boolean() const;
-    /// The lower 64 bits of a longer one.
+    /// The lower 64 bits of a longer integer.
     [[nodiscard]] std::optional<qint64> integer() const;
     [[nodiscard]] std::optional<double> real() const;
     [[nodiscard]] std::optional<QString> string() const;
@@ -83,9 +86,9 @@ public:
     /// A UID, or a dictionary whose only key is "CF$UID".
     [[nodiscard]] std::optional<quint64> uid() const;
 
-    /// Only for a dictionary; replaces whatever was under `key`.
+    /// Only for a dictionary; replaces all values under `key`.
     void insert(const QString &key, const PropertyList &item);
-    /// Only for a dictionary; a key that stands in it more than once goes altogether.
+    /// Only for a dictionary; removes all values under `key`.
     void remove(const QString &key);
     /// Only for an array.
     void append(const PropertyList &item) { m_items.append(item); }

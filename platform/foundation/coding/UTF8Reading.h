@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringDecoder>
 
-/// The text of these bytes, a U+FEFF at its beginning included, which QString::fromUtf8 drops.
+/// Decodes UTF-8. It keeps a U+FEFF at the beginning, which QString::fromUtf8 drops.
 [[nodiscard]] inline QString textFromUTF8(QByteArrayView bytes)
 {
     using Flag = QStringConverter::Flag;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/coding/BigEndian.h"
-#include "platform/foundation/coding/PropertyListForms.h"
+#include "platform/foundation/coding/PropertyListFormats.h"
 
 #include <QDateTime>
 #include <QXmlStreamReader>
@@ -14,7 +14,7 @@ namespace {
 
 using Value = std::optional<PropertyList>;
 
-/// A number that is all of `text`, written as in C whatever the user's language.
+/// The number that makes up the whole of `text`, in C notation for every locale.
 template <typename Number, typename... Format>
 std::optional<Number> numberOf(QByteArrayView text, Format... format)
 {
@@ -43,7 +43,7 @@ Value integerOf(const QString &text)
     if (!number || *number >> 63 == 0) {
         return number ? Value(PropertyList(static_cast<qint64>(*number))) : std::nullopt;
     }
-    // Eight bytes would be read as a negative number.
+    // In eight bytes it would be a negative number.
     return PropertyList(PropertyList::Type::Integer, bigEndian(0, 8) + bigEndian(*number, 8));
 }
 
@@ -95,7 +95,7 @@ public:
     Value list()
     {
         while (m_xml.readNext() != QXmlStreamReader::StartElement) {
-            // Declarations of entities or attributes would make much of little.
+            // Declared entities could expand a short list to a huge one.
             if (m_xml.atEnd() || (m_xml.isDTD() && m_xml.text().contains(u'['))) {
                 return std::nullopt;
             }
@@ -118,7 +118,7 @@ private:
     /// The value of the element whose start tag has been read.
     Value value(int depth)
     {
-        if (depth > PropertyListForms::maximumDepth) {
+        if (depth > PropertyListFormats::maximumDepth) {
             return std::nullopt;
         }
         if (m_xml.name() == "dict"_L1) {
@@ -159,7 +159,7 @@ private:
 
 } // namespace
 
-std::optional<PropertyList> PropertyListForms::readXML(const QByteArray &data)
+std::optional<PropertyList> PropertyListFormats::readXML(const QByteArray &data)
 {
     return Reader(data).list();
 }

@@ -4,8 +4,8 @@
 
 #include "platform/foundation/coding/PropertyList.h"
 
-/// The two forms in which property lists are stored; see PropertyList::fromData.
-namespace PropertyListForms {
+/// The binary and the XML format of property lists; see PropertyList.
+namespace PropertyListFormats {
 
 constexpr int maximumDepth = 64;
 
@@ -13,7 +13,7 @@ constexpr int maximumDepth = 64;
 [[nodiscard]] std::optional<PropertyList> readBinary(const QByteArray &data);
 [[nodiscard]] QByteArray writeBinary(const PropertyList &list);
 
-/// A list that declares entities of its own is none.
+/// By the public DTD PropertyList-1.0. Nil for a list that declares entities.
 [[nodiscard]] std::optional<PropertyList> readXML(const QByteArray &data);
 
-} // namespace PropertyListForms
+} // namespace PropertyListFormats

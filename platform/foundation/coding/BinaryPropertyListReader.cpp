@@ -1,23 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/coding/BigEndian.h"
-#include "platform/foundation/coding/PropertyListForms.h"
+#include "platform/foundation/coding/BinaryLayout.h"
+#include "platform/foundation/coding/PropertyListFormats.h"
 
-#include <QHash>
-
-#include <bit>
 #include <vector>
 
 namespace {
 
+using namespace BinaryLayout;
 using Type = PropertyList::Type;
 
-constexpr char header[] = "bplist00";
-constexpr quint64 trailerLength = 32;
-/// The lower half of a marker when the count follows as an integer.
-constexpr int countFollows = 0xf;
-
-/// How many bytes follow a marker that says so itself; nil for one that the format does not have.
+/// The number of bytes after a marker that contains it; nil for a marker that the format does not
+/// define.
 std::optional<int> fixedSize(Type type, int low)
 {
     const bool isNumber = (type == Type::Integer && low <= 4)
@@ -26,13 +21,7 @@ std::optional<int> fixedSize(Type type, int low)
     return isNumber ? std::optional(1 << low) : isUID ? std::optional(low + 1) : std::nullopt;
 }
 
-bool hasCount(Type type)
-{
-    return type == Type::Data || type == Type::ASCII || type == Type::UTF16 || type == Type::Array
-        || type == Type::Set || type == Type::Dictionary;
-}
-
-/// Decodes each object that is reached, and each once, however often it is referred to.
+/// Decodes each object that can be reached from the top, and each only once.
 class Reader {
 public:
     explicit Reader(const QByteArray &data)
@@ -72,8 +61,8 @@ private:
         return {};
     }
 
-    /// No byte is asked for twice in a list of which no parts overlap. So all bytes together are
-    /// no more than there are, and what is read takes no more time and memory than that.
+    /// In a valid list no two parts overlap, so no byte is read twice. A list that needs more bytes
+    /// than it has is refused; this bounds the time and the memory of reading.
     QByteArray bytes(quint64 offset, quint64 size)
     {
         const auto length = static_cast<quint64>(m_data.size());
@@ -88,19 +77,19 @@ private:
     quint64 number(quint64 offset, quint64 size)
     {
         m_valid = m_valid && size >= 1 && size <= 8;
-        return numberIn(bytes(offset, size));
+        return numberFromBigEndian(bytes(offset, size));
     }
 
     Object object(quint64 index, int depth)
     {
-        if (index >= m_known.size() || depth > PropertyListForms::maximumDepth) {
+        if (index >= m_known.size() || depth > PropertyListFormats::maximumDepth) {
             return fail();
         }
         Object &known = m_known[static_cast<size_t>(index)];
         if (known.height == 0) {
             known = decoded(number(m_offsets + index * m_offsetSize, m_offsetSize), depth);
         }
-        m_valid = m_valid && depth + known.height - 1 <= PropertyListForms::maximumDepth;
+        m_valid = m_valid && depth + known.height - 1 <= PropertyListFormats::maximumDepth;
         return known;
     }
 
@@ -119,9 +108,11 @@ private:
         if (const std::optional<int> size = fixedSize(type, low)) {
             return {{type, bytes(offset, static_cast<quint64>(*size))}, 1};
         }
-        if (!hasCount(type)) {
-            return fail();
-        }
+        return hasCount(type) ? counted(type, low, offset, depth) : fail();
+    }
+
+    Object counted(Type type, int low, quint64 offset, int depth)
+    {
         const quint64 count =
             low == countFollows ? followingCount(offset) : static_cast<quint64>(low);
         if (!m_valid || count > static_cast<quint64>(m_data.size())) {
@@ -146,7 +137,7 @@ private:
     {
         const QByteArray references = bytes(offset, count * m_referenceSize);
         m_valid = m_valid && m_referenceSize >= 1 && m_referenceSize <= 8;
-        // A dictionary has all its keys first.
+        // In a dictionary all keys precede all values.
         const quint64 pairs = type == Type::Dictionary ? count / 2 : 0;
         QList<PropertyList> items;
         int height = 1;
@@ -155,7 +146,7 @@ private:
             const auto reference = QByteArrayView(references)
                                        .sliced(static_cast<qsizetype>(place * m_referenceSize),
                                                static_cast<qsizetype>(m_referenceSize));
-            const Object item = object(numberIn(reference), depth + 1);
+            const Object item = object(numberFromBigEndian(reference), depth + 1);
             const bool isKey = pairs != 0 && i % 2 == 0;
             m_valid = m_valid && (!isKey || item.value.isText());
             items.append(item.value);
@@ -173,115 +164,14 @@ private:
     std::vector<Object> m_known;
 };
 
-QByteArray marked(Type type, int low)
-{
-    return QByteArray(1, static_cast<char>(static_cast<int>(type) << 4 | low));
-}
-
-/// What a value of so many bytes, characters, items or pairs begins with.
-QByteArray beginning(Type type, qsizetype count)
-{
-    const int size = bytesFor(static_cast<quint64>(count));
-    if (!hasCount(type)) {
-        return marked(type,
-                      type == Type::UID ? static_cast<int>(count) - 1
-                                        : std::countr_zero(static_cast<quint64>(count)));
-    }
-    return count < countFollows ? marked(type, static_cast<int>(count))
-                                : marked(type, countFollows) + beginning(Type::Integer, size)
-            + bigEndian(static_cast<quint64>(count), size);
-}
-
-class Writer {
-public:
-    QByteArray data(const PropertyList &list)
-    {
-        add(list);
-        const int referenceSize = bytesFor(m_objects.size() - 1);
-        QByteArray data = header;
-        QList<qsizetype> offsets;
-        for (const Object &object : m_objects) {
-            offsets.append(data.size());
-            data += object.beginning;
-            for (const quint64 reference : object.references) {
-                data += bigEndian(reference, referenceSize);
-            }
-        }
-        const auto table = static_cast<quint64>(data.size());
-        const int offsetSize = bytesFor(table);
-        for (const qsizetype offset : offsets) {
-            data += bigEndian(static_cast<quint64>(offset), offsetSize);
-        }
-        return data + QByteArray(6, '\0') + static_cast<char>(offsetSize)
-            + static_cast<char>(referenceSize) + bigEndian(m_objects.size(), 8) + bigEndian(0, 8)
-            + bigEndian(table, 8);
-    }
-
-private:
-    struct Object {
-        QByteArray beginning;
-        QList<quint64> references;
-    };
-
-    /// Equal plain values are one object, and so are containers that share their items.
-    quint64 add(const PropertyList &value)
-    {
-        const void *items = value.items().isEmpty() ? nullptr : value.items().constData();
-        const QByteArray identity = marked(value.type(), 0)
-            + (value.isContainer()
-                   ? QByteArray(reinterpret_cast<const char *>(&items), sizeof items)
-                   : value.content());
-        if (const auto known = m_indices.constFind(identity); known != m_indices.constEnd()) {
-            return *known;
-        }
-        const quint64 index = m_objects.size();
-        m_indices.insert(identity, index);
-        m_objects.emplace_back();
-        m_objects[index] = value.isContainer() ? container(value) : plain(value);
-        return index;
-    }
-
-    static Object plain(const PropertyList &value)
-    {
-        if (value.type() == Type::Simple) {
-            return {value.content(), {}};
-        }
-        const qsizetype size = value.content().size();
-        return {beginning(value.type(), value.type() == Type::UTF16 ? size / 2 : size)
-                    + value.content(),
-                {}};
-    }
-
-    Object container(const PropertyList &value)
-    {
-        const QList<PropertyList> &items = value.items();
-        const qsizetype step = value.isDictionary() ? 2 : 1;
-        Object result{beginning(value.type(), items.size() / step), {}};
-        for (qsizetype first = 0; first < step; ++first) {
-            for (qsizetype i = first; i < items.size(); i += step) {
-                result.references.append(add(items[i]));
-            }
-        }
-        return result;
-    }
-
-    std::vector<Object> m_objects;
-    QHash<QByteArray, quint64> m_indices;
-};
-
 } // namespace
 
-bool PropertyListForms::isBinary(const QByteArray &data)
+bool PropertyListFormats::isBinary(const QByteArray &data)
 {
-    return data.startsWith(header);
+    return data.startsWith(signature);
 }
 
-std::optional<PropertyList> PropertyListForms::readBinary(const QByteArray &data)
+std::optional<PropertyList> PropertyListFormats::readBinary(const QByteArray &data)
 {
     return Reader(data).list();
-}
-
-QByteArray PropertyListForms::writeBinary(const PropertyList &list)
-{
-    return Writer().data(list);
 }
