@@ -9,7 +9,7 @@
 
 namespace {
 
-/// CURLE_TOO_LARGE, which the library has a name for since 8.6.
+/// CURLE_TOO_LARGE, which older headers than those of libcurl 8.6 do not declare.
 constexpr long tooLarge = 100;
 
 struct ErrorRow {
@@ -17,11 +17,11 @@ struct ErrorRow {
     URLErrorCode code;
 };
 
-/// By CURLcode. Anything that is not listed is NSURLErrorUnknown.
+/// By CURLcode. Any other code is NSURLErrorUnknown.
 constexpr std::array errorTable{
     ErrorRow{CURLE_URL_MALFORMAT, NSURLErrorBadURL},
-    ErrorRow{CURLE_COULDNT_RESOLVE_HOST, NSURLErrorCannotFindHost},
-    ErrorRow{CURLE_COULDNT_RESOLVE_PROXY, NSURLErrorCannotFindHost},
+    ErrorRow{CURLE_COULDNT_RESOLVE_HOST, NSURLErrorCannotConnectToHost},
+    ErrorRow{CURLE_COULDNT_RESOLVE_PROXY, NSURLErrorCannotConnectToHost},
     ErrorRow{CURLE_COULDNT_CONNECT, NSURLErrorCannotConnectToHost},
     ErrorRow{CURLE_PROXY, NSURLErrorCannotConnectToHost},
     ErrorRow{CURLE_OPERATION_TIMEDOUT, NSURLErrorTimedOut},
@@ -31,17 +31,17 @@ constexpr std::array errorTable{
     ErrorRow{CURLE_SEND_ERROR, NSURLErrorNetworkConnectionLost},
     ErrorRow{CURLE_BAD_CONTENT_ENCODING, NSURLErrorCannotDecodeContentData},
     ErrorRow{CURLE_WEIRD_SERVER_REPLY, NSURLErrorBadServerResponse},
-    // A first line that is no HTTP.
+    // The first line is not HTTP.
     ErrorRow{CURLE_UNSUPPORTED_PROTOCOL, NSURLErrorBadServerResponse},
     ErrorRow{tooLarge, NSURLErrorDataLengthExceedsMaximum},
     ErrorRow{CURLE_SSL_CONNECT_ERROR, NSURLErrorSecureConnectionFailed},
     ErrorRow{CURLE_SSL_CACERT_BADFILE, NSURLErrorSecureConnectionFailed},
 };
 
-/// By OpenSSL's verification result, after CURLE_PEER_FAILED_VERIFICATION. Anything that is not
-/// listed (a certificate for another host, above all) is NSURLErrorServerCertificateUntrusted.
+/// By OpenSSL's verification result (X509_V_ERR_...), after CURLE_PEER_FAILED_VERIFICATION. Any
+/// other result, a certificate for another host above all, is NSURLErrorServerCertificateUntrusted.
 constexpr std::array certificateTable{
-    ErrorRow{9, NSURLErrorServerCertificateNotYetValid},
+    ErrorRow{9, NSURLErrorServerCertificateHasBadDate},
     ErrorRow{10, NSURLErrorServerCertificateHasBadDate},
     ErrorRow{18, NSURLErrorServerCertificateHasUnknownRoot},
     ErrorRow{19, NSURLErrorServerCertificateHasUnknownRoot},

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// A failure as a value: a domain and a code that is fixed within it.
+/// A failure as a value: a domain and a code of that domain.
 struct NSError {
     QString domain;
     int code = 0;
@@ -15,14 +15,13 @@ struct NSError {
 /// The domain of every error that a URL session reports.
 inline constexpr char16_t NSURLErrorDomain[] = u"NSURLErrorDomain";
 
-/// The platform's public URL loading error codes, as far as a URL session reports them.
+/// The platform's public URL loading error codes, those that a URL session reports.
 enum URLErrorCode : int {
     NSURLErrorUnknown = -1,
     NSURLErrorCancelled = -999,
     NSURLErrorBadURL = -1000,
     NSURLErrorTimedOut = -1001,
     NSURLErrorUnsupportedURL = -1002,
-    NSURLErrorCannotFindHost = -1003,
     NSURLErrorCannotConnectToHost = -1004,
     NSURLErrorNetworkConnectionLost = -1005,
     NSURLErrorHTTPTooManyRedirects = -1007,
@@ -33,5 +32,4 @@ enum URLErrorCode : int {
     NSURLErrorServerCertificateHasBadDate = -1201,
     NSURLErrorServerCertificateUntrusted = -1202,
     NSURLErrorServerCertificateHasUnknownRoot = -1203,
-    NSURLErrorServerCertificateNotYetValid = -1204,
 };
