@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/url/NSMutableURLRequest.h"
 
-#include <cstring>
+#include "platform/foundation/base/Overwrite.h"
 
 NSMutableURLRequest NSMutableURLRequest::requestWithURL(const QByteArray &url)
 {
@@ -11,7 +11,5 @@ NSMutableURLRequest NSMutableURLRequest::requestWithURL(const QByteArray &url)
 
 NSMutableURLRequest::~NSMutableURLRequest()
 {
-    if (m_url.isDetached()) {
-        explicit_bzero(m_url.data(), static_cast<size_t>(m_url.size()));
-    }
+    overwrite(m_url);
 }

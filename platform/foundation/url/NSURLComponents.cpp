@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/url/NSURLComponents.h"
 
+#include "platform/foundation/base/Overwrite.h"
+
 #include <algorithm>
 
 namespace {
+
+constexpr qsizetype maximumExpectedQuery = 2048;
 
 bool isPlainName(const QString &text, QStringView punctuation)
 {
@@ -13,31 +17,34 @@ bool isPlainName(const QString &text, QStringView punctuation)
     });
 }
 
-/// QByteArray::toPercentEncoding leaves exactly the unreserved characters and `kept` alone.
+/// QByteArray::toPercentEncoding keeps exactly the unreserved characters of RFC 3986 and `kept`.
 std::optional<QByteArray> percentEncoded(const QString &text, const QByteArray &kept = {})
 {
     if (!text.isValidUtf16()) {
         return std::nullopt;
     }
-    return text.toUtf8().toPercentEncoding(kept);
+    QByteArray bytes = text.toUtf8();
+    const QByteArray encoded = bytes.toPercentEncoding(kept);
+    overwrite(bytes);
+    return encoded;
 }
 
-std::optional<QByteArray> queryOf(const QList<NSURLQueryItem> &items)
+/// Appends an item, and overwrites the encoded value, which may be a password digest.
+bool append(QByteArray &query, const NSURLQueryItem &item)
 {
-    QByteArray query;
-    for (const NSURLQueryItem &item : items) {
-        const std::optional<QByteArray> name = percentEncoded(item.name);
-        const std::optional<QByteArray> value = percentEncoded(item.value.value_or(QString()));
-        if (!name || !value) {
-            return std::nullopt;
-        }
-        query += query.isEmpty() ? '?' : '&';
-        query += *name;
-        if (item.value) {
-            query += '=' + *value;
-        }
+    const std::optional<QByteArray> name = percentEncoded(item.name);
+    std::optional<QByteArray> value = percentEncoded(item.value.value_or(QString()));
+    if (!name || !value) {
+        return false;
     }
-    return query;
+    query += query.isEmpty() ? '?' : '&';
+    query += *name;
+    if (item.value) {
+        query += '=';
+        query += *value;
+    }
+    overwrite(*value);
+    return true;
 }
 
 } // namespace
@@ -45,10 +52,19 @@ std::optional<QByteArray> queryOf(const QList<NSURLQueryItem> &items)
 std::optional<QByteArray> NSURLComponents::URL() const
 {
     const std::optional<QByteArray> path = percentEncoded(m_path, "/");
-    const std::optional<QByteArray> query = queryOf(m_queryItems);
     if (!isPlainName(m_scheme, u"+-.") || !isPlainName(m_host, u"-.") || !path
-        || !path->startsWith('/') || !query) {
+        || !path->startsWith('/')) {
         return std::nullopt;
     }
-    return QByteArray(m_scheme.toLatin1() + "://" + m_host.toLatin1() + *path + *query);
+    QByteArray query;
+    // A query that grows is copied, and the copies are not overwritten.
+    query.reserve(maximumExpectedQuery);
+    for (const NSURLQueryItem &item : m_queryItems) {
+        if (!append(query, item)) {
+            return std::nullopt;
+        }
+    }
+    QByteArray url = m_scheme.toLatin1() + "://" + m_host.toLatin1() + *path + query;
+    overwrite(query);
+    return url;
 }
