@@ -15,7 +15,7 @@ NSURLSession::NSURLSession(const NSURLSessionConfiguration &) : m_thread([] {}) 
 
 NSURLSession::~NSURLSession()
 {
-    (void)m_thread.end();
+    (void)m_thread.joinOrDetach();
 }
 
 NSURLSession *NSURLSession::sharedSession()

@@ -4,7 +4,6 @@
 
 #include <functional>
 
-/// Runs `work` later on the main thread, after everything dispatched before it; never at once, on
-/// the main thread neither. Any thread. Without an application object, before it is made and after
-/// it is gone, `work` is dropped.
+/// Runs `work` on the main thread, after all work dispatched earlier, and never before this call
+/// returns. Any thread. Without an application object `work` is dropped.
 void dispatchAsyncMain(std::function<void()> work);

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool breaksTheLine(QChar c)
+bool isLineBreakOrControl(QChar c)
 {
     const QChar::Category category = c.category();
     return category == QChar::Other_Control || category == QChar::Separator_Line
@@ -22,7 +22,7 @@ void NSLog(const QString &message)
     QString line;
     line.reserve(message.size());
     for (const QChar c : message) {
-        if (breaksTheLine(c)) {
+        if (isLineBreakOrControl(c)) {
             line += u"\\u%1"_s.arg(static_cast<uint>(c.unicode()), 4, 16, QLatin1Char('0'));
         } else {
             line += c;

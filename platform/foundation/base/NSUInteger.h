@@ -2,5 +2,5 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The platform's unsigned integer of the machine's word size; every status code is one.
+/// The platform's unsigned integer of the machine's word size, the type of status codes.
 using NSUInteger = unsigned long;

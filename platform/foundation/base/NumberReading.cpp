@@ -36,7 +36,7 @@ int intValue(const QString &text)
     }
     qint64 number = 0;
     for (; c != text.end() && isDigit(*c); ++c) {
-        // One beyond the range is enough to know, and cannot overflow.
+        // Stops one beyond the range, so that it cannot overflow.
         number = std::min(number * 10 + (c->unicode() - u'0'), largest + 1);
     }
     return static_cast<int>(std::clamp(negative ? -number : number, smallest, largest));
@@ -83,7 +83,7 @@ std::optional<QString> textValue(const QJsonValue &value)
     if (!value.isDouble()) {
         return std::nullopt;
     }
-    // A whole number is exact to 64 bits, further than a double.
+    // Qt keeps a whole number exactly to 64 bits; a double does not.
     const bool whole = value.toInteger(0) == value.toInteger(1);
     return whole ? QString::number(value.toInteger()) : textValue(value.toDouble());
 }

@@ -7,25 +7,26 @@
 
 #include <optional>
 
-/// The platform's forgiving readings of numbers, over decoded JSON values.
+/// Lenient conversions of decoded JSON values, by the rules of the platform's NSString and
+/// NSNumber.
 
-/// Blanks, an optional sign and decimal digits, whatever follows them; 0 without digits.
-/// Beyond 32 bits the nearest of INT_MIN and INT_MAX.
+/// Reads blanks, an optional sign and decimal digits, and ignores the rest; 0 without digits.
+/// Clamped to INT_MIN and INT_MAX.
 [[nodiscard]] int intValue(const QString &text);
 
-/// Truncated towards 0; beyond 32 bits the nearest of INT_MIN and INT_MAX.
+/// Truncated towards 0, clamped to INT_MIN and INT_MAX; 0 for NaN.
 [[nodiscard]] int intValue(double number);
 
-/// A number or a text as above; true is 1; false, null, list, object and a missing value are 0.
+/// A number or a text as above; 1 for true; 0 for false, null, a list, an object or no value.
 [[nodiscard]] int intValue(const QJsonValue &value);
 
 /// True for a number other than 0, for true, and for a text that, after leading blanks, signs and
 /// zeros, begins with Y, y, T, t or a digit from 1 to 9; false for everything else.
 [[nodiscard]] bool boolValue(const QJsonValue &value);
 
-/// Text as it stands, a number as its decimal text (no exponent, a whole number without decimals);
-/// nil for everything else.
+/// A text unchanged; a number in decimal notation without exponent, a whole one without decimals.
+/// Nil for any other value.
 [[nodiscard]] std::optional<QString> textValue(const QJsonValue &value);
 
-/// The decimal text of a number, as short as reads back the same.
+/// The shortest decimal notation that reads back as the same number.
 [[nodiscard]] QString textValue(double number);

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Larger than any field may be, and small enough not to overflow with one more digit.
+/// Beyond every valid field, and one more digit cannot overflow it.
 constexpr int tooLarge = 100000000;
 
 struct Letter {
@@ -20,7 +20,7 @@ constexpr Letter letters[] = {
     {u'H', &DateFields::hour}, {u'm', &DateFields::minute}, {u's', &DateFields::second},
 };
 
-/// A text from its first character to its last.
+/// Reads a text once from beginning to end.
 class Reader {
 public:
     explicit Reader(const QString &text) : m_text(text.toUcs4()) {}

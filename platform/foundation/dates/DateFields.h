@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// A day and a time of it, as a text names them: nothing says yet that they exist.
+/// The fields of a date and a time as a text has them; the date need not exist.
 struct DateFields {
     int year = 1970;
     int month = 1;
@@ -16,10 +16,10 @@ struct DateFields {
     int second = 0;
 };
 
-/// The fields of `text` by a pattern of numbers such as "yyyy-MM-dd HH:mm:ss": the letters y, M, d,
-/// H, m and s, each repeated as often as the field has digits at least, and between them anything
-/// that is no letter. What the pattern leaves out is midnight on 1970-01-01.
+/// Reads `text` by a numeric pattern such as "yyyy-MM-dd HH:mm:ss" (letters of Unicode TS #35): the
+/// letters y, M, d, H, m and s, each repeated for the minimum number of digits, separated by other
+/// characters. Fields that are not in the pattern default to midnight on 1970-01-01.
 ///
-/// Digits may be those of any script, a field may have more of them and blanks before it. Nil for
-/// every other deviation, and for a pattern with another letter.
+/// Accepts digits of any script, more digits than the minimum, and blanks before a field. Nil for
+/// any other deviation, and for a pattern with other letters.
 [[nodiscard]] std::optional<DateFields> readDateFields(const QString &pattern, const QString &text);

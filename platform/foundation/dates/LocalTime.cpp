@@ -9,10 +9,10 @@ namespace {
 
 constexpr qint64 day = 24LL * 60 * 60;
 
-/// How far the clock is ahead of UTC.
-std::optional<qint64> offsetAt(qint64 moment)
+/// Seconds by which local time is ahead of UTC.
+std::optional<qint64> offsetAt(qint64 utc)
 {
-    const auto time = time_t(moment);
+    const auto time = time_t(utc);
     struct tm fields = {};
     return localtime_r(&time, &fields) ? std::optional(static_cast<qint64>(fields.tm_gmtoff))
                                        : std::nullopt;
@@ -20,26 +20,26 @@ std::optional<qint64> offsetAt(qint64 moment)
 
 } // namespace
 
-std::optional<qint64> LocalTime::clockAt(qint64 moment)
+std::optional<qint64> LocalTime::fromUtc(qint64 utc)
 {
-    tzset(); // looks whether the zone has changed, which localtime_r does not
-    const auto offset = offsetAt(moment);
-    return offset ? std::optional(moment + *offset) : std::nullopt;
+    tzset(); // localtime_r does not follow changes of the zone
+    const auto offset = offsetAt(utc);
+    return offset ? std::optional(utc + *offset) : std::nullopt;
 }
 
-std::optional<qint64> LocalTime::momentOf(qint64 clock)
+std::optional<qint64> LocalTime::toUtc(qint64 local)
 {
     tzset();
-    // No clock is a day from UTC, so these are the offsets before and after any change nearby.
-    const auto before = offsetAt(clock - day);
-    const auto after = offsetAt(clock + day);
+    // No zone is a day from UTC, so these are the offsets before and after a nearby change.
+    const auto before = offsetAt(local - day);
+    const auto after = offsetAt(local + day);
     if (before == after) {
-        return before ? std::optional(clock - *before) : std::nullopt;
+        return before ? std::optional(local - *before) : std::nullopt;
     }
     std::optional<qint64> latest;
     for (const auto offset : {before, after}) {
-        if (offset && offsetAt(clock - *offset) == offset) {
-            latest = std::max(latest, std::optional(clock - *offset));
+        if (offset && offsetAt(local - *offset) == offset) {
+            latest = std::max(latest, std::optional(local - *offset));
         }
     }
     return latest;

@@ -6,17 +6,17 @@
 
 #include <optional>
 
-/// The device's time zone, as the C library has it: by TZ (the name of a zone or of a file, or a
-/// rule such as "CET-1CEST,M3.5.0,M10.5.0/3") or else the system's. A change of TZ or of the
-/// system's zone counts from the next call on; one of the data of the zone that TZ names does not.
+/// The device's time zone by the C library: that of TZ (the name of a zone or of a file, or a POSIX
+/// rule such as "CET-1CEST,M3.5.0,M10.5.0/3"), or the system's. Each call follows changes of TZ and
+/// of the system's zone, but not of the data of the zone that TZ names.
 ///
-/// Moments are seconds from 1970-01-01 UTC, clocks are seconds from 1970-01-01 on the wall.
+/// UTC and local times are seconds since 1970-01-01 00:00:00 on their own clock.
 namespace LocalTime {
 
-/// What the clock shows at `moment`; nil beyond the years that fit an int.
-[[nodiscard]] std::optional<qint64> clockAt(qint64 moment);
+/// Nil beyond the years that fit an int.
+[[nodiscard]] std::optional<qint64> fromUtc(qint64 utc);
 
-/// When the clock shows `clock`: the later of two moments, nil for none.
-[[nodiscard]] std::optional<qint64> momentOf(qint64 clock);
+/// The later of two times for an hour that occurs twice; nil for an hour that is skipped.
+[[nodiscard]] std::optional<qint64> toUtc(qint64 local);
 
 } // namespace LocalTime

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A moment, independent of calendars and time zones.
+/// A point in time, independent of calendars and time zones.
 struct NSDate {
     /// Seconds since 2001-01-01 00:00:00 UTC; negative before it.
     double timeIntervalSinceReferenceDate = 0;

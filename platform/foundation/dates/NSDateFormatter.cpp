@@ -18,7 +18,7 @@ namespace {
 /// From 1970-01-01 to 2001-01-01.
 constexpr double referenceDate = 978307200;
 constexpr double millisecondsPerSecond = 1000;
-/// Further from today than any date that can be shown.
+/// Beyond every date that can be shown.
 constexpr double farthest = 1e15;
 
 QByteArray deviceLocale()
@@ -34,14 +34,14 @@ QByteArray deviceLocale()
 
 icu::Locale localeOf(const QByteArray &name)
 {
-    // The C locale is none of ICU's, which would show months as "M11".
+    // ICU does not have the C locale, and would show months as "M11".
     const bool plain = name == "C" || name.startsWith("C.") || name == "POSIX";
     return icu::Locale::createCanonical(plain ? "en_US_POSIX" : name.constData());
 }
 
-/// The thread's writer of clocks for the device's locale, null when ICU has none. It is kept:
-/// making one costs far more than using it.
-const icu::DateFormat *writer()
+/// The thread's format for local times in the device's locale; null if ICU has none. It is cached,
+/// because making one is slow.
+const icu::DateFormat *localFormat()
 {
     thread_local QByteArray knownLocale;
     thread_local std::unique_ptr<icu::DateFormat> known;
@@ -57,7 +57,7 @@ const icu::DateFormat *writer()
     return known.get();
 }
 
-/// A Gregorian calendar that refuses what does not exist, null when there is no memory for it.
+/// A Gregorian calendar that refuses dates that do not exist; null without memory.
 std::unique_ptr<icu::Calendar> makeCalendar()
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -66,8 +66,8 @@ std::unique_ptr<icu::Calendar> makeCalendar()
     return U_SUCCESS(status) ? std::move(calendar) : nullptr;
 }
 
-/// The clock that shows these fields, nil when none does.
-std::optional<qint64> clockOf(const DateFields &fields)
+/// The local time with these fields, in seconds; nil if it does not exist.
+std::optional<qint64> localTimeOf(const DateFields &fields)
 {
     thread_local const std::unique_ptr<icu::Calendar> calendar = makeCalendar();
     if (!calendar) {
@@ -88,24 +88,23 @@ std::optional<qint64> clockOf(const DateFields &fields)
 std::optional<NSDate> NSDateFormatter::dateFromString(const QString &text) const
 {
     const auto fields = m_format.isEmpty() ? std::nullopt : readDateFields(m_format, text);
-    const auto clock = fields ? clockOf(*fields) : std::nullopt;
-    const auto moment = clock ? LocalTime::momentOf(*clock) : std::nullopt;
-    return moment ? std::optional(NSDate{static_cast<double>(*moment) - referenceDate})
-                  : std::nullopt;
+    const auto local = fields ? localTimeOf(*fields) : std::nullopt;
+    const auto utc = local ? LocalTime::toUtc(*local) : std::nullopt;
+    return utc ? std::optional(NSDate{static_cast<double>(*utc) - referenceDate}) : std::nullopt;
 }
 
 QString NSDateFormatter::stringFromDate(const NSDate &date) const
 {
-    const double moment = std::floor(date.timeIntervalSinceReferenceDate + referenceDate);
-    if (m_style == NSDateFormatterStyle::None || !(std::abs(moment) < farthest)) {
+    const double utc = std::floor(date.timeIntervalSinceReferenceDate + referenceDate);
+    if (m_style == NSDateFormatterStyle::None || !(std::abs(utc) < farthest)) {
         return {};
     }
-    const auto clock = LocalTime::clockAt(static_cast<qint64>(moment));
-    const icu::DateFormat *formatter = clock ? writer() : nullptr;
+    const auto local = LocalTime::fromUtc(static_cast<qint64>(utc));
+    const icu::DateFormat *formatter = local ? localFormat() : nullptr;
     if (!formatter) {
         return {};
     }
     icu::UnicodeString text;
-    formatter->format(static_cast<double>(*clock) * millisecondsPerSecond, text);
+    formatter->format(static_cast<double>(*local) * millisecondsPerSecond, text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }

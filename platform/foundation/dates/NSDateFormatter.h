@@ -10,22 +10,20 @@
 
 enum class NSDateFormatterStyle { None, Medium };
 
-/// Reads dates by a pattern and writes them in a style, by the device's locale (the first of
-/// LC_ALL, LC_TIME and LANG that is set) and time zone (TZ, rules included, or else the system's)
-/// at the time of use. Cheap to make and to copy. Any thread.
+/// Reads dates by a pattern and writes them in a style. Each call uses the device's current locale
+/// (the first of LC_ALL, LC_TIME and LANG that is set) and its current time zone (see LocalTime).
+/// Cheap to make and to copy. Any thread.
 class NSDateFormatter {
 public:
-    /// The pattern to read by, of numbers: "yyyy-MM-dd HH:mm:ss", see readDateFields.
+    /// The pattern for reading, such as "yyyy-MM-dd HH:mm:ss"; see readDateFields.
     void setDateFormat(const QString &format) { m_format = format; }
-    /// The style to write in: the locale's date in its own calendar, without a time. None, as at
-    /// first, gives empty texts.
+    /// The style for writing: a date of the locale, in its calendar, without a time. With None, the
+    /// default, texts are empty.
     void setDateStyle(NSDateFormatterStyle style) { m_style = style; }
 
-    /// The moment that `text` names in the Gregorian calendar, whatever the locale's, nil unless
-    /// the whole of it matches. Not lenient: days, times and hours skipped by summer time that do
-    /// not exist give nil, and a field has at least as many digits as the pattern has letters for
-    /// it. Of an hour that occurs twice the later is meant. Read nevertheless: digits of any
-    /// script, and blanks before a number (but none after the last).
+    /// The date in the Gregorian calendar, for every locale. Nil unless the whole text matches the
+    /// pattern (see readDateFields) and the date and time exist; summer time skips an hour. Of an
+    /// hour that occurs twice it means the later.
     [[nodiscard]] std::optional<NSDate> dateFromString(const QString &text) const;
 
     [[nodiscard]] QString stringFromDate(const NSDate &date) const;

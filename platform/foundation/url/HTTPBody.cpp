@@ -9,13 +9,13 @@
 
 namespace {
 
-/// However little it decodes to: a compressed body may decode to nothing for ever.
+/// Of encoded bytes: an endless gzip body may decode to nothing.
 constexpr size_t maximumReceived = size_t{64} * 1024 * 1024;
 
-/// The largest window, of a stream in gzip's format and no other.
+/// The largest window, plus 16 to accept gzip (RFC 1952) only.
 constexpr int gzipWindow = 15 + 16;
 
-void drop(z_stream *stream)
+void deleteHeld(z_stream *stream)
 {
     inflateEnd(stream);
     delete stream;
@@ -24,7 +24,7 @@ void drop(z_stream *stream)
 } // namespace
 
 HTTPBody::HTTPBody(qsizetype maximumLength)
-    : m_maximumLength(maximumLength), m_inflater(nullptr, drop)
+    : m_maximumLength(maximumLength), m_inflater(nullptr, deleteHeld)
 {
 }
 
@@ -67,8 +67,8 @@ std::optional<URLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
     stream.avail_in = static_cast<uInt>(length);
     bool hasMore = false;
     while (stream.avail_in > 0 || hasMore) {
-        if (m_isWhole) {
-            // Compressed files may be strung together; anything else is found out to be none.
+        if (m_isComplete) {
+            // A body may consist of several gzip members (RFC 1952, 2.2).
             inflateReset(&stream);
         }
         stream.next_out = reinterpret_cast<Bytef *>(piece.data());
@@ -77,8 +77,8 @@ std::optional<URLErrorCode> HTTPBody::inflate(const char *bytes, size_t length)
         if (state != Z_OK && state != Z_STREAM_END && state != Z_BUF_ERROR) {
             return NSURLErrorCannotDecodeContentData;
         }
-        m_isWhole = state == Z_STREAM_END;
-        hasMore = !m_isWhole && stream.avail_out == 0;
+        m_isComplete = state == Z_STREAM_END;
+        hasMore = !m_isComplete && stream.avail_out == 0;
         if (const auto error = add(piece.data(), piece.size() - stream.avail_out)) {
             return error;
         }

@@ -11,25 +11,25 @@
 
 struct z_stream_s;
 
-/// The body of one reply, decoded while it comes in. How it is coded, and where it ends, is looked
-/// at here and not in libcurl, to which a compressed body that was cut is as good as a whole one.
+/// The body of one reply, decoded as it arrives: plain or gzip (RFC 9110, 8.4; RFC 1952). libcurl
+/// does not decode it, because libcurl accepts a truncated gzip body.
 class HTTPBody {
 public:
-    /// What a request offers to understand, as the value of its Accept-Encoding field.
-    static constexpr char offered[] = "gzip";
+    /// The value of a request's Accept-Encoding field.
+    static constexpr char acceptedCoding[] = "gzip";
 
-    /// `maximumLength`: of what it decodes to.
+    /// `maximumLength`: of the decoded body.
     explicit HTTPBody(qsizetype maximumLength);
 
-    /// Before the first byte: how the body is coded, as the reply's Content-Encoding field says it.
-    /// False for a coding that was not offered.
+    /// Sets the coding by the value of the reply's Content-Encoding field, before the first byte.
+    /// False for a coding that the request did not accept.
     [[nodiscard]] bool setCoding(QByteArray coding);
 
-    /// Takes bytes as they came over the wire; says why the transfer must end.
+    /// Appends received bytes. An error ends the transfer.
     [[nodiscard]] std::optional<URLErrorCode> append(const char *bytes, size_t length);
 
-    /// Whether no coded byte is missing at its end. A body that is not coded cannot tell.
-    [[nodiscard]] bool isWhole() const { return !m_inflater || m_isWhole; }
+    /// False if bytes are missing at the end of a gzip body. Always true for a plain one.
+    [[nodiscard]] bool isComplete() const { return !m_inflater || m_isComplete; }
 
     [[nodiscard]] const QByteArray &decoded() const { return m_decoded; }
 
@@ -41,5 +41,5 @@ private:
     size_t m_received = 0;
     QByteArray m_decoded;
     std::unique_ptr<z_stream_s, void (*)(z_stream_s *)> m_inflater;
-    bool m_isWhole = false;
+    bool m_isComplete = false;
 };

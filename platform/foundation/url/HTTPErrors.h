@@ -6,8 +6,8 @@
 
 namespace HTTPErrors {
 
-/// What a transfer's end is called. `reported`: libcurl's CURLcode, not that for success; `easy`:
-/// the handle that it was reported for.
+/// The error code for a failed transfer. `reported`: its CURLcode, not CURLE_OK; `easy`: its
+/// handle.
 [[nodiscard]] URLErrorCode codeOf(void *easy, int reported);
 
 } // namespace HTTPErrors

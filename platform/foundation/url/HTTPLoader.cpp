@@ -13,7 +13,7 @@ namespace {
 
 using Clock = HTTPTransfer::Clock;
 
-struct Running {
+struct RunningTransfer {
     HTTPTransfer transfer;
     HTTPLoader::Finished finished;
 };
@@ -24,33 +24,33 @@ struct HTTPLoader::State {
     NSURLSessionConfiguration configuration;
     HTTPProxy proxy = HTTPProxy::fromEnvironment();
     CURLM *multi = nullptr;
-    std::vector<std::unique_ptr<Running>> all;
+    std::vector<std::unique_ptr<RunningTransfer>> all;
 
-    std::unique_ptr<Running> take(const Running *running);
-    void finish(const Running *running, std::optional<URLErrorCode> error);
-    void ended(Running &running, CURLcode result);
-    void redirect(Running &running, const NSMutableURLRequest &next);
+    std::unique_ptr<RunningTransfer> detach(const RunningTransfer *running);
+    void finish(const RunningTransfer *running, std::optional<URLErrorCode> error);
+    void handleEnd(RunningTransfer &running, CURLcode result);
+    void redirect(RunningTransfer &running, const NSMutableURLRequest &next);
     void finishTimedOut();
     [[nodiscard]] int pollTimeout() const;
 };
 
-std::unique_ptr<Running> HTTPLoader::State::take(const Running *running)
+std::unique_ptr<RunningTransfer> HTTPLoader::State::detach(const RunningTransfer *running)
 {
     const auto place = std::find_if(all.begin(), all.end(),
                                     [&](const auto &owned) { return owned.get() == running; });
-    std::unique_ptr<Running> taken = std::move(*place);
+    std::unique_ptr<RunningTransfer> detached = std::move(*place);
     all.erase(place);
-    curl_multi_remove_handle(multi, taken->transfer.handle());
-    return taken;
+    curl_multi_remove_handle(multi, detached->transfer.handle());
+    return detached;
 }
 
-void HTTPLoader::State::finish(const Running *running, std::optional<URLErrorCode> error)
+void HTTPLoader::State::finish(const RunningTransfer *running, std::optional<URLErrorCode> error)
 {
-    const std::unique_ptr<Running> taken = take(running);
-    taken->finished({error ? QByteArray() : taken->transfer.body(), error});
+    const std::unique_ptr<RunningTransfer> detached = detach(running);
+    detached->finished({error ? QByteArray() : detached->transfer.body(), error});
 }
 
-void HTTPLoader::State::ended(Running &running, CURLcode result)
+void HTTPLoader::State::handleEnd(RunningTransfer &running, CURLcode result)
 {
     if (const auto error = running.transfer.failure(result)) {
         finish(&running, error);
@@ -61,10 +61,10 @@ void HTTPLoader::State::ended(Running &running, CURLcode result)
     }
 }
 
-void HTTPLoader::State::redirect(Running &running, const NSMutableURLRequest &next)
+void HTTPLoader::State::redirect(RunningTransfer &running, const NSMutableURLRequest &next)
 {
-    if (const auto objection = running.transfer.redirect(next)) {
-        finish(&running, objection);
+    if (const auto error = running.transfer.redirect(next)) {
+        finish(&running, error);
     } else {
         curl_multi_remove_handle(multi, running.transfer.handle());
         curl_multi_add_handle(multi, running.transfer.handle());
@@ -74,18 +74,18 @@ void HTTPLoader::State::redirect(Running &running, const NSMutableURLRequest &ne
 void HTTPLoader::State::finishTimedOut()
 {
     const auto expired = Clock::now() - configuration.timeoutIntervalForRequest;
-    std::vector<const Running *> idle;
+    std::vector<const RunningTransfer *> idle;
     for (const auto &running : all) {
         if (running->transfer.lastActivity() <= expired) {
             idle.push_back(running.get());
         }
     }
-    for (const Running *running : idle) {
+    for (const RunningTransfer *running : idle) {
         finish(running, NSURLErrorTimedOut);
     }
 }
 
-/// Milliseconds until the next time-out; without transfers the thread sleeps on.
+/// Milliseconds until the next time-out; without transfers a day.
 int HTTPLoader::State::pollTimeout() const
 {
     using std::chrono::milliseconds;
@@ -109,7 +109,7 @@ HTTPLoader::HTTPLoader(const NSURLSessionConfiguration &configuration)
 HTTPLoader::~HTTPLoader()
 {
     while (!m_state->all.empty()) {
-        m_state->take(m_state->all.back().get());
+        m_state->detach(m_state->all.back().get());
     }
     curl_multi_cleanup(m_state->multi);
     curl_global_cleanup();
@@ -117,13 +117,13 @@ HTTPLoader::~HTTPLoader()
 
 void HTTPLoader::start(const NSMutableURLRequest &request, Finished finished)
 {
-    if (const auto objection = HTTPTransfer::objectionTo(request)) {
-        finished({{}, objection});
+    if (const auto error = HTTPTransfer::validate(request)) {
+        finished({{}, error});
         return;
     }
     const auto &[configuration, proxy, multi, all] = *m_state;
-    const std::unique_ptr<Running> &running = m_state->all.emplace_back(
-        new Running{{request, configuration, proxy}, std::move(finished)});
+    const std::unique_ptr<RunningTransfer> &running = m_state->all.emplace_back(
+        new RunningTransfer{{request, configuration, proxy}, std::move(finished)});
     curl_easy_setopt(running->transfer.handle(), CURLOPT_PRIVATE, running.get());
     curl_multi_add_handle(multi, running->transfer.handle());
 }
@@ -138,13 +138,13 @@ void HTTPLoader::cancelAll()
 void HTTPLoader::wait()
 {
     curl_multi_poll(m_state->multi, nullptr, 0, m_state->pollTimeout(), nullptr);
-    int running = 0;
-    curl_multi_perform(m_state->multi, &running);
+    int active = 0;
+    curl_multi_perform(m_state->multi, &active);
     int queued = 0;
     while (const CURLMsg *message = curl_multi_info_read(m_state->multi, &queued)) {
-        Running *ended = nullptr;
-        curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &ended);
-        m_state->ended(*ended, message->data.result);
+        RunningTransfer *running = nullptr;
+        curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &running);
+        m_state->handleEnd(*running, message->data.result);
     }
     m_state->finishTimedOut();
 }

@@ -10,12 +10,12 @@
 #include <memory>
 #include <optional>
 
-/// Any number of HTTPS transfers at a time, on one thread: the one that calls wait(). It may be
-/// made on another, and reads the environment there and then only.
-/// Rules and limits are those of NSURLSession.
+/// Runs HTTPS transfers concurrently on the thread that calls wait(). It may be made on another
+/// thread, and reads the environment only when it is made. Its rules and limits are those of
+/// NSURLSession.
 class HTTPLoader {
 public:
-    /// The decoded body, or nothing of it and why.
+    /// The decoded body, or an error and an empty body.
     struct Result {
         QByteArray body;
         std::optional<URLErrorCode> error;
@@ -24,7 +24,7 @@ public:
     using Finished = std::function<void(const Result &)>;
 
     explicit HTTPLoader(const NSURLSessionConfiguration &configuration);
-    /// Transfers under way are dropped without a word; see cancelAll().
+    /// Ends transfers without calling their `Finished`; see cancelAll().
     ~HTTPLoader();
     Q_DISABLE_COPY_MOVE(HTTPLoader)
 
@@ -33,10 +33,11 @@ public:
     /// Ends every transfer with NSURLErrorCancelled.
     void cancelAll();
 
-    /// Sleeps until there is something to do, at the latest until wake(), and does it.
+    /// Sleeps until a socket is ready, a transfer times out or wake() is called, and advances the
+    /// transfers.
     void wait();
 
-    /// Ends the current wait(), or else the next one. The only operation for any thread.
+    /// Ends the current wait(), or the next one. The only operation that any thread may call.
     void wake();
 
 private:

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// An empty variable counts as none.
+/// The first variable that is not empty.
 QByteArray firstOf(std::initializer_list<const char *> variables)
 {
     for (const char *variable : variables) {

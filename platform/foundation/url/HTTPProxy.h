@@ -4,14 +4,14 @@
 
 #include <QByteArray>
 
-/// Through which proxy requests go.
+/// The proxy of a session.
 struct HTTPProxy {
-    /// As libcurl takes it. Empty: none.
+    /// In libcurl's syntax. Empty: no proxy.
     QByteArray url;
-    /// The hosts that are reached without it, separated by commas.
+    /// The hosts that need no proxy, separated by commas.
     QByteArray exceptions;
 
-    /// What libcurl would read in the environment for an "https" URL. Reading it for libcurl, once,
-    /// leaves the environment to the thread that changes it.
+    /// The variables that libcurl would read for an "https" URL. libcurl itself would read them on
+    /// the session's thread, while another thread may change the environment.
     [[nodiscard]] static HTTPProxy fromEnvironment();
 };

@@ -11,15 +11,16 @@ namespace {
 
 constexpr char systemAuthorities[] = "/etc/ssl/certs";
 
-using HTTPSecurity::Farewell;
+using HTTPSecurity::CloseNotify;
 
-/// The place of a context's farewell. The context owns it: it may outlive the transfer.
-int farewellIndex()
+/// The index of a context's CloseNotify. The context owns a copy, because it may outlive the
+/// transfer.
+int closeNotifyIndex()
 {
-    const auto drop = [](void *, void *held, CRYPTO_EX_DATA *, int, long, void *) {
-        delete static_cast<Farewell *>(held);
+    const auto deleteHeld = [](void *, void *held, CRYPTO_EX_DATA *, int, long, void *) {
+        delete static_cast<CloseNotify *>(held);
     };
-    static const int index = SSL_CTX_get_ex_new_index(0, nullptr, nullptr, nullptr, drop);
+    static const int index = SSL_CTX_get_ex_new_index(0, nullptr, nullptr, nullptr, deleteHeld);
     return index;
 }
 
@@ -27,31 +28,31 @@ void onState(const SSL *connection, int state, int value)
 {
     if (state == SSL_CB_READ_ALERT && (value & 0xff) == SSL_AD_CLOSE_NOTIFY) {
         const SSL_CTX *context = SSL_get_SSL_CTX(connection);
-        **static_cast<Farewell *>(SSL_CTX_get_ex_data(context, farewellIndex())) = true;
+        **static_cast<CloseNotify *>(SSL_CTX_get_ex_data(context, closeNotifyIndex())) = true;
     }
 }
 
 CURLcode onContext(CURL *, void *given, void *user)
 {
     auto *context = static_cast<SSL_CTX *>(given);
-    const auto farewell = std::make_shared<bool>(false);
-    SSL_CTX_set_ex_data(context, farewellIndex(), new Farewell(farewell));
+    const auto closeNotify = std::make_shared<bool>(false);
+    SSL_CTX_set_ex_data(context, closeNotifyIndex(), new CloseNotify(closeNotify));
     SSL_CTX_set_info_callback(context, onState);
-    // Or a server that sends key updates without end would keep the thread within one call.
+    // With it, endless key updates of a server would keep the thread within one call.
     SSL_CTX_clear_mode(context, SSL_MODE_AUTO_RETRY);
-    // What is read ahead would wait unseen: the next call comes when the socket has more.
+    // Data that was read ahead would wait in the buffer until the socket has more.
     SSL_CTX_set_read_ahead(context, 0);
-    *static_cast<Farewell *>(user) = farewell;
+    *static_cast<CloseNotify *>(user) = closeNotify;
     return CURLE_OK;
 }
 
 } // namespace
 
 void HTTPSecurity::apply(void *easy, const NSURLSessionConfiguration &configuration,
-                         Farewell *farewell)
+                         CloseNotify *closeNotify)
 {
     if (configuration.certificateAuthorityFile.isEmpty()) {
-        // The folder is looked up by hash; the bundle file would be parsed for every connection.
+        // OpenSSL looks a folder up by hash; it would parse a bundle file for every connection.
         curl_easy_setopt(easy, CURLOPT_CAINFO, nullptr);
         curl_easy_setopt(easy, CURLOPT_CAPATH, systemAuthorities);
     } else {
@@ -59,9 +60,9 @@ void HTTPSecurity::apply(void *easy, const NSURLSessionConfiguration &configurat
         curl_easy_setopt(easy, CURLOPT_CAINFO, file.constData());
         curl_easy_setopt(easy, CURLOPT_CAPATH, nullptr);
     }
-    // Whatever the system's configuration says.
+    // The system's configuration may allow older versions.
     curl_easy_setopt(easy, CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
-    *farewell = std::make_shared<bool>(false);
+    *closeNotify = std::make_shared<bool>(false);
     curl_easy_setopt(easy, CURLOPT_SSL_CTX_FUNCTION, onContext);
-    curl_easy_setopt(easy, CURLOPT_SSL_CTX_DATA, farewell);
+    curl_easy_setopt(easy, CURLOPT_SSL_CTX_DATA, closeNotify);
 }

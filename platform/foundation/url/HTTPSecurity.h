@@ -8,12 +8,12 @@
 
 namespace HTTPSecurity {
 
-/// True once the other side has said that it will send no more. A connection that ends without
-/// that was cut.
-using Farewell = std::shared_ptr<bool>;
+/// True once the peer has sent TLS's close_notify alert (RFC 8446, 6.1). Without it the end of a
+/// connection may be a truncation.
+using CloseNotify = std::shared_ptr<bool>;
 
-/// Says to libcurl whom the connections of the handle `easy` trust, and how they behave. For each
-/// connection `farewell`, which must outlive the handle, is set to one of its own.
-void apply(void *easy, const NSURLSessionConfiguration &configuration, Farewell *farewell);
+/// Sets the TLS options of the handle `easy`. `closeNotify` must outlive the handle; each
+/// connection replaces its value by a new one.
+void apply(void *easy, const NSURLSessionConfiguration &configuration, CloseNotify *closeNotify);
 
 } // namespace HTTPSecurity

@@ -14,15 +14,15 @@
 namespace {
 
 constexpr size_t maximumRedirects = 20;
-/// Of a field, in one head. Each look-up goes through the whole of it.
+/// Of a field in one head. Each look-up scans the whole head.
 constexpr qsizetype maximumRepetition = 8;
 constexpr size_t maximumHeadLength = size_t{256} * 1024;
 
-constexpr std::array stepsOfConnecting{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
-                                       CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
+constexpr std::array connectionPhases{CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
+                                      CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
 
-/// What a URL asks its host for: path and query.
-QByteArrayView askedBy(QByteArrayView url)
+/// The path and the query of a URL: the target of its request (RFC 9112, 3.2.1).
+QByteArrayView requestTarget(QByteArrayView url)
 {
     const qsizetype fragment = url.indexOf('#');
     const QByteArrayView text = fragment < 0 ? url : url.first(fragment);
@@ -33,7 +33,7 @@ QByteArrayView askedBy(QByteArrayView url)
 
 } // namespace
 
-std::optional<URLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLRequest &request)
+std::optional<URLErrorCode> HTTPTransfer::validate(const NSMutableURLRequest &request)
 {
     const std::optional<URLOrigin> origin = URLOrigin::of(request.URL());
     if (!origin) {
@@ -46,7 +46,7 @@ std::optional<URLErrorCode> HTTPTransfer::objectionTo(const NSMutableURLRequest 
 
 HTTPTransfer::HTTPTransfer(const NSMutableURLRequest &request,
                            const NSURLSessionConfiguration &configuration, const HTTPProxy &proxy)
-    : m_asked{request},
+    : m_requests{request},
       m_origin(URLOrigin::of(request.URL()).value_or(URLOrigin())),
       m_maximumBodyLength(configuration.maximumBodyLength),
       m_easy(curl_easy_init(), curl_easy_cleanup),
@@ -62,7 +62,7 @@ HTTPTransfer::HTTPTransfer(const NSMutableURLRequest &request,
 void HTTPTransfer::setConnection(const NSURLSessionConfiguration &configuration)
 {
     CURL *easy = handle();
-    HTTPSecurity::apply(easy, configuration, &m_farewell);
+    HTTPSecurity::apply(easy, configuration, &m_closeNotify);
     if (!configuration.connectTo.isEmpty()) {
         const QByteArray everything = "::" + configuration.connectTo.toLatin1();
         m_connectTo.reset(curl_slist_append(nullptr, everything.constData()));
@@ -70,30 +70,30 @@ void HTTPTransfer::setConnection(const NSURLSessionConfiguration &configuration)
     }
     curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
-    // Over a connection that was open before, an unanswered request would be sent again, and what
-    // the server had left there would be taken for the answer.
+    // libcurl repeats an unanswered request on a reused connection, and takes surplus bytes of the
+    // previous reply for the answer.
     curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
     curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
     curl_easy_setopt(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // A name look-up that hangs must not hold up the end of the session.
+    // The end of the session must not wait for a slow name look-up.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
 }
 
 void HTTPTransfer::setRequest(const HTTPProxy &proxy)
 {
     CURL *easy = handle();
-    const QByteArray coding = QByteArray("Accept-Encoding: ") + HTTPBody::offered;
+    const QByteArray coding = QByteArray("Accept-Encoding: ") + HTTPBody::acceptedCoding;
     m_headers.reset(curl_slist_append(nullptr, coding.constData()));
-    if (m_asked.front().HTTPMethod() == "POST") {
+    if (m_requests.front().HTTPMethod() == "POST") {
         curl_slist_append(m_headers.get(), "Content-Type:");
         curl_easy_setopt(easy, CURLOPT_POST, 1L);
         curl_easy_setopt(easy, CURLOPT_POSTFIELDS, "");
         curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE, 0L);
     }
     curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
-    curl_easy_setopt(easy, CURLOPT_URL, m_asked.front().URL().constData());
-    // Even if there are none: libcurl reads the environment for what it is not told.
+    curl_easy_setopt(easy, CURLOPT_URL, m_requests.front().URL().constData());
+    // Empty values too: libcurl reads the environment for options that are not set.
     curl_easy_setopt(easy, CURLOPT_PROXY, proxy.url.constData());
     curl_easy_setopt(easy, CURLOPT_NOPROXY,
                      m_origin.isLoopback() ? "*" : proxy.exceptions.constData());
@@ -118,81 +118,81 @@ size_t HTTPTransfer::onHeader(const char *line, size_t, size_t length, void *use
     transfer->m_headLength += length;
     const QByteArrayView text(line, static_cast<qsizetype>(length));
     if (transfer->m_headLength > maximumHeadLength) {
-        transfer->m_refusal = NSURLErrorDataLengthExceedsMaximum;
+        transfer->m_error = NSURLErrorDataLengthExceedsMaximum;
     } else if (text == "\r\n" || text == "\n") {
-        transfer->takeHead();
+        transfer->processHead();
     }
-    return transfer->m_refusal ? 0 : length;
+    return transfer->m_error ? 0 : length;
 }
 
 size_t HTTPTransfer::onBody(const char *bytes, size_t, size_t length, void *user)
 {
     auto *transfer = static_cast<HTTPTransfer *>(user);
     transfer->m_lastActivity = Clock::now();
-    transfer->m_refusal = transfer->m_body.append(bytes, length);
-    return transfer->m_refusal ? 0 : length;
+    transfer->m_error = transfer->m_body.append(bytes, length);
+    return transfer->m_error ? 0 : length;
 }
 
 int HTTPTransfer::onProgress(void *user, std::int64_t, std::int64_t, std::int64_t, std::int64_t)
 {
     auto *transfer = static_cast<HTTPTransfer *>(user);
     std::int64_t connecting = 0;
-    for (const CURLINFO step : stepsOfConnecting) {
+    for (const CURLINFO step : connectionPhases) {
         curl_off_t microseconds = 0;
         curl_easy_getinfo(transfer->handle(), step, &microseconds);
         connecting += microseconds;
     }
-    if (connecting != transfer->m_connecting) {
-        transfer->m_connecting = connecting;
+    if (connecting != transfer->m_connectTime) {
+        transfer->m_connectTime = connecting;
         transfer->m_lastActivity = Clock::now();
     }
     return 0;
 }
 
-/// Called at the empty line that ends a head. Of an interim one, with a status below 200, nothing
-/// counts; without the final one there is no reply, which libcurl does not notice.
-void HTTPTransfer::takeHead()
+/// Called at the empty line that ends a head. Ignores interim heads, whose status is below 200: a
+/// reply needs a final one, which libcurl does not check.
+void HTTPTransfer::processHead()
 {
     if (m_hasHead || status() < 200) {
         return;
     }
     m_hasHead = true;
-    // libcurl 7 decodes any other, however much of it is missing; libcurl 8 refuses it like this.
+    // libcurl 7 accepts other codings even if they are truncated; libcurl 8 refuses them.
     const QByteArray framing = field("Transfer-Encoding").toLower();
     const bool isFramed = framing.isEmpty() || framing == "chunked";
     if (!isFramed || !m_body.setCoding(field("Content-Encoding"))) {
-        m_refusal = NSURLErrorCannotDecodeContentData;
+        m_error = NSURLErrorCannotDecodeContentData;
     }
 }
 
 std::optional<URLErrorCode> HTTPTransfer::failure(int reported) const
 {
-    if (m_refusal) {
-        return m_refusal;
+    if (m_error) {
+        return m_error;
     }
     if (reported != CURLE_OK) {
         return HTTPErrors::codeOf(handle(), reported);
     }
-    if (!m_hasHead || isCutOff()) {
+    if (!m_hasHead || isTruncated()) {
         return NSURLErrorNetworkConnectionLost;
     }
-    return hasNoBody() || m_body.isWhole() ? std::nullopt
-                                           : std::optional(NSURLErrorCannotDecodeContentData);
+    return isBodiless() || m_body.isComplete() ? std::nullopt
+                                               : std::optional(NSURLErrorCannotDecodeContentData);
 }
 
-/// Whatever its head says of one.
-bool HTTPTransfer::hasNoBody() const
+/// By its status alone (RFC 9110, 6.4.1).
+bool HTTPTransfer::isBodiless() const
 {
     return status() == 204 || status() == 304;
 }
 
-/// A body that only the end of its connection ends, and that end is none in good order.
-bool HTTPTransfer::isCutOff() const
+/// Whether the connection ended the body, and without close_notify.
+bool HTTPTransfer::isTruncated() const
 {
     curl_off_t length = -1;
     curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
-    const bool hasEnd = length >= 0 || !field("Transfer-Encoding").isEmpty() || hasNoBody();
-    return !hasEnd && !*m_farewell;
+    const bool hasEnd = length >= 0 || !field("Transfer-Encoding").isEmpty() || isBodiless();
+    return !hasEnd && !*m_closeNotify;
 }
 
 long HTTPTransfer::status() const
@@ -202,7 +202,7 @@ long HTTPTransfer::status() const
     return status;
 }
 
-/// The values of the final head's fields of that name.
+/// The values of all fields of that name in the final head, joined (RFC 9110, 5.3).
 QByteArray HTTPTransfer::field(const char *name) const
 {
     QByteArrayList values;
@@ -223,23 +223,24 @@ std::optional<NSMutableURLRequest> HTTPTransfer::redirection() const
     return target ? std::optional(NSMutableURLRequest::requestWithURL(target)) : std::nullopt;
 }
 
-/// Redirects are followed here and not by libcurl, which would go to any host, ask the same thing
-/// over and over and, for a "POST", send it again or turn it into a "GET".
+/// libcurl must not follow redirects: it would follow them to any host and in loops, and would
+/// repeat a "POST" or turn it into a "GET".
 std::optional<URLErrorCode> HTTPTransfer::redirect(const NSMutableURLRequest &next)
 {
-    const QByteArrayView target = askedBy(next.URL());
-    if (m_asked.front().HTTPMethod() != "GET" || URLOrigin::of(next.URL()) != m_origin) {
+    const QByteArrayView target = requestTarget(next.URL());
+    if (m_requests.front().HTTPMethod() != "GET" || URLOrigin::of(next.URL()) != m_origin) {
         return NSURLErrorBadServerResponse;
     }
-    const bool isAskedAgain = std::ranges::any_of(
-        m_asked, [&](const NSMutableURLRequest &asked) { return askedBy(asked.URL()) == target; });
-    if (isAskedAgain || m_asked.size() > maximumRedirects) {
+    const bool isLoop = std::ranges::any_of(m_requests, [&](const NSMutableURLRequest &sent) {
+        return requestTarget(sent.URL()) == target;
+    });
+    if (isLoop || m_requests.size() > maximumRedirects) {
         return NSURLErrorHTTPTooManyRedirects;
     }
-    m_asked.push_back(next);
+    m_requests.push_back(next);
     m_body = HTTPBody(m_maximumBodyLength);
     m_hasHead = false;
-    m_connecting = 0;
+    m_connectTime = 0;
     m_lastActivity = Clock::now();
     curl_easy_setopt(handle(), CURLOPT_URL, next.URL().constData());
     return std::nullopt;

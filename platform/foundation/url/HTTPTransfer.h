@@ -16,35 +16,35 @@
 
 struct curl_slist;
 
-/// One request and what comes back for it, over a connection of its own.
+/// One request and its reply, on a connection of its own.
 class HTTPTransfer {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Why the request cannot be sent at all; only others may be transferred.
-    [[nodiscard]] static std::optional<URLErrorCode>
-    objectionTo(const NSMutableURLRequest &request);
+    /// The error of a request that must not be sent; nil for a valid request.
+    [[nodiscard]] static std::optional<URLErrorCode> validate(const NSMutableURLRequest &request);
 
     HTTPTransfer(const NSMutableURLRequest &request, const NSURLSessionConfiguration &configuration,
                  const HTTPProxy &proxy);
     Q_DISABLE_COPY_MOVE(HTTPTransfer)
 
-    /// libcurl's easy handle, for whoever runs the transfer.
+    /// libcurl's easy handle.
     [[nodiscard]] void *handle() const { return m_easy.get(); }
 
-    /// When a step of connecting was done or a byte of the reply came in last.
+    /// When a phase of connecting last completed, or a byte last arrived.
     [[nodiscard]] Clock::time_point lastActivity() const { return m_lastActivity; }
 
-    /// Why there is no whole reply. `reported`: the CURLcode that the transfer ended with.
+    /// The error of an incomplete reply; nil for a complete one. `reported`: the CURLcode of the
+    /// transfer's end.
     [[nodiscard]] std::optional<URLErrorCode> failure(int reported) const;
 
-    /// Asks where a whole reply says that the answer is; nil if it is the answer.
+    /// The request to which a complete reply redirects; nil if it is the final answer.
     [[nodiscard]] std::optional<NSMutableURLRequest> redirection() const;
 
-    /// Makes ready to send `next` instead, or says why it must not be sent.
+    /// Prepares the transfer to send `next`. An error if the redirect must not be followed.
     [[nodiscard]] std::optional<URLErrorCode> redirect(const NSMutableURLRequest &next);
 
-    /// The decoded body of a whole reply.
+    /// The decoded body of a complete reply.
     [[nodiscard]] const QByteArray &body() const { return m_body.decoded(); }
 
 private:
@@ -58,25 +58,25 @@ private:
     void setRequest(const HTTPProxy &proxy);
     void setConnection(const NSURLSessionConfiguration &configuration);
     void setCallbacks();
-    void takeHead();
-    [[nodiscard]] bool isCutOff() const;
-    [[nodiscard]] bool hasNoBody() const;
+    void processHead();
+    [[nodiscard]] bool isTruncated() const;
+    [[nodiscard]] bool isBodiless() const;
     [[nodiscard]] long status() const;
     [[nodiscard]] QByteArray field(const char *name) const;
 
-    /// The request, and those that it was redirected to.
-    std::vector<NSMutableURLRequest> m_asked;
+    /// The original request, then the redirected ones.
+    std::vector<NSMutableURLRequest> m_requests;
     URLOrigin m_origin;
     qsizetype m_maximumBodyLength;
-    HTTPSecurity::Farewell m_farewell;
+    HTTPSecurity::CloseNotify m_closeNotify;
     Owned<void> m_easy;
     Owned<curl_slist> m_headers;
     Owned<curl_slist> m_connectTo;
 
     Clock::time_point m_lastActivity = Clock::now();
-    std::int64_t m_connecting = 0;
+    std::int64_t m_connectTime = 0;
     size_t m_headLength = 0;
     bool m_hasHead = false;
     HTTPBody m_body;
-    std::optional<URLErrorCode> m_refusal;
+    std::optional<URLErrorCode> m_error;
 };

@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-/// One request: a URL and a method. There are no header fields and no body of its own, a "POST"
-/// carries everything in its URL and sends an empty body. The URL, which may hold a digest, is
-/// overwritten when the last request with it goes.
+/// A URL and a method. A request has no header fields and no body; a "POST" has its parameters in
+/// its URL and sends an empty body. The URL, which may contain a password digest, is overwritten
+/// with the last copy of the request.
 class NSMutableURLRequest {
 public:
     /// `url`: absolute and percent-encoded, as NSURLComponents makes it. The method is "GET".

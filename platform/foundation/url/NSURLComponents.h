@@ -7,22 +7,22 @@
 #include <QByteArray>
 #include <QList>
 
-/// Puts a URL together from plain text.
+/// Composes a URL (RFC 3986) from plain text.
 ///
-/// Everything but letters, digits and "-._~" is percent-encoded in names and values (so that "+"
-/// is "%2B" and never read as a blank); a path keeps its slashes. Percent sequences that a text
-/// happens to contain are not taken for encoding: "%41" is sent as "%2541".
+/// In names and values every character but the unreserved ones (letters, digits, "-._~") is
+/// percent-encoded, "+" as well, which servers read as a blank. A path keeps its slashes. A percent
+/// sequence in a text is text: "%41" is sent as "%2541".
 class NSURLComponents {
 public:
     void setScheme(const QString &scheme) { m_scheme = scheme; }
     void setHost(const QString &host) { m_host = host; }
     /// Absolute, with its leading slash.
     void setPath(const QString &path) { m_path = path; }
-    /// Sent in this order; an empty list leaves the question mark out.
+    /// In the order of the query; an empty list makes a URL without a question mark.
     void setQueryItems(const QList<NSURLQueryItem> &items) { m_queryItems = items; }
 
-    /// The percent-encoded URL, ASCII only. Nil when scheme or host is empty or is no plain name,
-    /// when the path does not begin with a slash, or when a text is no valid Unicode.
+    /// The percent-encoded URL, in ASCII. Nil if scheme or host is empty or needs encoding, if the
+    /// path does not begin with a slash, or if a text is not valid Unicode.
     [[nodiscard]] std::optional<QByteArray> URL() const;
 
 private:

@@ -9,11 +9,10 @@
 /// One name of a URL's query, with or without a value.
 struct NSURLQueryItem {
     QString name;
-    /// Without a value the item stands as its bare name, without an equals sign;
-    /// an empty value keeps the equals sign.
+    /// Nil: the query has the bare name, without an equals sign. An empty value keeps the sign.
     std::optional<QString> value;
 
-    /// Neither text is percent-encoded; NSURLComponents does that.
+    /// Plain texts; NSURLComponents encodes them.
     [[nodiscard]] static NSURLQueryItem queryItemWithName(QString name,
                                                           std::optional<QString> value);
 

@@ -19,7 +19,7 @@ NSURLSession::NSURLSession(const NSURLSessionConfiguration &configuration)
 NSURLSession::~NSURLSession()
 {
     m_queue->stop();
-    if (!m_thread.end()) {
+    if (!m_thread.joinOrDetach()) {
         m_queue->abandon();
     }
     NSURLSession *self = this;

@@ -8,24 +8,24 @@
 
 /// An asynchronous HTTPS client on one thread of its own, asleep while nothing is under way.
 ///
-/// HTTPS only, TLS 1.2 at least, HTTP/1.1. Every request goes over a connection of its own, and so
-/// exactly once. A redirect is followed for "GET" and only to the same host and port, at most 20 in
-/// a row and to no URL that was asked before; any other redirect is an error. Sent header fields
-/// are Host, Accept and Accept-Encoding, and for "POST" a Content-Length of 0. No cookies, no
-/// cache, no credentials. Proxy variables of the environment are honoured, except for loopback
-/// addresses; they are read when the session is made.
+/// HTTPS only, TLS 1.2 or later, HTTP/1.1 (RFC 9110, RFC 9112). Every request uses a new connection
+/// and so is sent exactly once. It follows redirects of "GET" to the same host and port, at most 20
+/// in a row and never twice to one URL; any other redirect is an error. It sends the header fields
+/// Host, Accept and Accept-Encoding, and for "POST" a Content-Length of 0; no cookies, no
+/// credentials, and it keeps no cache. It reads the proxy variables of the environment when it is
+/// made, and uses no proxy for loopback addresses.
 ///
-/// A body is delivered only when the reply ended as it announced. One truncation cannot be seen
-/// here: a body that was cut before it was sent with its shorter length, unless it is compressed.
-/// What decodes the body has to notice.
+/// It delivers a body only if the reply is complete by its own framing. It cannot detect that a
+/// server truncated a body before it sent the shorter length, unless the body is compressed; the
+/// body's decoder has to.
 class NSURLSession {
 public:
     explicit NSURLSession(const NSURLSessionConfiguration &configuration);
 
-    /// Completes every task under way with NSURLErrorCancelled, on the session's thread, and
-    /// returns when the last completion has returned. If that takes more than a second, the thread
-    /// is left behind, and what has not completed never does. Never call it from a completion.
-    /// A session that was installed as the shared one is uninstalled at the end.
+    /// Completes every running task with NSURLErrorCancelled, on the session's thread, and returns
+    /// after the last completion. If that takes more than a second, the thread is detached and the
+    /// remaining tasks never complete. Never destroy a session in a completion. The shared session
+    /// becomes null if it is this one.
     ~NSURLSession();
 
     Q_DISABLE_COPY_MOVE(NSURLSession)
@@ -33,15 +33,14 @@ public:
     /// The session that the application has installed; null before and after. Any thread.
     [[nodiscard]] static NSURLSession *sharedSession();
 
-    /// Installs `session` as the shared one; the application does this once as it starts. The
-    /// session stays its maker's, who destroys it before the application object.
+    /// Installs `session` as the shared one, once at the start of the application. The caller keeps
+    /// the session and destroys it before the application object.
     static void setSharedSession(NSURLSession *session);
 
-    /// Makes a task that waits for its `resume()`. `completion` must not be empty; it is called
-    /// exactly once after `resume()`, on the session's own thread (on the resuming thread, with
-    /// NSURLErrorCancelled, if the session is gone by then), and must not block for long: every
-    /// other task waits for it.
-    /// Errors are of the domain NSURLErrorDomain, their codes those of URLErrorCode.
+    /// Makes a task that starts with its `resume()`. `completion` must not be empty. It is called
+    /// exactly once after `resume()`, on the session's thread, or with NSURLErrorCancelled on the
+    /// resuming thread if the session no longer exists. It must not block for long: it delays every
+    /// other task. Errors have the domain NSURLErrorDomain and a URLErrorCode.
     [[nodiscard]] std::shared_ptr<NSURLSessionDataTask>
     dataTaskWithRequest(const NSMutableURLRequest &request,
                         NSURLSessionDataTask::Completion completion);

@@ -23,7 +23,7 @@ void NSURLSessionDataTask::resume()
 
 void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<URLErrorCode> code)
 {
-    // What the completion holds is let go as soon as it has run.
+    // Destroys the objects that the completion holds as soon as it has run.
     const Completion completion = std::exchange(m_completion, {});
     if (code) {
         completion({}, NSError{QString::fromUtf16(NSURLErrorDomain), *code});

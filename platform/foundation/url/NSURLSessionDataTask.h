@@ -12,7 +12,7 @@
 
 class TaskQueue;
 
-/// One request on its way. Made by NSURLSession::dataTaskWithRequest.
+/// One request of a session. Made by NSURLSession::dataTaskWithRequest.
 class NSURLSessionDataTask : public std::enable_shared_from_this<NSURLSessionDataTask> {
 public:
     /// `data`: the decoded body, whatever the HTTP status was; empty when `error` is set.
@@ -22,8 +22,8 @@ public:
     NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
                          std::weak_ptr<TaskQueue> queue);
 
-    /// Sends the request. Any thread. Once only, a second call does nothing; a task that is
-    /// never resumed is never sent and never completes. The task may be dropped right after.
+    /// Sends the request; a second call does nothing. Any thread. A task that is never resumed is
+    /// never sent and never completes. The session keeps a resumed task alive.
     void resume();
 
     [[nodiscard]] const NSMutableURLRequest &originalRequest() const { return m_request; }

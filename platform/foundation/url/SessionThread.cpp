@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr auto patience = std::chrono::seconds(1);
+constexpr auto joinTimeout = std::chrono::seconds(1);
 
-std::atomic<int> running = 0;
+std::atomic<int> runningThreads = 0;
 
-/// A thread without signals: a connection that the server closes never interrupts the process.
+/// A thread that blocks all signals, so that SIGPIPE of a closed connection cannot end the process.
 template <typename Function>
 std::thread threadWithoutSignals(Function function)
 {
@@ -29,10 +29,10 @@ std::thread threadWithoutSignals(Function function)
     return thread;
 }
 
-/// At the end of the process libraries put away what a thread that was left may be using.
-void skipWhatIsInUse(int status, void *)
+/// A detached thread may still use libraries that the normal exit would clean up.
+void exitWithoutCleanup(int status, void *)
 {
-    if (running > 0) {
+    if (runningThreads > 0) {
         std::fflush(nullptr);
         _exit(status);
     }
@@ -40,28 +40,29 @@ void skipWhatIsInUse(int status, void *)
 
 } // namespace
 
-SessionThread::SessionThread(std::function<void()> life)
+SessionThread::SessionThread(std::function<void()> body)
 {
-    std::promise<void> ended;
-    m_ended = ended.get_future();
-    ++running;
-    m_thread = threadWithoutSignals([life = std::move(life), ended = std::move(ended)]() mutable {
-        life();
-        // What it holds is let go of before anybody is told.
-        life = {};
-        --running;
-        ended.set_value();
-    });
+    std::promise<void> finished;
+    m_finished = finished.get_future();
+    ++runningThreads;
+    m_thread =
+        threadWithoutSignals([body = std::move(body), finished = std::move(finished)]() mutable {
+            body();
+            // The objects that it holds are destroyed before join() returns.
+            body = {};
+            --runningThreads;
+            finished.set_value();
+        });
 }
 
-bool SessionThread::end()
+bool SessionThread::joinOrDetach()
 {
-    if (m_ended.wait_for(patience) == std::future_status::ready) {
+    if (m_finished.wait_for(joinTimeout) == std::future_status::ready) {
         m_thread.join();
         return true;
     }
-    // Runs before whatever was registered until now.
-    static const int registered = on_exit(skipWhatIsInUse, nullptr);
+    // Exit handlers run in reverse order: this one precedes all that are registered by now.
+    static const int registered = on_exit(exitWithoutCleanup, nullptr);
     (void)registered;
     m_thread.detach();
     return false;

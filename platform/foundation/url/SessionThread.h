@@ -8,21 +8,20 @@
 #include <future>
 #include <thread>
 
-/// The thread of a URL session. It leaves every signal to the others, and keeps no program from
-/// ending.
+/// The thread of a URL session. It blocks all signals, and cannot prevent the process from exiting.
 class SessionThread {
 public:
-    /// Starts it: it calls `life`, and ends.
-    explicit SessionThread(std::function<void()> life);
-    /// After end().
+    /// Starts the thread, which runs `body` once.
+    explicit SessionThread(std::function<void()> body);
+    /// Only after joinOrDetach().
     ~SessionThread() = default;
     Q_DISABLE_COPY_MOVE(SessionThread)
 
-    /// Waits until `life` has returned, for a second at most. False: it has not, and the thread is
-    /// left alone from now on, until the process ends.
-    [[nodiscard]] bool end();
+    /// Waits up to a second for the end of `body`. False: it still runs, and the thread was
+    /// detached.
+    [[nodiscard]] bool joinOrDetach();
 
 private:
-    std::future<void> m_ended;
+    std::future<void> m_finished;
     std::thread m_thread;
 };

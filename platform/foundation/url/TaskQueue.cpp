@@ -27,20 +27,20 @@ void TaskQueue::stop()
 void TaskQueue::run()
 {
     for (;;) {
-        const Arrival arrival = takeArrivals();
-        for (const Task &task : arrival.tasks) {
+        const Incoming incoming = takeIncoming();
+        for (const Task &task : incoming.tasks) {
             start(task);
         }
-        if (arrival.stopping) {
+        if (incoming.stopping) {
             break;
         }
         m_loader.wait();
     }
     m_loader.cancelAll();
-    cancelArrivals();
+    cancelIncoming();
 }
 
-TaskQueue::Arrival TaskQueue::takeArrivals()
+TaskQueue::Incoming TaskQueue::takeIncoming()
 {
     const std::lock_guard lock(m_mutex);
     return {std::exchange(m_incoming, {}), m_stopping};
@@ -59,8 +59,8 @@ void TaskQueue::complete(const Task &task, const HTTPLoader::Result &result) con
     }
 }
 
-/// Completions may resume further tasks; the queue closes when there are no more.
-void TaskQueue::cancelArrivals()
+/// Completions may resume further tasks, so the queue closes when it is empty.
+void TaskQueue::cancelIncoming()
 {
     for (;;) {
         std::unique_lock lock(m_mutex);

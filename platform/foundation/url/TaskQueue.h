@@ -11,34 +11,34 @@
 
 class NSURLSessionDataTask;
 
-/// Hands resumed tasks over to the thread of their session.
+/// Passes resumed tasks to the thread of their session.
 class TaskQueue {
 public:
     using Task = std::shared_ptr<NSURLSessionDataTask>;
 
     explicit TaskQueue(const NSURLSessionConfiguration &configuration);
 
-    /// False, and nothing done, once run() no longer takes tasks. Any thread.
+    /// False once run() accepts no more tasks. Any thread.
     [[nodiscard]] bool enqueue(const Task &task);
 
-    /// Makes run() cancel what is under way and return. Any thread.
+    /// Makes run() cancel all tasks and return. Any thread.
     void stop();
 
-    /// From now on no completion is called. Any thread.
+    /// No completion is called after this. Any thread.
     void abandon() { m_abandoned = true; }
 
-    /// The life of the session's thread: runs tasks until stop().
+    /// Runs tasks until stop(). The body of the session's thread.
     void run();
 
 private:
-    struct Arrival {
+    struct Incoming {
         std::vector<Task> tasks;
         bool stopping = false;
     };
-    Arrival takeArrivals();
+    Incoming takeIncoming();
     void start(const Task &task);
     void complete(const Task &task, const HTTPLoader::Result &result) const;
-    void cancelArrivals();
+    void cancelIncoming();
 
     HTTPLoader m_loader;
     std::atomic<bool> m_abandoned = false;

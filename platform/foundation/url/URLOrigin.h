@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// The service that a URL leads to.
+/// Scheme, host and port of a URL (RFC 6454; syntax of RFC 3986).
 struct URLOrigin {
     /// Both in lower case.
     QByteArray scheme;
@@ -14,8 +14,8 @@ struct URLOrigin {
     /// 443 for "https" without a port, otherwise 0 when there is none.
     int port = 0;
 
-    /// Nil for everything but `scheme://host` or `scheme://host:port` and what may follow that:
-    /// no user name, and no character in the host that two readers might understand differently.
+    /// Nil unless the URL begins with `scheme://host` or `scheme://host:port`. A user name and
+    /// unusual characters in the host are refused: two parsers might read them differently.
     [[nodiscard]] static std::optional<URLOrigin> of(const QByteArray &url);
 
     [[nodiscard]] bool isLoopback() const;
