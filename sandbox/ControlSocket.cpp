@@ -6,7 +6,6 @@
 #include <QFile>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -18,8 +17,6 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
-#include <list>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -27,38 +24,25 @@ namespace sandbox {
 
 namespace {
 
-constexpr int patienceMilliseconds = 5000;
-constexpr size_t mostClients = 64;
-constexpr qsizetype longestLine = qsizetype{1} << 20;
+constexpr int timeoutMilliseconds = 5000;
+constexpr size_t maximumClients = 64;
+constexpr qsizetype maximumLineLength = qsizetype{1} << 20;
 
 QString failure()
 {
     return u"control socket: "_s + QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/// Closes what it holds.
-struct File {
-    explicit File(int opened) : number(opened) {}
-    ~File()
-    {
-        if (number >= 0) {
-            ::close(number);
-        }
-    }
-    Q_DISABLE_COPY_MOVE(File)
-    int number;
-};
-
-File openDirectory(const QString &directory)
+int openDirectory(const QString &directory)
 {
-    return File(::open(QFile::encodeName(directory).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return ::open(QFile::encodeName(directory).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
 }
 
-// A socket's address has room for 107 characters, a directory's name may have more: the way through
-// the open directory is always short.
-sockaddr_un addressIn(const File &directory)
+// The address of a socket has room for 107 characters, and the path of a directory may be longer. A
+// path through the open directory is always short enough.
+sockaddr_un addressIn(const FileDescriptor &directory)
 {
-    const QByteArray path = "/proc/self/fd/" + QByteArray::number(directory.number) + "/control";
+    const QByteArray path = "/proc/self/fd/" + QByteArray::number(directory.get()) + "/control";
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::copy(path.begin(), path.end(), address.sun_path);
@@ -87,75 +71,84 @@ bool receiveSome(int file, QByteArray &bytes)
 
 } // namespace
 
-/// Somebody who has connected.
+/// One open connection.
 struct ControlSocket::Client {
-    explicit Client(int accepted) : file(accepted) { lastWord.start(); }
+    explicit Client(int accepted) : descriptor(accepted) { sinceInput.start(); }
 
-    File file;
+    FileDescriptor descriptor;
+    /// The line that has no end yet.
     QByteArray bytes;
-    QElapsedTimer lastWord;
+    QElapsedTimer sinceInput;
 };
+
+ControlSocket::ControlSocket() = default;
 
 ControlSocket::~ControlSocket()
 {
     if (m_thread.joinable()) {
         const std::uint64_t one = 1;
-        (void)!::write(m_end, &one, sizeof one);
+        (void)!::write(m_end->get(), &one, sizeof one);
         m_thread.join();
     }
-    const File listener(m_listener);
-    const File end(m_end);
 }
 
 QString ControlSocket::open(const QString &directory, Handler handler)
 {
     m_handler = std::move(handler);
-    m_listener = makeSocket();
-    m_end = ::eventfd(0, EFD_CLOEXEC);
-    const File folder = openDirectory(directory);
+    m_listener.emplace(makeSocket());
+    m_end.emplace(::eventfd(0, EFD_CLOEXEC));
+    const FileDescriptor folder(openDirectory(directory));
     const sockaddr_un address = addressIn(folder);
     ::unlink(address.sun_path);
-    if (m_listener < 0 || m_end < 0
-        || ::bind(m_listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-        || ::chmod(address.sun_path, 0600) != 0 || ::listen(m_listener, 8) != 0) {
+    if (!m_listener->isOpen() || !m_end->isOpen()
+        || ::bind(m_listener->get(), reinterpret_cast<const sockaddr *>(&address), sizeof address)
+            != 0
+        || ::chmod(address.sun_path, 0600) != 0 || ::listen(m_listener->get(), 8) != 0) {
         return failure();
     }
-    m_thread = std::thread([this] { serve(); });
+    m_thread = std::thread([this] {
+        while (serve()) {}
+    });
     return {};
 }
 
-void ControlSocket::serve()
+/// Waits for input and handles it. False: the socket is being destroyed.
+bool ControlSocket::serve()
 {
-    std::list<Client> clients;
-    for (;;) {
-        // More of them than this wait until one goes.
-        const short forNew = clients.size() < mostClients ? POLLIN : 0;
-        std::vector<pollfd> files{{m_end, POLLIN, 0}, {m_listener, forNew, 0}};
-        int wait = -1;
-        for (const Client &client : clients) {
-            files.push_back({client.file.number, POLLIN, 0});
-            wait = patienceMilliseconds;
-        }
-        const bool isReady = ::poll(files.data(), files.size(), wait) > 0;
-        if (isReady && files[0].revents != 0) {
-            return;
-        }
-        auto ready = files.cbegin() + 2;
-        std::erase_if(clients, [&](Client &client) {
-            const bool hasSpoken = isReady && (ready++)->revents != 0;
-            return hasSpoken ? !converse(client) : client.lastWord.hasExpired(patienceMilliseconds);
-        });
-        if (isReady && files[1].revents != 0) {
-            const int accepted = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
-            if (accepted >= 0) {
-                clients.emplace_back(accepted);
-            }
+    std::vector<pollfd> files = filesToPoll();
+    const int timeout = m_clients.empty() ? -1 : timeoutMilliseconds;
+    // After a failure no file has an event.
+    (void)::poll(files.data(), files.size(), timeout);
+    if (files[0].revents != 0) {
+        return false;
+    }
+    auto file = files.cbegin() + 2;
+    std::erase_if(m_clients, [&](Client &client) {
+        const bool hasInput = (file++)->revents != 0;
+        return hasInput ? !readLines(client) : client.sinceInput.hasExpired(timeoutMilliseconds);
+    });
+    if (files[1].revents != 0) {
+        const int accepted = ::accept4(m_listener->get(), nullptr, nullptr, SOCK_CLOEXEC);
+        if (accepted >= 0) {
+            m_clients.emplace_back(accepted);
         }
     }
+    return true;
 }
 
-/// What was wrong with the line, or nothing.
-QString ControlSocket::handled(const QString &line) const
+std::vector<pollfd> ControlSocket::filesToPoll() const
+{
+    // Further clients wait until one leaves.
+    const short acceptEvents = m_clients.size() < maximumClients ? POLLIN : 0;
+    std::vector<pollfd> files{{m_end->get(), POLLIN, 0}, {m_listener->get(), acceptEvents, 0}};
+    for (const Client &client : m_clients) {
+        files.push_back({client.descriptor.get(), POLLIN, 0});
+    }
+    return files;
+}
+
+/// The handler's result, or the text of an exception.
+QString ControlSocket::handle(const QString &line) const
 {
     try {
         return m_handler(line);
@@ -164,38 +157,38 @@ QString ControlSocket::handled(const QString &line) const
     }
 }
 
-bool ControlSocket::converse(Client &client)
+bool ControlSocket::readLines(Client &client)
 {
-    client.lastWord.start();
-    if (!receiveSome(client.file.number, client.bytes)) {
+    client.sinceInput.start();
+    if (!receiveSome(client.descriptor.get(), client.bytes)) {
         return false;
     }
     QByteArray &bytes = client.bytes;
     for (qsizetype end = bytes.indexOf('\n'); end >= 0; end = bytes.indexOf('\n')) {
-        const QString problem = handled(QString::fromUtf8(bytes.left(end)));
+        const QString problem = handle(QString::fromUtf8(bytes.left(end)));
         bytes.remove(0, end + 1);
         const QString answer = problem.isEmpty() ? u"ok"_s : u"error: "_s + problem;
-        // Whoever does not read the answers is not waited for either.
-        if (!sendLine(client.file.number, answer, MSG_DONTWAIT)) {
+        // A client that does not read its answers is disconnected.
+        if (!sendLine(client.descriptor.get(), answer, MSG_DONTWAIT)) {
             return false;
         }
     }
-    return bytes.size() < longestLine;
+    return bytes.size() < maximumLineLength;
 }
 
 QString ControlSocket::send(const QString &directory, const QString &line)
 {
-    const File socket(makeSocket());
-    const File folder = openDirectory(directory);
+    const FileDescriptor socket(makeSocket());
+    const FileDescriptor folder(openDirectory(directory));
     const sockaddr_un address = addressIn(folder);
-    if (::connect(socket.number, reinterpret_cast<const sockaddr *>(&address), sizeof address)
+    if (::connect(socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address)
         != 0) {
         return u"error: no service is running in "_s + directory;
     }
     QByteArray bytes;
     QString text = line;
-    sendLine(socket.number, text.replace(u'\n', u' '));
-    while (!bytes.contains('\n') && receiveSome(socket.number, bytes)) {}
+    sendLine(socket.get(), text.replace(u'\n', u' '));
+    while (!bytes.contains('\n') && receiveSome(socket.get(), bytes)) {}
     return bytes.isEmpty() ? u"error: no answer"_s : QString::fromUtf8(bytes.trimmed());
 }
 

@@ -6,27 +6,19 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace sandbox {
 
-DirectoryLock::~DirectoryLock()
-{
-    if (m_file >= 0) {
-        ::close(m_file);
-    }
-}
-
 QString DirectoryLock::take(const QString &directory)
 {
     const QString path = directory + u"/lock"_s;
-    m_file = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (m_file < 0) {
+    m_file.emplace(::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    if (!m_file->isOpen()) {
         return path + u": cannot be written"_s;
     }
-    return ::flock(m_file, LOCK_EX | LOCK_NB) == 0
+    return ::flock(m_file->get(), LOCK_EX | LOCK_NB) == 0
         ? QString()
         : directory + u": another service is using this directory"_s;
 }

@@ -2,23 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/files/FileDescriptor.h"
+
 #include <QString>
+
+#include <optional>
 
 namespace sandbox {
 
-/// Keeps a directory to one service at a time, for as long as it lives; the system lets go of it
-/// when a process dies.
+/// Keeps a directory to one service at a time during its lifetime. The system releases the lock of
+/// a process that dies.
 class DirectoryLock {
 public:
-    DirectoryLock() = default;
-    ~DirectoryLock();
-    Q_DISABLE_COPY_MOVE(DirectoryLock)
-
-    /// Returns an empty text, or why the directory cannot be had.
+    /// Returns an empty text, or why the lock is not held.
     QString take(const QString &directory);
 
 private:
-    int m_file = -1;
+    std::optional<FileDescriptor> m_file;
 };
 
 } // namespace sandbox

@@ -7,13 +7,12 @@
 
 namespace sandbox {
 
-/// Makes the folder if it is missing, its parents too, and closes it to other users. Returns an
-/// empty text, or why it cannot.
+/// Makes the folder and its parents if they are missing, and closes it to other users. Returns an
+/// empty text, or the reason of a failure.
 QString makePrivateDirectory(const QString &path);
 
-/// Writes a file that only its owner may read, whole or not at all: under a temporary name beside
-/// it first. What a power cut does to it is not looked after. Returns an empty text, or why it
-/// cannot.
+/// Writes a file that only its owner may read, whole or not at all; a power cut may undo it.
+/// Returns an empty text, or the reason of a failure.
 QString writePrivateFile(const QString &path, const QByteArray &bytes);
 
 } // namespace sandbox

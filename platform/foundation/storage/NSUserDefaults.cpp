@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Nil when the file is damaged: something is there, but no property list of keys and values.
+/// The values of the file, none for an absent file; nil for a damaged one.
 std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray &content)
 {
     if (state == PrivateFile::State::Absent) {
@@ -24,7 +24,8 @@ std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray 
     return values && values->isDictionary() ? std::move(values) : std::nullopt;
 }
 
-/// The values to change, nil when the file can neither be read nor moved out of the way.
+/// The values for a change. Moves a damaged file aside. Nil if the file can be neither read nor
+/// moved.
 std::optional<PropertyList> readForChange(const PrivateFile &file, const PrivateFile::Lock &lock)
 {
     QByteArray content;
@@ -39,7 +40,7 @@ std::optional<PropertyList> readForChange(const PrivateFile &file, const Private
     return values;
 }
 
-/// Writes nothing that would be refused when it is read.
+/// Reads the data back before it replaces the file.
 bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values,
            const QString &key)
 {
@@ -67,7 +68,7 @@ std::optional<QByteArray> NSUserDefaults::dataForKey(const QString &key) const
     if (const std::optional<PropertyList> values = valuesIn(state, content)) {
         return values->item(key).data();
     }
-    // Damaged, unless another process has just replaced it.
+    // The file is damaged, unless another process has just replaced it.
     const PrivateFile::Lock lock(m_file);
     const std::optional<PropertyList> values = readForChange(m_file, lock);
     return values ? values->item(key).data() : std::nullopt;
@@ -93,6 +94,9 @@ bool NSUserDefaults::removeObjectForKey(const QString &key)
     const PrivateFile::State state = m_file.read(&content);
     const std::optional<PropertyList> values = valuesIn(state, content);
     const bool isAbsent = values && !values->item(key).isPresent();
+    if (isAbsent) {
+        m_file.removeTemporary();
+    }
     const bool isRemoved = isAbsent || writeWithout(key) || m_file.remove();
     return m_file.removeMovedAside() && isRemoved;
 }

@@ -9,33 +9,31 @@
 
 #include <optional>
 
-/// A few values that outlive the process: one binary property list for each application, readable
-/// by its user alone, at `<folder>/<application id>/<application id>.plist`.
+/// Persistent values: one binary property list for each application, which only its user may read,
+/// at `<folder>/<application id>/<application id>.plist`.
 ///
-/// Each operation stands for itself: reads read the file, writes have replaced it, durably, when
-/// they return, and keep every key they do not know, as it is; only a removal that cannot be
-/// written drops them. A writer killed at any moment leaves the old file or the new one. A file
-/// that is no property list, or longer than 64 KiB, is moved into a new folder beside it,
-/// `<application id>.plist.damaged-XXXXXX/`, and counts as empty from then on.
+/// Every read reads the file. Every write replaces it, durably, and keeps the values of unknown
+/// keys; only a removal that cannot be written loses them. A process that is killed at any moment
+/// leaves the old file or the new one. A damaged file, or one longer than 64 KiB, is moved into a
+/// new folder beside it, `<application id>.plist.damaged-XXXXXX/`, and then counts as empty.
 /// Use it from one thread at a time; several processes may share one file.
 class NSUserDefaults {
 public:
-    /// `folder`: empty for the user's configuration folder (XDG_CONFIG_HOME or ~/.config).
-    /// Nothing is created before the first write.
+    /// `folder`: by default the user's configuration folder (XDG_CONFIG_HOME or ~/.config).
+    /// The first write creates folder and file.
     explicit NSUserDefaults(const QString &applicationId, const QString &folder = QString());
 
-    /// The data under `key`; nil when there is none, when the value is no data, or when the file
-    /// cannot be read.
+    /// The data under `key`; nil if it is absent or of another type, or if the file cannot be read.
     [[nodiscard]] std::optional<QByteArray> dataForKey(const QString &key) const;
 
-    /// Stores `data` under `key`, replacing what was there; nil removes the key. False when
-    /// nothing was changed: no writable folder, a full disk, more than 64 KiB in all, or another
-    /// process in the middle of a write for a tenth of a second.
+    /// Stores `data` under `key`, or removes the key if `data` is nil. False if nothing was
+    /// changed: the folder is not writable, the disk is full, the file would exceed 64 KiB, or
+    /// another process held the lock for a tenth of a second.
     [[nodiscard]] bool setObject(const std::optional<QByteArray> &data, const QString &key);
 
-    /// Removes what is under `key`, the file with its last key, and what was moved aside, which may
-    /// hold the value still. Where the other keys cannot be written anew they go as well: deleting
-    /// the file takes no space. False when the value is still there.
+    /// Removes `key`, and the file with its last key. Also deletes files that were moved aside and
+    /// the temporary file of a killed writer, which may contain the value. If the other keys cannot
+    /// be written, it deletes the file with them, which takes no space. False if the value remains.
     [[nodiscard]] bool removeObjectForKey(const QString &key);
 
 private:

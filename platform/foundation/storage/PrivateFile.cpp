@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/storage/PrivateFile.h"
 
+#include "platform/files/PrivateFiles.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -21,28 +23,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr mode_t folderMode = 0700;
-constexpr mode_t fileMode = 0600;
-constexpr auto lockPatience = 90ms;
-constexpr auto lockPause = 10ms;
-constexpr auto asideMark = ".damaged-";
-
-bool writeAll(int descriptor, const QByteArray &content)
-{
-    for (qsizetype done = 0; done < content.size();) {
-        const ssize_t length = write(descriptor, content.constData() + done,
-                                     static_cast<size_t>(content.size() - done));
-        if (length < 0 && errno != EINTR) {
-            return false;
-        }
-        done += std::max(length, ssize_t(0));
-    }
-    return true;
-}
+constexpr auto lockTimeout = 90ms;
+constexpr auto lockRetryInterval = 10ms;
+constexpr auto damagedSuffix = ".damaged-";
 
 using State = PrivateFile::State;
 
-/// Stops beyond `maximumLength`: a file may grow, and some say that they are empty.
+/// Stops beyond `maximumLength`: the size that the system reports may be 0 or out of date.
 State readAll(int descriptor, qsizetype maximumLength, QByteArray *content)
 {
     std::array<char, 16384> buffer{};
@@ -69,35 +56,28 @@ bool isLink(const QByteArray &path)
     return lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
-int openFolder(const QByteArray &path)
+bool lockWithTimeout(int descriptor, std::chrono::milliseconds timeout)
 {
-    QDir().mkpath(QFile::decodeName(path) + QStringLiteral("/.."));
-    mkdir(path.constData(), folderMode);
-    return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-}
-
-bool lockWithin(int descriptor, std::chrono::milliseconds patience)
-{
-    for (;; patience -= lockPause) {
-        // A file system that knows no locks keeps nobody out, and must not keep us out either.
+    for (;; timeout -= lockRetryInterval) {
+        // On a file system without locks no process can hold one.
         if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) {
             return true;
         }
-        if (patience < lockPause) {
+        if (timeout < lockRetryInterval) {
             return false;
         }
-        std::this_thread::sleep_for(lockPause);
+        std::this_thread::sleep_for(lockRetryInterval);
     }
 }
 
 } // namespace
 
-PrivateFile::Lock::Lock(const PrivateFile &file) : m_folder(openFolder(file.m_folder))
+PrivateFile::Lock::Lock(const PrivateFile &file) : m_folder(PrivateFiles::openFolder(file.m_folder))
 {
-    const bool isPrivate =
-        m_folder.isOpen() && (isLink(file.m_folder) || fchmod(m_folder.get(), folderMode) == 0);
-    m_held = isPrivate && lockWithin(m_folder.get(), file.m_patient ? lockPatience : 0ms);
-    file.m_patient = m_held || !isPrivate;
+    const bool isPrivate = m_folder.isOpen()
+        && (isLink(file.m_folder) || fchmod(m_folder.get(), PrivateFiles::folderMode) == 0);
+    m_held = isPrivate && lockWithTimeout(m_folder.get(), file.m_waitsForLock ? lockTimeout : 0ms);
+    file.m_waitsForLock = m_held || !isPrivate;
 }
 
 PrivateFile::PrivateFile(const QString &folder, const QString &name, qsizetype maximumLength)
@@ -121,32 +101,13 @@ PrivateFile::State PrivateFile::read(QByteArray *content) const
 
 bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
 {
-    if (!lock.isHeld()) {
-        return false;
-    }
-    const int folder = lock.m_folder.get();
-    // Always the same name, so that a killed writer leaves no more than one, and the next one
-    // clears it away.
-    const QByteArray temporary = temporaryName();
-    unlinkat(folder, temporary.constData(), 0);
-    const FileDescriptor file(
-        openat(folder, temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, fileMode));
-    const bool complete = file.isOpen() && fchmod(file.get(), fileMode) == 0
-        && writeAll(file.get(), content) && fsync(file.get()) == 0;
-    if (!complete || renameat(folder, temporary.constData(), folder, m_name.constData()) != 0) {
-        unlinkat(folder, temporary.constData(), 0);
-        return false;
-    }
-    // The content is in place; without this a power cut might bring the old one back.
-    fsync(folder);
-    return true;
+    return lock.isHeld() && PrivateFiles::replace(lock.m_folder.get(), m_name, content);
 }
 
 bool PrivateFile::remove() const
 {
-    // First: a writer that stands still would put it in the file's place.
-    const QByteArray temporary = m_folder + '/' + temporaryName();
-    unlink(temporary.constData());
+    // First: a stopped writer that goes on would rename it to the removed file.
+    removeTemporary();
     if (unlink(path().constData()) != 0) {
         return errno == ENOENT || errno == ENOTDIR;
     }
@@ -155,9 +116,14 @@ bool PrivateFile::remove() const
     return true;
 }
 
+void PrivateFile::removeTemporary() const
+{
+    unlink(QByteArray(m_folder + '/' + PrivateFiles::temporaryName(m_name)).constData());
+}
+
 bool PrivateFile::moveAside(const Lock &lock) const
 {
-    QByteArray place = path() + asideMark + "XXXXXX";
+    QByteArray place = path() + damagedSuffix + "XXXXXX";
     if (!lock.isHeld() || !mkdtemp(place.data())) {
         return false;
     }
@@ -173,12 +139,12 @@ bool PrivateFile::removeMovedAside() const
 {
     bool removed = true;
     const QDir folder(QFile::decodeName(m_folder));
-    const QString pattern = QFile::decodeName(m_name + asideMark) + u'*';
+    const QString pattern = QFile::decodeName(m_name + damagedSuffix) + u'*';
     for (const QString &entry : folder.entryList({pattern}, QDir::Dirs | QDir::NoSymLinks)) {
         const QByteArray place = QFile::encodeName(folder.filePath(entry));
         const QByteArray file = place + '/' + m_name;
         const bool isGone = ::remove(file.constData()) == 0 || errno == ENOENT;
-        // A folder with something in it has never been one of these files.
+        // A folder that is not empty was never written by this class.
         removed = removed && (isGone || errno == ENOTEMPTY);
         rmdir(place.constData());
     }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/storage/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 
 #include <unistd.h>
 
