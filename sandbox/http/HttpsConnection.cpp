@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/http/HttpsConnection.h"
 
+#include "sandbox/http/KeyUpdates.h"
 #include "sandbox/http/QueryItems.h"
 
-#include <openssl/err.h>
 #include <openssl/ssl.h>
 
 #include <boost/asio/post.hpp>
@@ -40,7 +40,8 @@ constexpr auto shutdownTime = 1s;
 constexpr std::uint32_t headerLimit = 65'536;
 constexpr std::uint64_t bodyLimit = 65'536;
 
-int problemOf(const error_code &error)
+/// The HTTP status for a request that could not be read.
+int statusOf(const error_code &error)
 {
     if (error == http::error::header_limit) {
         return 431;
@@ -48,7 +49,7 @@ int problemOf(const error_code &error)
     return error == http::error::body_limit ? 413 : 400;
 }
 
-// Without a handshake no context is ever used, but the stream wants one.
+// A stream needs a context, even if its connection never begins a handshake.
 asio::ssl::context shared(SSL_CTX *context)
 {
     if (!context) {
@@ -58,7 +59,7 @@ asio::ssl::context shared(SSL_CTX *context)
     return asio::ssl::context(context);
 }
 
-// Every operation below runs on the server's thread, and is followed by at most one other.
+// Every operation runs on the server's thread and starts at most one other.
 class Connection final : public std::enable_shared_from_this<Connection> {
 public:
     Connection(tcp::socket socket, SSL_CTX *context, const HttpsServer::Handler &handler)
@@ -69,22 +70,26 @@ public:
     {
     }
 
-    void start(std::chrono::milliseconds delay) { pauseThen(delay, &Connection::handshake); }
+    using Step = void (Connection::*)();
 
-    // Reads and drops whatever comes, until the client goes.
-    template <typename Stream>
-    void readUntilClosed(Stream &stream)
+    // A handler that takes the next step unless the operation has failed.
+    auto then(Step step)
     {
-        tcpStream().expires_never();
-        stream.async_read_some(asio::buffer(m_discarded),
-                               [self = shared_from_this(), &stream](error_code error, size_t) {
-                                   if (!error) {
-                                       self->readUntilClosed(stream);
-                                   }
-                               });
+        return [self = shared_from_this(), step](const error_code &error, auto &&...) {
+            if (!error) {
+                (self.get()->*step)();
+            }
+        };
     }
 
-    void readUntilClosed() { readUntilClosed(tcpStream()); }
+    void start(std::chrono::milliseconds delay) { pauseThen(delay, &Connection::handshake); }
+
+    // Discards all input, encrypted as it is, until the client closes the connection.
+    void readUntilClosed()
+    {
+        tcpStream().expires_never();
+        tcpStream().async_read_some(asio::buffer(m_discarded), then(&Connection::readUntilClosed));
+    }
 
 private:
     beast::tcp_stream &tcpStream() { return m_stream.next_layer(); }
@@ -92,12 +97,7 @@ private:
     void handshake()
     {
         tcpStream().expires_after(handshakeTime);
-        m_stream.async_handshake(asio::ssl::stream_base::server,
-                                 [self = shared_from_this()](error_code error) {
-                                     if (!error) {
-                                         self->read();
-                                     }
-                                 });
+        m_stream.async_handshake(asio::ssl::stream_base::server, then(&Connection::read));
     }
 
     void read()
@@ -120,10 +120,11 @@ private:
             && error.category() != http::make_error_code(http::error::bad_method).category()) {
             return;
         }
-        m_handler(error ? malformed(problemOf(error)) : request(), answerTo(shared_from_this()));
+        m_handler(error ? malformed(statusOf(error)) : request(), answerTo(shared_from_this()));
     }
 
-    // Gives its reference up when it is called: on another thread it must not be the last.
+    // The answer gives up its reference when it is called: the connection must be destroyed on the
+    // server's thread.
     static HttpsServer::Answer answerTo(std::shared_ptr<Connection> self)
     {
         return [self = std::move(self)](Transmission transmission) mutable {
@@ -167,24 +168,20 @@ private:
         pauseThen(m_transmission.delay, &Connection::write);
     }
 
-    void pauseThen(std::chrono::milliseconds time, void (Connection::*step)())
+    void pauseThen(std::chrono::milliseconds time, Step step)
     {
         if (time <= 0ms) {
             return (this->*step)();
         }
         tcpStream().expires_never();
         m_timer.expires_after(time);
-        m_timer.async_wait([self = shared_from_this(), step](error_code error) {
-            if (!error) {
-                (self.get()->*step)();
-            }
-        });
+        m_timer.async_wait(then(step));
     }
 
     void write()
     {
         if (m_transmission.keyUpdates > 0) {
-            return startKeyUpdates();
+            return writeAfterKeyUpdates();
         }
         const size_t left = static_cast<size_t>(m_transmission.bytes.size()) - m_sent;
         if (left == 0) {
@@ -208,12 +205,7 @@ private:
     {
         static const std::string blanks(64 * size_t{1024}, ' ');
         tcpStream().expires_after(idleTime);
-        asio::async_write(m_stream, asio::buffer(blanks),
-                          [self = shared_from_this()](error_code error, size_t) {
-                              if (!error) {
-                                  self->writeBlanks();
-                              }
-                          });
+        asio::async_write(m_stream, asio::buffer(blanks), then(&Connection::writeBlanks));
     }
 
     void end()
@@ -231,46 +223,20 @@ private:
             return tcpStream().close();
         }
         case Transmission::Ending::Silence:
-            return readUntilClosed(m_stream);
+            return readUntilClosed();
         }
     }
 
-    // Past the stream, which sends none without a byte of data.
-    void startKeyUpdates()
+    // The answer goes past the stream as well, like the updates before it.
+    void writeAfterKeyUpdates()
     {
-        tcp::socket &socket = tcpStream().socket();
-        error_code ignored;
-        socket.non_blocking(true, ignored);
-        SSL_set0_wbio(m_stream.native_handle(),
-                      BIO_new_socket(socket.native_handle(), BIO_NOCLOSE));
-        sendKeyUpdates();
-    }
-
-    void sendKeyUpdates()
-    {
-        constexpr int atOnce = 1000;
         SSL *ssl = m_stream.native_handle();
-        int state = SSL_ERROR_NONE;
-        for (int i = 0; i < atOnce && m_transmission.keyUpdates > 0 && state == SSL_ERROR_NONE;
-             ++i, --m_transmission.keyUpdates) {
-            SSL_key_update(ssl, SSL_KEY_UPDATE_NOT_REQUESTED);
-            ERR_clear_error();
-            state = SSL_get_error(ssl, SSL_do_handshake(ssl));
-        }
-        if (state != SSL_ERROR_NONE && state != SSL_ERROR_WANT_WRITE) {
-            return;
-        }
-        if (state == SSL_ERROR_NONE && m_transmission.keyUpdates == 0) {
-            SSL_write(ssl, m_transmission.bytes.constData(),
-                      static_cast<int>(m_transmission.bytes.size()));
-            return tcpStream().close();
-        }
-        tcpStream().socket().async_wait(tcp::socket::wait_write,
-                                        [self = shared_from_this()](error_code error) {
-                                            if (!error) {
-                                                self->sendKeyUpdates();
-                                            }
-                                        });
+        sendKeyUpdates(tcpStream().socket(), ssl, m_transmission.keyUpdates,
+                       [self = shared_from_this(), ssl] {
+                           const QByteArray &bytes = self->m_transmission.bytes;
+                           SSL_write(ssl, bytes.constData(), static_cast<int>(bytes.size()));
+                           self->tcpStream().close();
+                       });
     }
 
     void shutDownTls()
@@ -279,17 +245,12 @@ private:
         m_stream.async_shutdown([self = shared_from_this()](error_code) { self->drain(); });
     }
 
-    // Closing while something is still unread would take the answer back.
+    // Closing a socket with unread input sends a reset, which discards the answer.
     void drain()
     {
         error_code ignored;
         tcpStream().socket().shutdown(tcp::socket::shutdown_send, ignored);
-        tcpStream().async_read_some(asio::buffer(m_discarded),
-                                    [self = shared_from_this()](error_code error, size_t) {
-                                        if (!error) {
-                                            self->drain();
-                                        }
-                                    });
+        tcpStream().async_read_some(asio::buffer(m_discarded), then(&Connection::drain));
     }
 
     asio::ssl::context m_context;
