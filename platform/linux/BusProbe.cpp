@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusProbe.h"
 
+#include "platform/files/FileDescriptor.h"
+#include "platform/linux/BusHello.h"
+
 #include <QByteArrayList>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstddef>
+#include <optional>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -18,8 +23,8 @@ namespace {
 
 constexpr QByteArrayView transport = "unix:";
 
-/// The socket of an address such as "unix:path=/run/bus,guid=1", in the system's notation: one of
-/// the abstract kind begins with a null character. Empty for what is no socket's.
+/// The socket of a D-Bus server address such as "unix:path=/run/bus,guid=1". The name of an
+/// abstract socket begins with a null character. Empty for any other kind of address.
 QByteArray socketName(const QByteArray &address)
 {
     for (const QByteArray &pair : address.mid(transport.size()).split(',')) {
@@ -34,8 +39,8 @@ QByteArray socketName(const QByteArray &address)
     return {};
 }
 
-/// A socket that is connected to `name`. Negative for none, with EAGAIN in errno when as many wait
-/// there as may until `deadline`.
+/// A socket that is connected to `name`. Negative on failure, with EAGAIN in errno if the queue of
+/// the bus remains full until `deadline`.
 int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
 {
     sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
@@ -46,7 +51,7 @@ int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
     const auto length =
         static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + static_cast<size_t>(name.size()));
     const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const qint64 left = std::max(qint64{1}, deadline.remainingTime()); // 0 would be for ever
+    const qint64 left = std::max(qint64{1}, deadline.remainingTime()); // 0 means no limit
     const timeval timeout{.tv_sec = left / 1000, .tv_usec = left % 1000 * 1000};
     setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof timeout);
     if (connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0) {
@@ -58,35 +63,65 @@ int connectedSocket(const QByteArray &name, QDeadlineTimer deadline)
     return -1;
 }
 
-/// Asks which ways to prove who one is there are, as every client may, and waits for any answer.
-bool answers(int descriptor, QDeadlineTimer deadline)
+/// Input of the bus up to the end of a line, or until it closes the connection; nil at the
+/// deadline.
+std::optional<QByteArray> receiveLine(int descriptor, QDeadlineTimer deadline)
 {
-    constexpr char question[] = "\0AUTH\r\n";
-    constexpr ssize_t length = sizeof question - 1;
+    QByteArray line;
+    std::array<char, 256> buffer{};
     pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
-    return send(descriptor, question, static_cast<size_t>(length), MSG_NOSIGNAL) != length
-        || poll(&waiting, 1, static_cast<int>(deadline.remainingTime())) != 0;
+    while (!line.contains('\n')) {
+        const int timeout = static_cast<int>(deadline.remainingTime());
+        if (poll(&waiting, 1, timeout) == 0 || deadline.hasExpired()) {
+            return std::nullopt;
+        }
+        const ssize_t length = recv(descriptor, buffer.data(), buffer.size(), 0);
+        if (length <= 0) {
+            break;
+        }
+        line.append(buffer.data(), length);
+    }
+    return line;
+}
+
+bool sendAll(int descriptor, const QByteArray &bytes)
+{
+    return send(descriptor, bytes.constData(), static_cast<size_t>(bytes.size()), MSG_NOSIGNAL)
+        == bytes.size();
+}
+
+/// Authenticates, calls Hello and waits for any reply. To refuse or to close the connection is an
+/// answer too.
+bool answersHello(int descriptor, QDeadlineTimer deadline)
+{
+    const QByteArray user = QByteArray::number(geteuid()).toHex();
+    if (!sendAll(descriptor, '\0' + ("AUTH EXTERNAL " + user) + "\r\n")) {
+        return true;
+    }
+    const std::optional<QByteArray> line = receiveLine(descriptor, deadline);
+    if (!line || !line->startsWith("OK ") || !sendAll(descriptor, "BEGIN\r\n" + helloCall())) {
+        return line.has_value();
+    }
+    pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
+    return poll(&waiting, 1, static_cast<int>(deadline.remainingTime())) != 0;
 }
 
 } // namespace
 
 bool busAnswers(const QByteArray &address, QDeadlineTimer deadline)
 {
-    // Of several the libraries take the first that accepts; one that refuses answers at once.
+    // Of several addresses the bus libraries use the first that accepts a connection.
     for (const QByteArray &one : address.split(';')) {
         if (!one.startsWith(transport)) {
             return true;
         }
-        const int descriptor = connectedSocket(socketName(one), deadline);
-        if (descriptor < 0 && errno == EAGAIN) {
+        const FileDescriptor bus(connectedSocket(socketName(one), deadline));
+        if (!bus.isOpen() && errno == EAGAIN) {
             return false;
         }
-        if (descriptor < 0) {
-            continue;
+        if (bus.isOpen()) {
+            return answersHello(bus.get(), deadline);
         }
-        const bool answered = answers(descriptor, deadline);
-        close(descriptor);
-        return answered;
     }
     return true;
 }

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QDeadlineTimer>
 
-/// Whether connecting to the D-Bus `address` comes to an end: false for a socket that accepts and
-/// says nothing until `deadline`. The bus libraries would wait for it for half a minute or longer,
-/// with whatever uses them.
+/// Whether a client of the D-Bus `address` gets an answer: false for a bus that accepts a
+/// connection and then does not answer the authentication or the first call until `deadline`. The
+/// bus libraries would block their callers for half a minute or longer.
 [[nodiscard]] bool busAnswers(const QByteArray &address, QDeadlineTimer deadline);

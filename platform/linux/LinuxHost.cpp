@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxHost.h"
 
+#include "platform/linux/ActivationTokens.h"
 #include "platform/linux/DesktopPalette.h"
 #include "platform/linux/DesktopSettings.h"
 #include "platform/linux/Feedback.h"
@@ -14,7 +15,7 @@
 
 std::chrono::milliseconds LinuxHost::prepare()
 {
-    SingleInstance::prepareEnvironment();
+    ActivationTokens::prepareEnvironment();
     const QDeadlineTimer deadline(startTimeout);
     if (!SessionBus::probe(deadline)) {
         qInfo("The session bus does not answer: this start does without it.");

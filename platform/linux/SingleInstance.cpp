@@ -2,83 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SingleInstance.h"
 
+#include "platform/linux/ActivationTokens.h"
+
 #include <QDebug>
 #include <QTimer>
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <utility>
 
 #include <malloc.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct TokenName {
-    QLatin1StringView platformData;
-    const char *environment;
-};
-
-constexpr std::array tokenNames{
-    TokenName{"activation-token"_L1, "XDG_ACTIVATION_TOKEN"},
-    TokenName{"desktop-startup-id"_L1, "DESKTOP_STARTUP_ID"},
-};
-
-QVariantMap platformDataFromEnvironment()
-{
-    QVariantMap data;
-    for (const TokenName &name : tokenNames) {
-        if (const QString token = qEnvironmentVariable(name.environment); !token.isEmpty()) {
-            data.insert(name.platformData, token);
-        }
-    }
-    return data;
-}
-
-/// The tokens' entries of the environment. Other threads read the environment for their own
-/// variables, so its list never changes once they run: only the values of these entries do.
-constexpr size_t entryLength = 512;
-constinit std::array<std::array<char, entryLength>, tokenNames.size()> entries{};
-
-void setToken(size_t i, const QByteArray &token)
-{
-    const QByteArray entry = tokenNames[i].environment + ('=' + token);
-    if (static_cast<size_t>(entry.size()) < entryLength) {
-        std::copy_n(entry.constData(), entry.size() + 1, entries[i].data());
-    }
-}
-
-/// Has the tokens in the environment while it lives: Qt takes one from there when a window asks to
-/// come to the front.
-class EnvironmentTokens {
-public:
-    explicit EnvironmentTokens(const QVariantMap &platformData)
-    {
-        for (size_t i = 0; i < tokenNames.size(); ++i) {
-            setToken(i, platformData.value(tokenNames[i].platformData).toString().toUtf8());
-        }
-    }
-    ~EnvironmentTokens()
-    {
-        for (size_t i = 0; i < tokenNames.size(); ++i) {
-            setToken(i, {});
-        }
-    }
-    Q_DISABLE_COPY_MOVE(EnvironmentTokens)
-};
-
-} // namespace
-
-void SingleInstance::prepareEnvironment()
-{
-    for (size_t i = 0; i < tokenNames.size(); ++i) {
-        setToken(i, {});
-        setToken(i, qgetenv(tokenNames[i].environment));
-        ::putenv(entries[i].data());
-    }
-}
 
 SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                                std::function<void(const QStringList &)> opened)
@@ -87,7 +20,7 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
       m_path(u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_')),
       m_opened(std::move(opened))
 {
-    // Before the name: whoever sees the name may call at once.
+    // Before the name is claimed: its first calls may come at once.
     m_bus.registerObject(m_path, this, QDBusConnection::ExportAllSlots);
 }
 
@@ -106,7 +39,7 @@ bool SingleInstance::claimOrHandOver(const QStringList &urls, QDeadlineTimer dea
     if (claimed == Claim::Refused) {
         qInfo("The session bus does not give the name: this start is on its own.");
     } else if (claimed == Claim::OwnedByAnother && claim(deadline) != Claim::Owner) {
-        // Unless the owner ended while it was asked.
+        // The owner may have ended during the call, so the name is claimed again.
         qInfo("The application that runs does not answer: this start is on its own.");
     }
     return true;
@@ -144,7 +77,7 @@ bool SingleInstance::handOver(const QStringList &urls, QDeadlineTimer deadline)
     if (open) {
         message << urls;
     }
-    message << platformDataFromEnvironment();
+    message << ActivationTokens::platformData();
     message.setAutoStartService(false);
     return m_bus.call(message, QDBus::Block, static_cast<int>(deadline.remainingTime())).type()
         == QDBusMessage::ReplyMessage;
@@ -158,14 +91,14 @@ void SingleInstance::Activate(const QVariantMap &platformData)
 void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformData)
 {
     {
-        const EnvironmentTokens tokens(platformData);
+        const ActivationTokens::Scope tokens(platformData);
         m_opened(urls);
     }
     scheduleMemoryTrim();
 }
 
-// A call may be long, and the allocator keeps what it once had. A second later the bus connection's
-// thread has freed its copy too.
+// A call may be large, and the allocator keeps freed memory. After a second the thread of the bus
+// connection has freed its copy as well.
 void SingleInstance::scheduleMemoryTrim()
 {
     if (std::exchange(m_isTrimScheduled, true)) {
@@ -178,7 +111,7 @@ void SingleInstance::scheduleMemoryTrim()
     QTimer::singleShot(std::chrono::seconds(1), this, trim);
 }
 
-// The desktop entry has no actions: whoever asks for one gets the application.
+// The desktop entry has no actions, so a call of one only activates the application.
 void SingleInstance::ActivateAction(const QString & /*name*/, const QVariantList & /*parameter*/,
                                     const QVariantMap &platformData)
 {

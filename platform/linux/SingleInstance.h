@@ -11,31 +11,29 @@
 
 #include <functional>
 
-/// The application's side of D-Bus activation: owns the application's name on the bus, takes what
-/// later starts hand over, and hands over to the owner that is there already.
+/// The application's side of D-Bus activation: owns the application's name on the bus and receives
+/// the URLs of later starts, or passes its own to the present owner.
 /// Interface: org.freedesktop.Application, in the desktop entry documentation of freedesktop.org.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// Makes room for activation tokens in the environment. Before any thread is started.
-    static void prepareEnvironment();
-
-    /// `opened` is called for each list of URLs handed over, empty for a mere activation.
+    /// `opened` is called for each list of URLs received, an empty one for an activation without
+    /// URLs.
     SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                    std::function<void(const QStringList &)> opened);
-    /// Gives the name up, if it has it.
+    /// Releases the name.
     ~SingleInstance() override;
     Q_DISABLE_COPY_MOVE(SingleInstance)
 
-    /// False when `urls` went to a live owner of the name, which has answered. Otherwise this
-    /// process is to run: it owns the name now, or, as one line in the log says, the bus or the
-    /// owner refused or did not answer until `deadline`.
+    /// False if another process owns the name and has accepted `urls`. True if this process is to
+    /// run: it owns the name now, or the bus or the owner refused or did not answer until
+    /// `deadline`, which it logs.
     [[nodiscard]] bool claimOrHandOver(const QStringList &urls, QDeadlineTimer deadline);
 
 public Q_SLOTS:
-    // The methods on the bus. Nothing of what comes with a call is kept.
+    // The methods on the bus. The object keeps none of their arguments.
     void Activate(const QVariantMap &platformData);
     void Open(const QStringList &urls, const QVariantMap &platformData);
     void ActivateAction(const QString &name, const QVariantList &parameter,

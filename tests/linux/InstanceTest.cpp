@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/BuildConstants.h"
 #include "platform/linux/LinuxHost.h"
+#include "tests/linux/AuthOnlyBus.h"
 #include "tests/linux/FakeService.h"
 #include "tests/support/MuteSocket.h"
 #include "tests/support/TestRunner.h"
@@ -19,7 +20,7 @@ namespace {
 const QString applicationId = u"example.wzt-test.Companion"_s;
 const QString scheme = QString::fromLatin1(BuildConstants::urlScheme);
 
-// Another start of the application; it tells whether it is the only one.
+// Starts the application again; the output tells whether it is the single instance.
 QByteArray start(const QStringList &urls, const QProcessEnvironment &environment,
                  const QString &name = applicationId)
 {
@@ -82,7 +83,7 @@ private Q_SLOTS:
         LinuxHost second(applicationId);
         const QStringList urls{u"wzt://x"_s};
         QVERIFY(first.claimSingleInstance({}, append));
-        // The first cannot answer: its thread stands in this very call.
+        // The first cannot answer, because this call blocks its thread.
         QTest::ignoreMessage(
             QtInfoMsg, "The application that runs does not answer: this start is on its own.");
         QVERIFY(second.claimSingleInstance(urls, {}));
@@ -97,8 +98,8 @@ private Q_SLOTS:
         QTRY_COMPARE(opened, (QList<QStringList>{urls, {}}));
     }
 
-    /// Each of these once ended the start without a window, or held it up for ever.
-    void desktopThatIsNoHelp()
+    /// Each of these once ended the start without a window, or delayed it without limit.
+    void unusableBus()
     {
         const QString home = QDir::homePath();
         const QByteArray muteAddress = "unix:path=" + home.toUtf8() + "/mute%20bus";
@@ -106,13 +107,15 @@ private Q_SLOTS:
         const QByteArray fullAddress = "unix:path=" + home.toUtf8() + "/full-bus";
         MuteSocket full(home.toUtf8() + "/full-bus");
         full.fill();
-        // It has the name and knows none of the calls.
+        const AuthOnlyBus authOnly(home.toUtf8() + "/auth-only-bus");
+        // It owns the name and implements none of the calls.
         const FakeService stranger(u"example.wzt-test.Stranger"_s, u"/elsewhere"_s, {});
         const std::pair<QString, QByteArray> rows[] = {
             {u"example.wzt-test.Refused"_s, {}},
             {u"example.wzt-test.Stranger"_s, {}},
             {applicationId, muteAddress},
             {applicationId, fullAddress},
+            {applicationId, "unix:path=" + home.toUtf8() + "/auth-only-bus"},
             {applicationId, "unix:path=/nowhere"},
             {applicationId, "unix:path=/nowhere;" + muteAddress + ",guid=1"},
         };
@@ -126,7 +129,7 @@ private Q_SLOTS:
         }
     }
 
-    void keepsNothingOfWhatItIsSent()
+    void releasesTheMemoryOfACall()
     {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
         QSKIP("The sanitizer keeps what is freed.");
@@ -149,11 +152,11 @@ private Q_SLOTS:
             QVERIFY(QDBusConnection::sessionBus().send(open));
         }
         QTRY_COMPARE_WITH_TIMEOUT(opened, many, 20000);
-        // A list of so many takes ten thousand pages.
+        // The list takes ten thousand pages.
         QTRY_VERIFY(residentPages() < before + 3000);
     }
 
-    void tap()
+    void tapTriggersFeedback()
     {
         LinuxHost host(applicationId);
         host.impactOccurred(UIImpactFeedbackStyle::Light); // nobody is there yet
@@ -168,8 +171,8 @@ private Q_SLOTS:
         QCOMPARE(call[5], -1);
     }
 
-    // A second start is a second process then, and nothing complains or starts a bus.
-    void noBus()
+    // A second start runs as a second process, logs nothing and starts no bus.
+    void startsWithoutABus()
     {
         LinuxHost host(applicationId);
         QVERIFY(host.claimSingleInstance({}, [](const QStringList &) {}));
