@@ -8,8 +8,7 @@
 
 #include <functional>
 
-/// Light or dark as the application's palette shows it, live. Without a GUI application it says
-/// nothing.
+/// The light or dark style of the application's palette. Unspecified without a GUI application.
 class DesktopPalette : public QObject {
     Q_OBJECT
 
@@ -17,8 +16,8 @@ public:
     /// `changed` is called after each change of the palette.
     explicit DesktopPalette(std::function<void()> changed);
 
-    /// Dark when text is lighter than what it stands on. Otherwise unspecified: a light palette is
-    /// also what Qt has on a desktop that sets none.
+    /// Dark if text is lighter than its background. Otherwise unspecified: Qt also has a light
+    /// palette on a desktop that sets none.
     [[nodiscard]] UIUserInterfaceStyle style() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

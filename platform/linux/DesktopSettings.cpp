@@ -66,7 +66,7 @@ constexpr std::array settings{
     Setting{desktopGroup, "enable-animations"_L1, QMetaType::Bool, setAnimations},
 };
 
-// Portals wrap a value in one variant or in several.
+// Portals wrap a value in one or more variants.
 QVariant unwrapped(QVariant value)
 {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>()) {
@@ -75,7 +75,7 @@ QVariant unwrapped(QVariant value)
     return value;
 }
 
-void take(Values &values, const QString &group, const QString &key, const QVariant &wrapped)
+void setValue(Values &values, const QString &group, const QString &key, const QVariant &wrapped)
 {
     const QVariant value = unwrapped(wrapped);
     for (const Setting &setting : settings) {
@@ -92,7 +92,7 @@ DesktopSettings::DesktopSettings(const QDBusConnection &bus, std::function<void(
       m_portal(service, bus, QDBusServiceWatcher::WatchForRegistration),
       m_changed(std::move(changed))
 {
-    // A value that could not be followed would be worse than none.
+    // Without the signal the values would become outdated.
     if (!m_bus.connect(service, path, interface, u"SettingChanged"_s, this,
                        SLOT(settingChanged(QDBusMessage)))) {
         return;
@@ -114,7 +114,7 @@ void DesktopSettings::settingChanged(const QDBusMessage &message)
         return;
     }
     const QVariantList arguments = message.arguments();
-    take(m_values, arguments.at(0).toString(), arguments.at(1).toString(), arguments.at(2));
+    setValue(m_values, arguments.at(0).toString(), arguments.at(1).toString(), arguments.at(2));
     m_changed();
 }
 
@@ -136,7 +136,8 @@ void DesktopSettings::readAllFinished(QDBusPendingCallWatcher *watcher)
     const auto groups = qdbus_cast<Groups>(reply.arguments().constFirst());
     m_values = {};
     for (const Setting &setting : settings) {
-        take(m_values, setting.group, setting.key, groups.value(setting.group).value(setting.key));
+        setValue(m_values, setting.group, setting.key,
+                 groups.value(setting.group).value(setting.key));
     }
     m_changed();
 }

@@ -13,19 +13,19 @@
 class QDBusMessage;
 class QDBusPendingCallWatcher;
 
-/// The appearance that the desktop portal's settings tell, live. Read without waiting, at the start
-/// and whenever a portal appears; what was read stays while the portal is away.
-/// Interface: the desktop portal's documentation, org.freedesktop.portal.Settings.
+/// The appearance by the settings of the desktop portal. Reads them asynchronously, at the start
+/// and whenever a portal appears, and follows their changes; keeps the last values without a
+/// portal. Interface: the desktop portal's documentation, org.freedesktop.portal.Settings.
 class DesktopSettings : public QObject {
     Q_OBJECT
 
 public:
-    /// `changed` is called when the appearance may be another one.
+    /// `changed` is called after the appearance may have changed.
     DesktopSettings(const QDBusConnection &bus, std::function<void()> changed);
 
     [[nodiscard]] UIAppearance appearance() const;
 
-    /// The keys this class follows, as the portal tells them.
+    /// The values of the keys that this class follows.
     struct Values {
         UIUserInterfaceStyle style = UIUserInterfaceStyle::Unspecified;
         double textScale = 1.0;

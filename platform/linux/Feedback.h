@@ -6,7 +6,7 @@
 
 class QDBusConnection;
 
-/// Asks feedbackd on `bus` for the feedback of a pressed button in the name of `applicationId`.
-/// Waits for nothing and starts nothing: without the daemon nothing happens.
+/// Requests the feedback of a pressed button from feedbackd on `bus`, on behalf of `applicationId`.
+/// Neither waits nor starts the daemon; without it nothing happens.
 /// Interface: the D-Bus documentation of feedbackd, org.sigxcpu.Feedback, and its event naming.
 void triggerButtonFeedback(const QDBusConnection &bus, const QString &applicationId);

@@ -24,7 +24,7 @@ Owned<GAppInfo> handlerOf(const QByteArray &url)
     return Owned<GAppInfo>(scheme ? g_app_info_get_default_for_uri_scheme(scheme.get()) : nullptr);
 }
 
-// What was meant for this process alone stays out of the handler's environment.
+// Removes the variables that concern only this process from the handler's environment.
 Owned<GAppLaunchContext> cleanContext()
 {
     Owned<GAppLaunchContext> context(g_app_launch_context_new());
@@ -44,8 +44,8 @@ bool Links::hasHandler(const QString &url)
     return handlerOf(url.toUtf8()) != nullptr;
 }
 
-// Not g_app_info_launch_default_for_uri: that one reads the target to guess its type, and asks a
-// portal, with a dialog, when nobody handles the scheme.
+// g_app_info_launch_default_for_uri would read the target to guess its type, and open a portal's
+// dialog for a scheme without a handler.
 void Links::open(const QString &url)
 {
     QByteArray bytes = url.toUtf8();

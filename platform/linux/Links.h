@@ -4,14 +4,14 @@
 
 class QString;
 
-/// Links to other applications, by the desktop's table of scheme handlers. Main thread only.
+/// Links to other applications, through the desktop's scheme handlers. Main thread only.
 namespace Links {
 
-/// Whether an application is registered for the scheme of `url`; false for text without a scheme.
+/// Whether an application handles the scheme of `url`; false for a text without a scheme.
 [[nodiscard]] bool hasHandler(const QString &url);
 
-/// Starts the application registered for the scheme of `url` with `url` as it stands, in UTF-8.
-/// Does not wait for that application. Nothing happens without one, or when it cannot be started.
+/// Starts the application that handles the scheme of `url`, with the unchanged `url` in UTF-8. Does
+/// not wait for it. Ignores failures.
 void open(const QString &url);
 
 } // namespace Links

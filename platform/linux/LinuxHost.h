@@ -13,20 +13,19 @@ class SessionBus;
 class SingleInstance;
 
 /// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
-/// appearance and the one instance over the session bus. What the machine does not have is silently
-/// absent. Made after the application object, destroyed before it; main thread only.
+/// appearance and the single instance over the session bus. Features that the machine lacks do
+/// nothing. Made after the application object, destroyed before it; main thread only.
 class LinuxHost final : public UIHost {
 public:
-    /// How long a start waits for the desktop, all in all.
+    /// The total time that a start waits for the desktop.
     static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
 
-    /// Makes sure that the session bus does not hold up the application object, whose plugins use
-    /// it: one that does not answer is out of use from then on. Before that object is made.
-    /// Returns what is left of `startTimeout`.
+    /// Disables a session bus that does not answer, which would delay the plugins of the
+    /// application object. Call it before that object is made. Returns the rest of `startTimeout`.
     [[nodiscard]] static std::chrono::milliseconds prepare();
 
-    /// `applicationId` is the reverse-DNS name under which the desktop knows the application.
-    /// `remainingTime` is what `prepare` returned.
+    /// `applicationId`: the application's reverse-DNS name on the desktop. `remainingTime`: the
+    /// result of `prepare`.
     explicit LinuxHost(const QString &applicationId,
                        std::chrono::milliseconds remainingTime = startTimeout);
     ~LinuxHost() override;
@@ -39,7 +38,7 @@ public:
     [[nodiscard]] bool
     claimSingleInstance(const QStringList &urls,
                         std::function<void(const QStringList &)> opened) override;
-    /// A later start of the application is on its own from now on.
+    /// A later start of the application runs as an instance of its own.
     void releaseSingleInstance();
 
 private:

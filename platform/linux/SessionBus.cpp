@@ -22,8 +22,8 @@ bool isOwnSocket(const QByteArray &path)
         && status.st_uid == ::getuid();
 }
 
-// The address of the bus in the two places where a running one is found. The bus libraries know a
-// third: to start one.
+// The address of a running bus: from the environment, or the socket in the runtime folder. The bus
+// libraries would also start a new one.
 QByteArray knownAddress()
 {
     const QByteArray address = qgetenv(addressVariable);
@@ -35,8 +35,8 @@ QByteArray knownAddress()
     return !folder.isEmpty() && isOwnSocket(path) ? "unix:path=" + path : QByteArray();
 }
 
-// Other libraries of this process (GIO when it launches a handler) would wait for a bus that says
-// nothing, or start one of their own where there is none.
+// Otherwise other libraries of this process (GIO when it launches a handler) would wait for a bus
+// that does not answer, or start a new one.
 void disable()
 {
     qputenv(addressVariable, "disabled:");

@@ -5,17 +5,15 @@
 #include <QDBusConnection>
 #include <QDeadlineTimer>
 
-/// A connection of its own to the session bus, closed with the object; names and objects go with
-/// it. Without a bus it is a connection that is not connected: every use of it fails at once,
-/// silently.
+/// A private connection to the session bus. The destructor closes it, which releases its names and
+/// objects. Without a bus it is a closed connection, whose calls fail at once and silently.
 class SessionBus {
 public:
-    /// Asks the session bus whether it is alive and waits until `deadline` for an answer. False:
-    /// from then on there is no bus for this process. Before the
-    /// application object is made, whose plugins would wait for the bus much longer.
+    /// Whether the session bus answers until `deadline`; otherwise disables it for this process.
+    /// Call it before the application object is made, whose plugins would wait much longer.
     static bool probe(QDeadlineTimer deadline);
 
-    /// There is no bus for this process: none is known, or it was found to be dead.
+    /// Whether this process uses no bus: none is running, or it did not answer.
     [[nodiscard]] static bool isDisabled();
 
     SessionBus();
