@@ -8,14 +8,14 @@
 
 namespace sandbox {
 
-/// An account to try things with, and the password it is made with.
+/// An account for demonstrations, and its initial password.
 struct DemoAccount {
     Account account;
     QString password;
 };
 
-/// An early adopter with everything filled in, somebody with a long name of other letters, and
-/// somebody with nothing but a name.
+/// An early adopter with all optional fields, an account with a long name of non-ASCII letters, and
+/// one without optional fields.
 QList<DemoAccount> demoAccounts();
 
 } // namespace sandbox

@@ -73,7 +73,7 @@ constexpr Oddity oddities[12] = {
     {u"", u" Η επανεκκίνηση δεν βοηθά. Συμβαίνει κάθε φορά που ανοίγω τις ρυθμίσεις."},
 };
 
-/// The same numbers on every machine and at every start.
+/// Generates the same numbers on every machine and at every start.
 class Dice {
 public:
     explicit Dice(quint32 seed) : m_numbers(seed) {}
@@ -99,7 +99,7 @@ std::optional<QString> description(Dice &dice)
     if (longest[kind] == 0) {
         return {};
     }
-    // In steps that come to every sentence before they come to one again.
+    // The step visits every sentence before it repeats one.
     quint32 next = dice.below(std::size(sentences));
     QString text = sentences[next].toString();
     for (quint32 left = dice.below(longest[kind]); left > 0; --left) {

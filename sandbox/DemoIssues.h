@@ -8,9 +8,9 @@
 
 namespace sandbox {
 
-/// Issues to look at, always the same: none for one package, a dozen for one, 2,000 for one, a few
-/// for the others. From nothing but a title to many paragraphs, with emoji, text from right to left
-/// and words longer than any line.
+/// Issues for demonstrations, the same at every call: none for one package, a dozen for one, 2,000
+/// for one, a few for the others. Their texts vary from a bare title to many paragraphs, with
+/// emoji, right-to-left text and words longer than a line.
 QList<Issue> demoIssues();
 
 } // namespace sandbox

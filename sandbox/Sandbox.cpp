@@ -81,11 +81,6 @@ bool Sandbox::setPassword(const QString &email, const QString &password)
         == Outcome::Done;
 }
 
-bool Sandbox::removeAccount(const QString &email)
-{
-    return isRunning() && m_service->store.remove(email) == Outcome::Done;
-}
-
 int Sandbox::accountCount() const
 {
     return isRunning() ? m_service->store.count() : 0;

@@ -20,7 +20,7 @@ namespace sandbox {
 
 namespace {
 
-constexpr qsizetype mostRequests = 1000;
+constexpr qsizetype maximumRequests = 1000;
 constexpr auto handshakeDelay = std::chrono::seconds(2);
 
 } // namespace
@@ -43,7 +43,7 @@ Service::Service(const Sandbox::Options &given)
     m_router.add(m_issueEndpoints.endpoints());
 }
 
-// Work in the pool holds connections of the server, so the pool is destroyed first.
+// Work in the pool refers to the server's connections, so the pool is destroyed first.
 Service::~Service()
 {
     server.stop();
@@ -91,7 +91,7 @@ void Service::handle(const Request &request, const HttpsServer::Answer &answer)
     std::optional<Fault> fault;
     if (!request.malformed) {
         const std::lock_guard guard(m_mutex);
-        if (m_requests.size() == mostRequests) {
+        if (m_requests.size() == maximumRequests) {
             m_requests.removeFirst();
         }
         m_requests.append(request);
@@ -123,7 +123,7 @@ Reply Service::answerTo(const Request &request) const
     }
 }
 
-// The path is the client's own text unless it is one of ours.
+// An unknown path is text of the client and must not be logged.
 void Service::log(const Request &request, const QString &outcome) const
 {
     if (m_options.log) {

@@ -18,17 +18,17 @@ class thread_pool;
 
 namespace sandbox {
 
-/// The parts of a running service, in the order in which they need each other.
+/// The parts of a running service, in the order of their dependencies.
 class Service {
 public:
     explicit Service(const Sandbox::Options &given);
     ~Service();
     Q_DISABLE_COPY_MOVE(Service)
 
-    /// Returns an empty text, or why it cannot.
+    /// Returns an empty text, or the reason of a failure.
     QString start();
     [[nodiscard]] QList<Request> requests();
-    /// Forgets the requests and all that is staged.
+    /// Removes the recorded requests and the staged faults.
     void clear();
 
 private:

@@ -35,7 +35,7 @@ QByteArray contents(const std::shared_ptr<BIO> &bio)
     return {bytes, static_cast<qsizetype>(size)};
 }
 
-// Without one, OpenSSL would ask the terminal for the password of an encrypted key.
+// Without this callback OpenSSL would read the password of an encrypted key from the terminal.
 int noPassword(char *, int, int, void *)
 {
     return -1;

@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/certificates/Certificates.h"
 
+#include "sandbox/certificates/TlsContext.h"
 #include "sandbox/storage/PrivateFile.h"
 
 #include <QFile>
 
 #include <openssl/err.h>
-#include <openssl/ssl.h>
-
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +17,10 @@ namespace {
 
 constexpr qint64 day = 86'400;
 constexpr qint64 leafLife = 397 * day;
-// A service that is started now may well run for some days.
+// A service may run for some days.
 constexpr qint64 reserve = 7 * day;
 constexpr auto rightNames = "DNS:localhost,IP:127.0.0.1,IP:::1";
-// Within the authority's constraints, so that nothing but the name is wrong.
+// Within the authority's constraints, so that only the name is wrong.
 constexpr auto wrongNames = "DNS:elsewhere.localhost";
 
 const QString failed = u"the cryptographic library failed"_s;
@@ -45,44 +43,6 @@ QString writePair(const QString &stem, const Certificate &certificate)
                            : error;
 }
 
-int chooseHttp11(SSL *, const unsigned char **chosen, unsigned char *chosenSize,
-                 const unsigned char *offered, unsigned int offeredSize, void *)
-{
-    static constexpr unsigned char ours[] = "\x08http/1.1";
-    unsigned char *found = nullptr;
-    if (SSL_select_next_proto(&found, chosenSize, ours, sizeof ours - 1, offered, offeredSize)
-        != OPENSSL_NPN_NEGOTIATED) {
-        return SSL_TLSEXT_ERR_ALERT_FATAL;
-    }
-    *chosen = found;
-    return SSL_TLSEXT_ERR_OK;
-}
-
-std::shared_ptr<SSL_CTX> makeContext(const std::optional<Certificate> &certificate)
-{
-    const std::shared_ptr<SSL_CTX> context(SSL_CTX_new(TLS_server_method()), SSL_CTX_free);
-    if (!context || !certificate
-        || SSL_CTX_set_min_proto_version(context.get(), TLS1_2_VERSION) != 1
-        || SSL_CTX_use_certificate(context.get(), certificate->x509.get()) != 1
-        || SSL_CTX_use_PrivateKey(context.get(), certificate->key.get()) != 1) {
-        return {};
-    }
-    SSL_CTX_set_alpn_select_cb(context.get(), chooseHttp11, nullptr);
-    return context;
-}
-
-std::shared_ptr<SSL_CTX> makeOldContext(const Certificate &certificate)
-{
-    std::shared_ptr<SSL_CTX> context = makeContext(certificate);
-    if (context) {
-        // At any other level the signatures of that time are refused.
-        SSL_CTX_set_security_level(context.get(), 0);
-        SSL_CTX_set_min_proto_version(context.get(), TLS1_VERSION);
-        SSL_CTX_set_max_proto_version(context.get(), TLS1_1_VERSION);
-    }
-    return context;
-}
-
 } // namespace
 
 QString Certificates::caFile(const QString &directory)
@@ -99,7 +59,7 @@ QString Certificates::open(const QString &directory, qint64 now)
     if (error.isEmpty()) {
         error = makeContexts(now);
     }
-    // What a damaged file left on this thread's queue is nobody's business any more.
+    // Damaged files leave errors on this thread's queue.
     ERR_clear_error();
     return error;
 }

@@ -13,13 +13,14 @@ using SSL_CTX = struct ssl_ctx_st;
 
 namespace sandbox {
 
-/// The service's authority and certificates: kept in its directory from one start to the next, and
-/// made anew when they are missing, damaged or about to run out.
+/// The service's authority and certificates. They persist in its directory, and are made anew when
+/// they are missing, damaged or about to expire.
 class Certificates {
 public:
-    /// Reads or makes them. Returns an empty text, or why it cannot. Times in seconds since 1970.
+    /// Reads or makes them; `now` in seconds since 1970. Returns an empty text, or the reason of a
+    /// failure.
     QString open(const QString &directory, qint64 now);
-    /// What a connection of that kind is to be shown; null for one that is shown nothing.
+    /// The TLS context for a connection of that kind; null for one without a handshake.
     [[nodiscard]] SSL_CTX *context(ConnectionKind kind) const;
 
     /// The file with the authority's certificate.

@@ -46,19 +46,19 @@ Reply userReply(const Account &account)
     return jsonReply(object);
 }
 
-// A parameter that is missing is treated as an empty one.
+// The value of a parameter; empty if it is missing.
 QString parameter(const Request &request, QStringView name)
 {
     return request.parameter(name).value_or(QString());
 }
 
-// A request that lacks what it must have is an improper one, whatever text it is answered with.
+// The status of a request without a required parameter is 400, whatever its text.
 int statusFor(const QString &required)
 {
     return required.isEmpty() ? 400 : 200;
 }
 
-// Nothing for one that is missing or empty.
+// Nil for a missing or empty parameter.
 std::optional<QString> optionalParameter(const Request &request, QStringView name)
 {
     const auto text = request.parameter(name);
@@ -106,7 +106,7 @@ Reply AccountEndpoints::login(const Request &request)
     return isRight ? userReply(found.account) : resultReply("Incorrect"_L1, statusFor(digest));
 }
 
-// The fingerprint decides in no time, so that a wrong password costs one slow hash in any case.
+// The fingerprint is fast, so a wrong password always costs exactly one slow hash.
 bool AccountEndpoints::adoptOneTimePassword(const StoredAccount &found, const QByteArray &digest)
 {
     if (m_clock.now() >= found.resetExpires

@@ -10,15 +10,14 @@
 
 namespace sandbox {
 
-/// What the five account endpoints do. A user is answered with the account's fields at the top
-/// level of the object, everything else with {"result": text}; the status is 200 where the request
-/// was a proper one, whatever its outcome.
+/// The five account endpoints. They answer with the fields of an account, or with {"result": text}.
+/// The status is 200 for every proper request, whatever its outcome.
 class AccountEndpoints {
 public:
     AccountEndpoints(AccountStore &store, const PasswordHasher &hasher, Outbox &outbox,
                      const Clock &clock);
 
-    /// They refer to this object.
+    /// The endpoints refer to this object.
     QList<Endpoint> endpoints();
 
 private:
@@ -28,9 +27,9 @@ private:
     Reply update(const Request &request);
     Reply user(const Request &request);
 
-    /// An update whose sender has shown the password.
+    /// Updates an account after the password was checked.
     Reply change(StoredAccount &found, const Request &request);
-    /// Whether the digest is of the one-time password that is out: it is the account's then.
+    /// Makes the one-time password the account's password if the digest is that of a valid one.
     bool adoptOneTimePassword(const StoredAccount &found, const QByteArray &digest);
 
     AccountStore &m_store;

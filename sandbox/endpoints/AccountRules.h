@@ -6,14 +6,14 @@
 
 namespace sandbox {
 
-/// Whether mail can be addressed to it without quotes: a dot-atom of at most 64 characters (RFC
-/// 5322), '@', a host name; ASCII, at most 254 characters.
+/// Whether it is an e-mail address without quotes: a dot-atom (RFC 5322, 3.2.3) of at most 64
+/// characters, '@', a host name; ASCII, at most 254 characters.
 bool isAddress(const QString &text);
 
-/// Whether it can be shown as a name: at most 100 characters, not all blank, no control characters.
+/// Whether it is a name: 1 to 100 characters, not all blank, no control characters.
 bool isName(const QString &text);
 
-/// Whether it is a SHA-256 digest in lower-case hexadecimal, of anything but the empty text.
+/// Whether it is a SHA-256 digest in lower-case hexadecimal, but not that of the empty text.
 bool isDigest(const QString &text);
 
 } // namespace sandbox

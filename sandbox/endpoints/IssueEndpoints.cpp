@@ -33,7 +33,7 @@ QString parameter(const Request &request, QStringView name)
     return request.parameter(name).value_or(QString());
 }
 
-// Nothing unless the package is one that issues are filed under.
+// The reply for an unknown package; nil for a known one.
 std::optional<Reply> refusal(const QString &package)
 {
     if (packages().contains(package)) {

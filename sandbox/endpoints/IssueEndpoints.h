@@ -7,13 +7,13 @@
 
 namespace sandbox {
 
-/// What the two issue endpoints do. A list is answered with a JSON list of objects, an accepted
-/// submission with {"issueId": number}, everything else with {"result": text}.
+/// The two issue endpoints. They answer with a JSON list of issues, with {"issueId": number} for an
+/// accepted submission, or with {"result": text}.
 class IssueEndpoints {
 public:
     explicit IssueEndpoints(IssueStore &store) : m_store(store) {}
 
-    /// They refer to this object.
+    /// The endpoints refer to this object.
     QList<Endpoint> endpoints();
 
 private:

@@ -6,8 +6,8 @@
 
 namespace sandbox {
 
-/// A password that nobody can guess and anybody can type: four groups of five lower-case letters
-/// and digits, none easily taken for another, some 99 bits. "k7mwp-3xq9d-..."
+/// A random password of some 99 bits: four groups of five lower-case letters and digits, without
+/// those that look alike. "k7mwp-3xq9d-..."
 QString makeOneTimePassword();
 
 } // namespace sandbox

@@ -9,16 +9,16 @@
 
 namespace sandbox {
 
-/// The folder where messages wait, one file each, readable for its owner alone. File names sort in
-/// the order of writing. Safe on any thread.
+/// The folder of outgoing messages, one file each, which only its owner may read. File names sort
+/// in the order of writing. Safe on any thread.
 class Outbox {
 public:
-    /// Nothing is made before the first message.
+    /// The first message creates the folder.
     explicit Outbox(const QString &directory) : m_directory(directory) {}
 
-    /// False if the message could not be written; nothing is left of it then.
+    /// False if the message could not be written; then there is no file.
     bool write(const QByteArray &message);
-    /// The messages in it, oldest first.
+    /// The messages in the folder, oldest first.
     [[nodiscard]] QByteArrayList messages() const;
 
 private:

@@ -6,7 +6,7 @@
 
 namespace sandbox {
 
-/// The identifiers of the packages that issues can be filed under.
+/// The identifiers of the packages that have issues.
 const QStringList &packages();
 
 } // namespace sandbox

@@ -7,23 +7,22 @@
 
 namespace sandbox {
 
-/// Turns the digests that clients send into what may be stored, slowly on purpose. Safe on any
-/// thread.
+/// Hashes the password digests of clients for storage, by Argon2id (RFC 9106). Safe on any thread.
 class PasswordHasher {
 public:
-    /// Memory of one hash in bytes (8192 or more), and its passes (1 or more).
+    /// The memory of one hash in bytes (8192 or more), and its passes (1 or more).
     PasswordHasher(size_t memory, unsigned long long passes);
 
-    /// False if the cryptographic library cannot work with these settings.
+    /// False if the cryptographic library refuses these settings.
     [[nodiscard]] bool isReady() const { return !m_dummyHash.isEmpty(); }
-    /// An Argon2id hash with its salt and settings, as text; empty when memory is short.
+    /// An Argon2id hash with its salt and settings, as text; empty without memory.
     [[nodiscard]] QString hash(const QByteArray &digest) const;
-    /// Whether the hash was made of that digest.
+    /// Whether it is the hash of that digest.
     [[nodiscard]] static bool matches(const QString &hash, const QByteArray &digest);
-    /// Takes the time of matches(), so that an unknown address is not told by an early answer.
+    /// Takes the time of matches(), so that a fast answer cannot reveal an unknown address.
     void verifyDummy(const QByteArray &digest) const { (void)matches(m_dummyHash, digest); }
 
-    /// A fast hash, for texts that nobody can guess.
+    /// A fast hash (BLAKE2b, RFC 7693), for random texts.
     [[nodiscard]] static QByteArray fingerprint(const QByteArray &text);
 
 private:

@@ -12,10 +12,10 @@ namespace sandbox {
 namespace {
 
 constexpr auto domain = "wzt.example";
-// A name of such characters is an atom or several, and needs neither quotes nor encoding.
+// A name of these characters consists of atoms (RFC 5322), and needs neither quotes nor encoding.
 constexpr auto plainCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789 -";
 constexpr int plainLength = 60;
-// 45 bytes are 60 characters of Base64: with its frame of 12 an encoded word may have 75.
+// 45 bytes are 60 characters of Base64. An encoded word (RFC 2047, 2) adds 12, and may have 75.
 constexpr int encodedBytes = 45;
 
 bool isPlain(const QString &name)

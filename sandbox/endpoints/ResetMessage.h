@@ -8,9 +8,9 @@
 
 namespace sandbox {
 
-/// The message that brings a one-time password, after RFC 5322, RFC 2045 and RFC 2047: ASCII only,
-/// lines of at most 78 characters, that of the address apart, that end in CRLF. Whatever the name
-/// holds becomes part of the To field and nothing else; the address must be a valid one.
+/// The message with a one-time password, by RFC 5322, RFC 2045 and RFC 2047: ASCII only, lines of
+/// at most 78 characters except that of the address, CRLF line ends. The name cannot affect other
+/// fields than To; the address must be valid.
 QByteArray resetMessage(const QString &name, const QString &address, const QString &password,
                         const QDateTime &date);
 

@@ -7,11 +7,10 @@
 
 namespace sandbox {
 
-/// The words of a line: separated by blanks, what stands between apostrophes kept together.
+/// The words of a line: separated by blanks, except between apostrophes.
 QStringList splitWords(const QString &line);
 
-/// The text with \r, \n, \t, \xNN and \\ turned into the bytes that they stand for; any other
-/// backslash stands for itself.
+/// Replaces \r, \n, \t, \xNN and \\ by their bytes, and keeps any other backslash.
 QByteArray unescape(const QByteArray &text);
 
 } // namespace sandbox

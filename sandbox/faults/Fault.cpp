@@ -229,7 +229,7 @@ Transmission Fault::transmission(const Request &request, const Reply &real, quin
     const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent) + m_surplus;
     transmission.bytes = whole.left(m_cut.value_or(whole.size()));
     if (!m_surplus.isEmpty()) {
-        // Later, or it would be found and the connection given up.
+        // A client that found them at once would give up the connection.
         transmission.pieceSize = whole.size() - m_surplus.size();
         transmission.pause = surplusPause;
     }

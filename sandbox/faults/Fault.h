@@ -15,75 +15,75 @@ namespace sandbox {
 
 struct Request;
 
-/// What goes wrong, or merely differs, in the answer to one request. Made by one of the functions
-/// below, and then, if wanted, delayed, given headers, or ended otherwise:
+/// A fault or a variation of the answer to one request. Made by one of the static functions, and
+/// optionally modified:
 ///     Fault::json("{\"result\":\"Incorrect\"}").after(200ms)
 ///
-/// The faults that send the real answer (delay, reset, cut, wrongLength, drip, gzip, surplus,
-/// keyUpdates, status without a body) let the endpoint do its work first; with all others accounts
-/// and issues are left as they are.
+/// Faults that send the real answer (delay, reset, cut, wrongLength, drip, gzip, surplus,
+/// keyUpdates, status) run the endpoint first. All others replace the answer, and leave accounts
+/// and issues unchanged.
 class Fault {
 public:
-    /// The real answer, so much later.
+    /// The real answer after a delay.
     static Fault delay(std::chrono::milliseconds time);
-    /// The request is read and never answered; the connection stays open until the client goes.
+    /// No answer; the connection stays open until the client closes it.
     static Fault silence();
-    /// The connection is closed in good order without a byte of an answer.
+    /// No answer; the connection is closed properly.
     static Fault close();
-    /// Headers and the first half of the real answer's body, then a TCP reset.
+    /// The head and the first half of the body of the real answer, then a TCP reset.
     static Fault reset();
-    /// The first so many bytes of the real answer, its head among them; then TCP is closed without
-    /// TLS's close_notify.
+    /// The first `size` bytes of the real answer with its head; then TCP is closed without TLS's
+    /// close_notify.
     static Fault cut(qint64 size);
-    /// The real answer under a Content-Length that is off by so many bytes (never below 0); then
-    /// the connection is closed. With 0 the length is right.
+    /// The real answer with a Content-Length that is wrong by `difference`, but not negative; then
+    /// the connection is closed.
     static Fault wrongLength(qint64 difference);
-    /// The real answer in pieces of so many bytes, with a pause between them.
+    /// The real answer in pieces of that size, with a pause between them.
     static Fault drip(qint64 pieceSize, std::chrono::milliseconds pause);
-    /// The real answer compressed, with so many bytes missing at its end, under the length that it
-    /// then has.
+    /// The real answer compressed, without its last `missing` bytes, and with the matching
+    /// Content-Length.
     static Fault gzip(qint64 missing = 0);
-    /// The real answer, and a moment later these bytes, which nobody asked for.
+    /// The real answer, and after a pause these surplus bytes.
     static Fault surplus(const QByteArray &bytes);
-    /// The real answer's body under another HTTP status (200 to 999).
+    /// The real answer with another HTTP status (200 to 999).
     static Fault status(int code);
-    /// This body, as application/json, under this HTTP status.
+    /// An answer with this body of application/json and this HTTP status.
     static Fault json(const QByteArray &body, int code = 200);
-    /// These bytes and nothing else, then the connection is closed.
+    /// These bytes only; then the connection is closed.
     static Fault raw(const QByteArray &bytes);
-    /// HTTP headers without a length and a body of blanks that never ends.
+    /// A head without a length, and an endless body of blanks.
     static Fault endless();
-    /// The real answer after so many TLS key updates; then TCP is closed.
+    /// TLS key updates, then the real answer; then TCP is closed.
     static Fault keyUpdates(int count);
-    /// A redirect to this Location, sent as it stands.
+    /// A redirect to this Location, sent unchanged.
     static Fault redirect(const QByteArray &location, int code = 302);
-    /// A redirect to the request's own target: a loop for as many requests as it is staged for.
+    /// A redirect to the request's own target, which makes a loop.
     static Fault redirectLoop(int code = 302);
-    /// A redirect to the request's own target, made longer: another one each time.
+    /// A redirect to the request's target with a suffix, so to another one each time.
     static Fault redirectFurther(int code = 302);
     /// A redirect to the same target over plain http.
     static Fault redirectToHttp(int code = 302);
-    /// A redirect to the same target of this service under its other name: from "localhost" to
-    /// "127.0.0.1", from any other to "localhost". It would be answered if it were followed.
+    /// A redirect to the same target under this service's other name: from "localhost" to
+    /// "127.0.0.1", from any other to "localhost". The service answers there too.
     static Fault redirectToOtherHost(int code = 302);
     /// A redirect to another path of the same host, with the request's query.
     static Fault redirectToPath(const QByteArray &path, int code = 302);
 
-    /// The same, so much later.
+    /// The same after a delay.
     [[nodiscard]] Fault after(std::chrono::milliseconds time) const;
-    /// The same with one more header field (a Content-Encoding, a Retry-After).
+    /// The same with an additional header field.
     [[nodiscard]] Fault withHeader(const QByteArray &name, const QByteArray &value) const;
-    /// The same, without a Content-Length field: the end of the connection ends the body.
+    /// The same without a Content-Length: the end of the connection ends the body.
     [[nodiscard]] Fault withoutLength() const;
-    /// The same compressed, with so many bytes missing at its end.
+    /// The same compressed, without its last `missing` bytes.
     [[nodiscard]] Fault compressed(qint64 missing = 0) const;
-    /// The same, with the connection ended in this way after the last byte.
+    /// The same with this ending of the connection.
     [[nodiscard]] Fault ending(Transmission::Ending ending) const;
 
-    /// Whether the endpoint does its work.
+    /// Whether the endpoint has to run.
     [[nodiscard]] bool sendsRealAnswer() const { return !m_replacement; }
-    /// The bytes to send and how: from the real answer if sendsRealAnswer(), which is otherwise
-    /// not looked at. The port is the service's own.
+    /// The bytes and their delivery. `real`: the endpoint's reply, ignored unless
+    /// sendsRealAnswer(). `port`: the service's own.
     [[nodiscard]] Transmission transmission(const Request &request, const Reply &real,
                                             quint16 port) const;
 
@@ -91,21 +91,21 @@ private:
     using Replacement = std::function<Reply(const Request &, quint16 port)>;
     static Fault redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location);
 
-    /// Absent: the real answer is sent.
+    /// Null: the real answer is sent.
     Replacement m_replacement;
     std::optional<int> m_status;
     QList<Header> m_headers;
     qint64 m_lengthDifference = 0;
-    /// Missing at the end of the compressed body. Absent: it is not compressed.
+    /// Bytes missing at the end of the compressed body. Nil: the body is not compressed.
     std::optional<qint64> m_missing;
     std::optional<qint64> m_cut;
     QByteArray m_surplus;
     bool m_hasLength = true;
     bool m_isRaw = false;
     bool m_isHalved = false;
-    /// Delay, pieces, endlessness; its bytes and ending are not looked at.
+    /// All members but bytes and ending.
     Transmission m_delivery;
-    /// Absent: as the client wants it.
+    /// Nil: the ending that the client requested.
     std::optional<Transmission::Ending> m_ending;
 };
 

@@ -8,16 +8,16 @@ namespace sandbox {
 
 class StagedFaults;
 
-/// Stages what one line says:
+/// Runs one line:
 ///     PATH FAULT [ARGUMENTS] [COUNT]     "/login.php delay 3000 2"
 ///     connection KIND [COUNT]            "connection expired"
 ///     clear
-/// The count is 1 if it is left out, and negative for no end. Words are separated by blanks; what
-/// stands between apostrophes is one word, or part of one. In the text of "raw", \r, \n, \t, \xNN
-/// and \\ stand for bytes. Returns an empty text, or what is wrong; then nothing is staged.
+/// The count defaults to 1; a negative count has no end. Blanks separate words; apostrophes quote a
+/// word or a part of one. In the text of "raw" \r, \n, \t, \xNN and \\ stand for bytes. Returns an
+/// empty text, or an error message if the line is invalid and nothing was staged.
 QString stageLine(StagedFaults &staged, const QString &line);
 
-/// The faults and kinds of connections, one a line, for a help text.
+/// A help text with all faults and kinds of connections, one in a line.
 QString stageCommandHelp();
 
 } // namespace sandbox

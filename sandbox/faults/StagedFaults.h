@@ -10,18 +10,18 @@
 
 namespace sandbox {
 
-/// What is staged for the requests and connections to come. Safe on any thread.
+/// The faults for coming requests and connections. Safe on any thread.
 class StagedFaults {
 public:
-    /// For the next `count` requests of that path ("*": of any); for good if negative.
+    /// For the next `count` requests of that path, "*" for any; until clear() if negative.
     void stage(const QByteArray &path, const Fault &fault, int count);
-    /// For the next `count` connections; for good if negative.
+    /// For the next `count` connections; until clear() if negative.
     void stageConnection(ConnectionKind kind, int count);
     void clear();
 
-    /// Uses up what is staged first for that path.
+    /// Removes and returns the first fault for that path; nil if there is none.
     std::optional<Fault> takeFault(const QByteArray &path);
-    /// Uses up what is staged first for connections: Normal if nothing is.
+    /// Removes and returns the kind of the next connection; Normal if none is staged.
     ConnectionKind takeConnectionKind();
 
 private:

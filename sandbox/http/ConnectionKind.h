@@ -4,21 +4,21 @@
 
 namespace sandbox {
 
-/// How a new connection is received, whatever is asked over it afterwards.
+/// How the service handles a new connection up to its first request.
 enum class ConnectionKind {
     /// The ordinary certificate.
     Normal,
-    /// Issued by the service's authority for the right names, but out of date.
+    /// A certificate of the service's authority for the right names, but expired.
     Expired,
-    /// Issued by the service's authority for another name.
+    /// A certificate of the service's authority for another name.
     WrongHost,
-    /// For the right names and in date, issued by an authority that nobody knows.
+    /// A valid certificate for the right names, but of an unknown authority.
     Untrusted,
-    /// The ordinary certificate, by TLS 1.1 and nothing newer.
+    /// The ordinary certificate, but TLS 1.1 at most.
     OldTls,
     /// The ordinary certificate, two seconds after the connection was accepted.
     LateHandshake,
-    /// Accepted, and then not a byte: not even the TLS handshake.
+    /// The service accepts the connection and sends nothing, not even a TLS handshake.
     NoHandshake,
 };
 

@@ -6,7 +6,7 @@
 
 namespace sandbox {
 
-/// The bytes in the format of gzip.
+/// The bytes in the format of gzip (RFC 1952).
 QByteArray gzipped(const QByteArray &bytes);
 
 } // namespace sandbox

@@ -34,7 +34,7 @@ constexpr std::array<std::pair<int, const char *>, 16> reasons{{
     {503, "Service Unavailable"},
 }};
 
-// Replies are about one person, are no page, and are nobody else's business.
+// Replies contain personal data, and no page may embed them.
 constexpr auto protections = "Cache-Control: no-store\r\n"
                              "X-Content-Type-Options: nosniff\r\n"
                              "Content-Security-Policy: default-src 'none'\r\n"

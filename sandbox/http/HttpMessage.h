@@ -14,17 +14,17 @@ namespace sandbox {
 
 struct Request;
 
-/// A reply with that JSON object, or list, as its body.
+/// A reply with that JSON object or list as its body.
 Reply jsonReply(const QJsonObject &object, int status = 200);
 Reply jsonListReply(const QJsonArray &list);
-/// A reply that is only an outcome: {"result": text}.
+/// A reply with the body {"result": text}.
 Reply resultReply(QLatin1StringView text, int status = 200);
 
-/// The status line and headers of a reply, up to and with the empty line. Without a length, none
-/// is announced.
+/// The head of a reply (RFC 9112): status line, header fields and empty line. Nil for `length`
+/// makes a head without Content-Length.
 QByteArray headOf(const Reply &reply, bool keepsAlive, std::optional<qint64> length);
 
-/// The ordinary answer to that request: whole, at once, the connection kept if the client wants.
+/// The ordinary answer: complete and at once. Keeps the connection if the client requested it.
 Transmission transmissionOf(const Request &request, const Reply &reply);
 
 } // namespace sandbox

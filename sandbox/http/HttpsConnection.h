@@ -8,12 +8,12 @@
 
 namespace sandbox {
 
-/// One accepted connection: handshake, then requests and answers in turn, until either side ends
-/// it. It keeps itself alive while something is under way, and is used on the server's thread only.
+/// An accepted connection: a TLS handshake, then requests and answers in turn. It keeps itself
+/// alive during its operations. Used on the server's thread only.
 namespace HttpsConnection {
 
-/// Starts one: with a handshake that shows the context's certificate, or, without a context, with
-/// nothing. The handler must outlive it.
+/// Starts a connection. Without a context it makes no handshake and only discards input. The
+/// handler must outlive it.
 void start(boost::asio::ip::tcp::socket socket, const HttpsServer::ConnectionSettings &settings,
            const HttpsServer::Handler &handler);
 

@@ -22,7 +22,7 @@ namespace sandbox {
 
 namespace {
 
-/// One of the two addresses.
+/// The acceptor of one address.
 struct Listener {
     explicit Listener(asio::io_context &io) : acceptor(io), retryTimer(io) {}
 
@@ -68,7 +68,7 @@ struct HttpsServer::State {
 
     void run()
     {
-        // Key updates are written past everything that would keep this signal away.
+        // Key updates bypass the library's protection against this signal.
         sigset_t signals{};
         sigemptyset(&signals);
         sigaddset(&signals, SIGPIPE);
@@ -82,7 +82,7 @@ struct HttpsServer::State {
         }
     }
 
-    // Somebody else at the same port of ::1 would be asked first by a client of "localhost".
+    // A client of "localhost" would first try another program at the same port of ::1.
     error_code listenOnBoth(quint16 wanted)
     {
         auto &[ipv4, ipv6] = listeners;
@@ -106,12 +106,12 @@ struct HttpsServer::State {
                 return retryLater(listener);
             }
             ++accepted;
-            accept(listener); // first: whatever is thrown for this one, the next is taken
+            accept(listener); // first, so that an exception below cannot stop accepting
             HttpsConnection::start(std::move(socket), connectionSettings(), handler);
         });
     }
 
-    // Out of file descriptors, most likely: trying again at once would spin.
+    // Probably out of file descriptors: an immediate retry would loop.
     void retryLater(Listener &listener)
     {
         listener.retryTimer.expires_after(100ms);

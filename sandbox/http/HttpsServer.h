@@ -15,21 +15,21 @@ using SSL_CTX = struct ssl_ctx_st;
 
 namespace sandbox {
 
-/// HTTPS on the loopback addresses: accepts, reads requests, sends what it is told to. It knows
-/// nothing of paths, accounts or faults, and all its waiting is done on one thread of its own,
-/// which survives whatever is thrown there: the connection that it was thrown for is closed.
+/// An HTTPS server on the loopback addresses (HTTP/1.1, RFC 9112). Accepts connections, reads
+/// requests, and sends transmissions; it does not know paths, accounts or faults. All its input and
+/// output runs on one thread of its own. An exception there closes only its connection.
 class HttpsServer {
 public:
-    /// Takes the bytes that answer a request, once, on any thread, as late as it likes.
+    /// Sends the answer to one request. Call it once, at any time, on any thread.
     using Answer = std::function<void(Transmission)>;
     /// Called on the server's thread with each request; must not block.
     using Handler = std::function<void(Request, const Answer &)>;
-    /// How a connection is received.
+    /// The settings of one connection.
     struct ConnectionSettings {
-        /// The certificate to show it; null leaves it without a handshake. The server keeps a
-        /// reference of its own.
+        /// The TLS context with the certificate; null for no handshake. The server keeps its own
+        /// reference.
         SSL_CTX *context = nullptr;
-        /// Before the handshake.
+        /// The time before the handshake.
         std::chrono::milliseconds delay{0};
     };
     /// Called on the server's thread for each connection.
@@ -39,15 +39,15 @@ public:
     ~HttpsServer();
     Q_DISABLE_COPY_MOVE(HttpsServer)
 
-    /// Listens on 127.0.0.1, and at the same port on ::1 where the machine has it. Port 0 picks a
-    /// free one. Returns an empty text, or why it cannot.
+    /// Listens on 127.0.0.1, and on the same port of ::1 if the machine has it. Port 0 means a free
+    /// port. Returns an empty text, or the reason of a failure.
     QString start(quint16 port);
-    /// Ends the thread; no handler is called from then on, and answers have no effect. Connections
-    /// are closed by the destructor, which must not run before the last answer has been dropped.
+    /// Ends the thread. After it no handler is called and answers have no effect. The destructor
+    /// closes the connections; it must not run before the last `Answer` is destroyed.
     void stop();
 
     [[nodiscard]] quint16 port() const;
-    /// TCP connections accepted so far.
+    /// The number of TCP connections accepted so far.
     [[nodiscard]] int connectionCount() const;
 
 private:

@@ -6,8 +6,9 @@
 
 namespace sandbox {
 
-/// Sets the request's target, and its path and items from it: pieces between '&', empty pieces
-/// dropped, '+' a blank, percent sequences decoded, malformed ones left as they stand.
+/// Sets the request's target, path and query items. Splits the query at '&', ignores empty pieces,
+/// reads '+' as a blank (application/x-www-form-urlencoded), and decodes percent sequences (RFC
+/// 3986, 2.1) except malformed ones.
 void setTarget(Request &request, const QByteArray &target);
 
 } // namespace sandbox

@@ -12,10 +12,10 @@ namespace sandbox {
 /// A header field: name and value.
 using Header = std::pair<QByteArray, QByteArray>;
 
-/// An HTTP answer before it is put on the wire.
+/// An HTTP reply before it is serialized.
 struct Reply {
     int status = 200;
-    /// Beyond those that every answer has (length, type, connection, protections).
+    /// In addition to those that every reply has (date, length, connection, protections).
     QList<Header> headers = {};
     QByteArray body = {};
 };

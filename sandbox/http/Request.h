@@ -14,38 +14,38 @@ namespace sandbox {
 /// One item of a request's query, decoded.
 struct QueryItem {
     QString name;
-    /// Absent when the item was sent without an equals sign.
+    /// Nil for an item without an equals sign.
     std::optional<QString> value;
 
     bool operator==(const QueryItem &) const = default;
 };
 
-/// A request as it came over the wire.
+/// A received request.
 struct Request {
-    /// "GET", "POST", or whatever else the client sent.
+    /// The method, "GET" for instance.
     QByteArray method = {};
-    /// The target up to its question mark, as sent: "/login.php".
+    /// The raw target up to its question mark: "/login.php".
     QByteArray path = {};
-    /// The whole target, byte for byte: path, question mark and query, still percent-encoded.
+    /// The raw target: path, question mark and query, percent-encoded.
     QByteArray target = {};
-    /// The query's items in the order sent, percent-decoded, '+' read as a blank. Bytes that are
-    /// not UTF-8 show as U+FFFD, and isValidUtf8 is false then.
+    /// The decoded items of the query, in their order; see setTarget. Bytes that are not UTF-8
+    /// become U+FFFD, and isValidUtf8 is false.
     QList<QueryItem> items = {};
     bool isValidUtf8 = true;
-    /// Header fields in the order sent, names as sent.
+    /// The header fields in their order.
     QList<std::pair<QByteArray, QByteArray>> headers;
-    /// Bytes of the body.
+    /// The length of the body in bytes.
     qint64 bodySize = 0;
-    /// Whether the client lets the connection be used again.
+    /// Whether the client allows another request on the connection.
     bool keepsAlive = true;
-    /// 0, or the HTTP status that says why this is no request: 400, 413 or 431. Everything else is
-    /// then empty, and requests() of Sandbox does not list it.
+    /// 0, or the HTTP status of a malformed request: 400, 413 or 431. The other members are then
+    /// empty, and Sandbox::requests() does not contain it.
     int malformed = 0;
 
-    /// The first header field of that name, without regard to case; absent when none was sent.
+    /// The first header field of that name, compared without regard to case; nil if there is none.
     [[nodiscard]] std::optional<QByteArray> header(QByteArrayView name) const;
-    /// The value of the last item of that name, as PHP reads repeated names: empty when the item
-    /// has no value, absent when there is no such item.
+    /// The value of the last item of that name, as in PHP; empty if the item has no value, nil if
+    /// there is no such item.
     [[nodiscard]] std::optional<QString> parameter(QStringView name) const;
 };
 

@@ -13,7 +13,8 @@ namespace sandbox {
 
 namespace {
 
-// Percent-encoded, a letter may be twelve bytes. Less than the longest head, so that this is said.
+// A percent-encoded character may have twelve bytes. The limit is below that of a head, so that the
+// answer is 414.
 constexpr qsizetype longestTarget = 61'440;
 constexpr qsizetype longestParameter = 5'000;
 

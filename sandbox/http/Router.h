@@ -17,19 +17,19 @@ struct Request;
 struct Endpoint {
     QByteArray path;
     QByteArray method;
-    /// The outcome of a request whose parameters cannot even be read.
+    /// The result for a request with unreadable parameters.
     QLatin1StringView unreadable;
-    /// Does the work; on any thread, several at a time.
+    /// Called on any thread, concurrently.
     std::function<Reply(const Request &)> answer;
 };
 
-/// Finds the endpoint for a request, and answers what is none by itself: no HTTP, too long, not
-/// UTF-8, an unknown path, another method.
+/// Finds the endpoint of a request. Answers requests without an endpoint itself: malformed, too
+/// long, not UTF-8, with an unknown path or another method.
 class Router {
 public:
     void add(const QList<Endpoint> &endpoints) { m_endpoints += endpoints; }
     [[nodiscard]] Reply answer(const Request &request) const;
-    /// Absent (null) for an unknown path.
+    /// Null for an unknown path.
     [[nodiscard]] const Endpoint *endpoint(const QByteArray &path) const;
 
 private:

@@ -8,31 +8,31 @@
 
 namespace sandbox {
 
-/// Bytes for one connection, and the manner in which they are sent.
+/// Bytes for one connection, and how they are delivered.
 struct Transmission {
     enum class Ending {
         /// The connection waits for the next request.
         KeepOpen,
-        /// TLS and TCP are closed in good order.
+        /// TLS and TCP are closed properly.
         Close,
-        /// TCP is closed without TLS's close_notify: looks like a truncation.
+        /// TCP is closed without TLS's close_notify, like a truncation.
         Cut,
         /// A TCP reset.
         Reset,
-        /// Nothing more ever happens until the client goes.
+        /// The connection stays open and silent until the client closes it.
         Silence,
     };
 
-    /// Before the first byte.
+    /// The time before the first byte.
     std::chrono::milliseconds delay{0};
     QByteArray bytes = {};
-    /// Bytes sent at once; 0 is all of them.
+    /// The number of bytes sent at once; 0 for all.
     qint64 pieceSize = 0;
-    /// So often TLS changes its keys before the first byte; TCP is closed after the last one then.
+    /// The number of TLS key updates before the first byte. TCP is then closed after the last byte.
     int keyUpdates = 0;
-    /// Between two pieces.
+    /// The time between two pieces.
     std::chrono::milliseconds pause{0};
-    /// Blanks follow the bytes until the client goes.
+    /// An endless body: blanks follow the bytes until the client closes the connection.
     bool isEndless = false;
     Ending ending = Ending::KeepOpen;
 };

@@ -8,23 +8,23 @@
 
 namespace sandbox {
 
-/// An account as the service stores it and sends it, its password apart.
+/// An account as stored and sent, without its password.
 struct Account {
-    /// "userTavloID": 1 or more. 0 in an account that is still to be added.
+    /// "userTavloID": 1 or more; 0 for a new account.
     qint64 number = 0;
-    /// "userEmail", as it was typed; unique and looked up without regard to case.
+    /// "userEmail" in its original case; unique and compared without regard to case.
     QString email = {};
     /// "userName"
     QString name = {};
-    /// "userReddit", "userTwitter", "userDiscord", "userCydiaID": left out of replies when absent.
+    /// "userReddit", "userTwitter", "userDiscord", "userCydiaID": nil ones are not sent.
     std::optional<QString> reddit = {};
     std::optional<QString> twitter = {};
     std::optional<QString> discord = {};
     std::optional<QString> cydia = {};
     /// "userEarlyAdopterStatus", sent as the number 1 or 0.
     bool earlyAdopter = false;
-    /// "userJoined", local time as "yyyy-MM-dd HH:mm:ss". Empty in an account to be added: now.
-    /// Stored and sent as it stands, so that a malformed one can be tried.
+    /// "userJoined", local time as "yyyy-MM-dd HH:mm:ss"; empty for a new account: now. Not
+    /// checked, so that tests can send a malformed one.
     QString joined = {};
 
     bool operator==(const Account &) const = default;

@@ -98,12 +98,6 @@ Outcome AccountStore::change(qint64 number, const QString &oldHash,
     return transaction.commit() ? Outcome::Done : Outcome::Failed;
 }
 
-Outcome AccountStore::remove(const QString &email)
-{
-    const auto lock = m_database.lock();
-    return Statement(m_database, "DELETE FROM accounts WHERE email = ?").bind(email).change();
-}
-
 int AccountStore::count()
 {
     const auto lock = m_database.lock();

@@ -9,13 +9,13 @@
 
 namespace sandbox {
 
-/// What the store keeps of an account.
+/// An account and its password data.
 struct StoredAccount {
     Account account;
     /// The slow hash of the password's digest.
     QString passwordHash;
-    /// The fingerprint of a one-time password's digest, empty if none is out, and the moment from
-    /// which it is no longer good (seconds since 1970).
+    /// The fingerprint of the digest of a valid one-time password, or empty, and the time of its
+    /// expiry in seconds since 1970.
     QByteArray resetFingerprint;
     qint64 resetExpires = 0;
 };
@@ -31,19 +31,17 @@ public:
     Outcome add(Account *account, const QString &passwordHash);
     /// Replaces every field of the account of that number.
     Outcome replace(const Account &account);
-    /// Gives the account a password, and takes back a one-time password that is out; only if its
-    /// hash is still `oldHash` (Missing if not). The name as well if there is one; without a new
-    /// hash, the name alone.
+    /// Changes name, password or both of the account, whose hash must still be `oldHash` (Missing
+    /// if not). A new password invalidates a one-time password.
     Outcome change(qint64 number, const QString &oldHash, const std::optional<QString> &name,
                    const std::optional<QString> &newHash);
-    Outcome remove(const QString &email);
-    /// -1 if they cannot be counted.
+    /// -1 on failure.
     int count();
 
-    /// Keeps a one-time password, in place of an earlier one, if it can be delivered too.
+    /// Stores a one-time password, which replaces an earlier one, if `deliver` succeeds.
     Outcome startReset(qint64 number, const QByteArray &fingerprint, qint64 expires,
                        const std::function<bool()> &deliver);
-    /// Makes the one-time password the account's; Missing if it is no longer out.
+    /// Makes the one-time password the account's password; Missing if it is no longer valid.
     Outcome adoptReset(qint64 number, const QByteArray &fingerprint, const QString &newHash);
 
 private:

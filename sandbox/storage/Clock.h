@@ -9,7 +9,7 @@
 
 namespace sandbox {
 
-/// The service's time: the machine's, put forward by as much as one likes. Safe on any thread.
+/// The service's clock: the machine's with an offset. Safe on any thread.
 class Clock {
 public:
     explicit Clock(std::chrono::seconds offset) : m_offset(offset.count()) {}
@@ -17,9 +17,9 @@ public:
     void advance(std::chrono::seconds time) { m_offset += time.count(); }
     /// Seconds since 1970, UTC.
     [[nodiscard]] qint64 now() const { return QDateTime::currentSecsSinceEpoch() + m_offset; }
-    /// In local time.
+    /// The local time.
     [[nodiscard]] QDateTime dateTime() const { return QDateTime::fromSecsSinceEpoch(now()); }
-    /// As accounts and issues have it.
+    /// The local time in the format of accounts and issues.
     [[nodiscard]] QString text() const { return dateTime().toString(u"yyyy-MM-dd HH:mm:ss"); }
 
 private:

@@ -21,7 +21,7 @@ constexpr auto settings =
     "PRAGMA busy_timeout=5000; PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;"
     "PRAGMA foreign_keys=ON;";
 
-// Each brings the tables from one version to the next; the file's user_version counts them.
+// Each migrates the tables to the next version, which user_version of the file counts.
 constexpr std::array migrations{
     R"(CREATE TABLE accounts (
            number INTEGER PRIMARY KEY AUTOINCREMENT,

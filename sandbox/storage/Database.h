@@ -11,30 +11,30 @@ struct sqlite3;
 
 namespace sandbox {
 
-/// What became of a change.
+/// The outcome of a query or a change.
 enum class Outcome {
     Done,
     /// There is no such row.
     Missing,
-    /// Another row has what must be unique.
+    /// Another row has the same unique value.
     Taken,
     /// The file could not be read or written.
     Failed,
 };
 
-/// The service's SQLite file. Any thread may use it that holds its lock.
+/// The service's SQLite file. A thread must hold the lock to use it.
 class Database {
 public:
-    /// Opens the file, made if missing, and brings its tables up to date. Returns an empty text, or
-    /// why it cannot.
+    /// Opens the file or makes it, and migrates its tables. Returns an empty text, or the reason of
+    /// a failure.
     QString open(const QString &path);
     [[nodiscard]] std::unique_lock<std::mutex> lock() { return std::unique_lock(m_mutex); }
 
     /// Runs statements without parameters.
     bool run(const char *sql);
-    /// The number given to the row inserted last.
+    /// The number of the row inserted last.
     [[nodiscard]] qint64 lastNumber() const;
-    /// Rows changed by the last statement.
+    /// The number of rows that the last statement changed.
     [[nodiscard]] int changes() const;
 
 private:

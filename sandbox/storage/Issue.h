@@ -8,23 +8,22 @@
 
 namespace sandbox {
 
-/// An issue as the service stores it and sends it. No field is checked when it is added, so that
-/// odd ones can be tried.
+/// An issue as stored and sent. Its fields are not checked, so that tests can send malformed ones.
 struct Issue {
-    /// "issueId": 1 or more. 0 in an issue that is still to be added.
+    /// "issueId": 1 or more; 0 for a new issue.
     qint64 number = 0;
-    /// "referenceId". Empty in an issue to be added: one is made up.
+    /// "referenceId"; empty for a new issue: a random one.
     QString reference = {};
     /// "packageId"
     QString package = {};
-    /// "reporterId": the number of an account, 0 for nobody; sent as a text.
+    /// "reporterId": the number of an account, or 0 for none; sent as a text.
     qint64 reporter = 0;
     QString title = {};
-    /// Sent as null when absent.
+    /// Sent as null if nil.
     std::optional<QString> description = {};
     /// "open", sent as the number 1 or 0.
     bool isOpen = true;
-    /// "openDate", local time as "yyyy-MM-dd HH:mm:ss". Empty in an issue to be added: now.
+    /// "openDate", local time as "yyyy-MM-dd HH:mm:ss"; empty for a new issue: now.
     QString opened = {};
 
     bool operator==(const Issue &) const = default;

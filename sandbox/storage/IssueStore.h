@@ -15,12 +15,12 @@ class IssueStore {
 public:
     IssueStore(Database &database, const Clock &clock) : m_database(database), m_clock(clock) {}
 
-    /// Adds them, all or none, and fills in their numbers, and what references and dates are empty.
-    /// Done or Failed.
+    /// Adds all issues or none. Sets their numbers, and missing references and dates. Done or
+    /// Failed.
     Outcome add(QList<Issue> *issues);
-    /// Those of one package, newest first. Done or Failed.
+    /// The issues of one package, newest first. Done or Failed.
     Outcome list(const QString &package, QList<Issue> *issues);
-    /// Of all packages; -1 if they cannot be counted.
+    /// The number of issues of all packages; -1 on failure.
     int count();
 
 private:

@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 
 namespace sandbox {
 
-/// One statement: parameters bound in their order, then stepped through.
+/// One SQL statement. Bind its parameters in order, then read its rows or run its change.
 class Statement {
 public:
     Statement(Database &database, const char *sql);
@@ -24,11 +24,11 @@ public:
     Statement &bind(const std::optional<QString> &text);
     Statement &bind(const QByteArray &bytes);
 
-    /// Whether there is a (further) row.
+    /// Steps to the next row; false if there is none.
     bool nextRow();
-    /// Runs a statement that has no rows. Missing if it changed nothing.
+    /// Runs a statement without rows. Missing if it changed nothing.
     Outcome change();
-    /// Whether something went wrong.
+    /// Whether any step failed.
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
     [[nodiscard]] qint64 number(int column) const;

@@ -6,7 +6,7 @@
 
 namespace sandbox {
 
-/// Several changes that take effect together or not at all: undone unless committed.
+/// A transaction: its changes are rolled back unless they are committed.
 class Transaction {
 public:
     explicit Transaction(Database &database)
@@ -21,7 +21,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Transaction)
 
-    /// False if they could not be made to last.
+    /// False if the changes could not be committed.
     bool commit()
     {
         const bool isCommitted = m_isOpen && m_database.run("COMMIT");
