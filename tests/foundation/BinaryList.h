@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QByteArrayList>
 
-/// Binary property lists put together by hand: references and offsets of four bytes.
+/// Composes binary property lists with references and offsets of four bytes.
 namespace BinaryList {
 
 inline QByteArray number(quint64 value, int size)
@@ -22,7 +22,7 @@ inline QByteArray reference(qsizetype index)
     return number(static_cast<quint64>(index), 4);
 }
 
-/// The list of objects that begin at `offsets` of `objects`, the first of them its value.
+/// The list of the objects at `offsets` in `objects`; the first is the top.
 inline QByteArray around(const QByteArray &objects, const QList<qsizetype> &offsets, quint64 count)
 {
     QByteArray data = "bplist00" + objects;
@@ -33,7 +33,7 @@ inline QByteArray around(const QByteArray &objects, const QList<qsizetype> &offs
     return data + QByteArray(6, '\0') + "\4\4" + number(count, 8) + number(0, 8) + table;
 }
 
-/// The list of these objects; `count`: how many it says that there are.
+/// The list of these objects, with `count` as their declared number.
 inline QByteArray of(const QByteArrayList &objects, quint64 count)
 {
     QList<qsizetype> offsets;

@@ -27,7 +27,7 @@ NSDateFormatter serviceFormatter()
 
 } // namespace
 
-/// On a device whose settings change while it runs; the tests begin in Berlin.
+/// The device's settings change between the rows; each test begins in Berlin.
 class DateFormatterTest : public QObject {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ private Q_SLOTS:
             {"٢٠١٩-٠٨-١٤ ١٧:٠٥:٠٩", "2019-08-14T15:05:09Z"},
         };
         const NSDateFormatter formatter = serviceFormatter();
-        // The calendars of most of these are not the Gregorian one.
+        // Most of these locales do not use the Gregorian calendar.
         for (const char *locale : {"th_TH.UTF-8", "fa_IR.UTF-8", "ar_SA", "en_US.UTF-8", "C"}) {
             qputenv("LC_ALL", locale);
             for (const auto &[text, moment] : rows) {

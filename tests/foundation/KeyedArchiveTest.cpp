@@ -3,14 +3,11 @@
 #include "platform/foundation/coding/NSKeyedArchiver.h"
 #include "platform/foundation/coding/NSKeyedUnarchiver.h"
 #include "platform/foundation/coding/PropertyList.h"
-#include "tests/foundation/BinaryList.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 
 #include <QRegularExpression>
 #include <QTest>
-
-#include <bit>
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +33,7 @@ std::optional<NSCoder> unarchived(const QByteArray &data)
     return NSKeyedUnarchiver::unarchiveObjectWithData(data, recordClass);
 }
 
-/// An archive in XML around these objects, in short: `@n` stands for the UID n, i, r, s and k for
+/// An archive in XML with these objects. Abbreviations: `@n` is the UID n; i, r, s and k are
 /// integer, real, string and key.
 QByteArray xmlArchive(const QByteArray &objects, const QByteArray &root = "@1")
 {
@@ -58,8 +55,8 @@ QByteArray xmlArchive(const QByteArray &objects, const QByteArray &root = "@1")
 
 const QByteArray recordDescription = "<dict><k>$classname</k><s>Record</s></dict>";
 
-/// Archives byte for byte, so that reading and writing cannot be wrong alike: of one value as
-/// another program wrote it, and that of the layout, which another program has read.
+/// Archives as bytes, so that errors in reading and writing cannot cancel out. Another program
+/// wrote the first, and has read the second.
 constexpr char foreignArchive[] =
     "62706c6973743030d401020304050614175924617263686976657258246f626a656374735424746f"
     "70582476657273696f6e5f100f4e534b657965644172636869766572a407080d0e55246e756c6cd2"
@@ -78,7 +75,7 @@ constexpr char ownArchive[] =
     "b7bcc7d0d7dae3ecf1f8000000000000010100000000000000270000000000000000000000000000"
     "00fb";
 
-/// A record of one value, which may refer to the objects from @3 on.
+/// A record with one value. `more`: the objects from @3 on.
 QByteArray archiveOf(const QByteArray &value, const QByteArray &more = {})
 {
     return xmlArchive("<dict><k>$class</k>@2<k>value</k>" + value + "</dict>" + recordDescription
@@ -113,16 +110,7 @@ private Q_SLOTS:
         QVERIFY(!archived({{u"a"_s, QString(QChar(0xdc00))}}));
     }
 
-    void plainDatesAreExact()
-    {
-        for (const double seconds : {0.0, -0.25, -4e9, 1e12 + 0.5}) {
-            const QByteArray bytes = BinaryList::number(std::bit_cast<quint64>(seconds), 8);
-            const auto list = PropertyList::fromData(BinaryList::of({"\x33" + bytes}));
-            QVERIFY(list && list->date() == NSDate{seconds});
-        }
-    }
-
-    /// The layout that other readers of the format count on.
+    /// The layout on which other readers of the format depend.
     void layout()
     {
         const auto data = archived({{u"number"_s, qint64{-7}},
@@ -156,7 +144,7 @@ private Q_SLOTS:
         }
     }
 
-    void readsWhatOthersWrite_data()
+    void readsForeignArchives_data()
     {
         const QString nothing = u"0 nil 0 nil"_s;
         const QByteArray text = "<k>NS.string</k><s>x</s>";
@@ -194,7 +182,7 @@ private Q_SLOTS:
         });
     }
 
-    void readsWhatOthersWrite()
+    void readsForeignArchives()
     {
         const auto &[name, archive, expected] = currentCase<Reading>();
         const auto coder = unarchived(archive);
@@ -238,80 +226,7 @@ private Q_SLOTS:
 
     void refuses() { QVERIFY(!unarchived(std::get<1>(currentCase<Refusal>()))); }
 
-    void isNoList_data()
-    {
-        using namespace BinaryList;
-        const auto xml = [](const QByteArray &value) -> QByteArray {
-            return "<plist version=\"1.0\">" + value + "</plist>";
-        };
-        const QByteArray opening = QByteArray("<array>").repeated(65);
-        const QByteArray closing = QByteArray("</array>").repeated(65);
-        QByteArrayList chain;
-        for (int i = 1; i <= 64; ++i) {
-            chain.append("\xa1" + reference(i));
-        }
-        // Each item is reached from the top, and the next one from it.
-        QByteArrayList ladder{"\xaf\x10\x64"};
-        for (int i = 100; i >= 1; --i) {
-            ladder[0] += reference(i);
-        }
-        for (int i = 1; i <= 100; ++i) {
-            ladder.append("\xa1" + reference(i + 1));
-        }
-        // A list of a thousand lists, which are the same thousand references.
-        QByteArray overlapping = "\xaf\x11\x03\xe8";
-        for (int i = 1; i <= 1000; ++i) {
-            overlapping += reference(i);
-        }
-        overlapping += "\xaf\x11\x03\xe8" + reference(1001).repeated(1000) + "\x09";
-        QList<qsizetype> places(1001, 4004);
-        places[0] = 0;
-        QVERIFY(PropertyList::fromData(xml("<string>&lt;&#228;<![CDATA[<]]></string>")));
-        QVERIFY(PropertyList::fromData(of(chain.mid(1) << "\x09"
-                                                       << "\x09")));
-        addCases<Refusal>({
-            {"too long", xml("<array>" + QByteArray(65536, ' ') + "</array>")},
-            {"empty", xml("")},
-            {"two values", xml("<true/><true/>")},
-            {"something after it", xml("<true/>") + "<true/>"},
-            {"no end", "<plist version=\"1.0\"><dict>"},
-            {"value without a key", xml("<dict><true/></dict>")},
-            {"key without a value", xml("<dict><key>a</key></dict>")},
-            {"no number", xml("<integer>5a</integer>")},
-            {"no data", xml("<data>?</data>")},
-            {"entity of its own",
-             "<!DOCTYPE plist [<!ENTITY a 'a'>]>" + xml("<string>&a;</string>")},
-            {"nested too deep", xml(opening + closing)},
-            {"huge count of objects", of({"\x09"}, ~0ULL)},
-            {"huge count of items", of({"\xaf\x13" + number(~0ULL, 8)})},
-            {"huge length of text", of({"\x5f\x13" + number(~0ULL >> 1, 8)})},
-            {"longer text than file", of({"\x5f\x11\xff\xff"})},
-            {"size of a count", of({"\x5f\x14" + number(1, 16) + "a"})},
-            {"type unknown", of({"\x70"})},
-            {"number as a key", of({"\xd1" + reference(1) + reference(1), "\x10\x01"})},
-            {"contains itself", of({"\xa1" + reference(0)})},
-            {"refers to nothing", of({"\xa1" + reference(7)})},
-            {"a long chain", of(chain << "\x09")},
-            {"a long ladder", of(ladder << "\x09")},
-            {"overlapping objects", around(overlapping, places << 8008, 1002)},
-        });
-    }
-
-    void isNoList() { QVERIFY(!PropertyList::fromData(std::get<1>(currentCase<Refusal>()))); }
-
-    /// Each of ten lists holds the next one ten times: ten thousand million values, written out.
-    void whatStandsTwiceIsHeldOnce()
-    {
-        QByteArrayList lists;
-        for (int i = 1; i <= 10; ++i) {
-            lists.append("\xaa" + BinaryList::reference(i).repeated(10));
-        }
-        const QByteArray data = BinaryList::of(lists << "\x09");
-        const auto list = PropertyList::fromData(data);
-        QVERIFY(list && list->toData().size() <= data.size());
-    }
-
-    /// Whatever happens to the bytes of an archive, it is read as something or refused.
+    /// A damaged archive never crashes the reader.
     void damagedAtEveryByte()
     {
         const QByteArray xml = archiveOf("<date>2001-01-01T00:00:10Z</date>");

@@ -25,7 +25,7 @@ class URLComponentsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingInAnItemSplitsTheURL()
+    void encodesItems()
     {
         QCOMPARE(url({{u"b&=c"_s, u"+ &=#?/%;:@!$'()*,[]\"<>\\^`{|}"_s},
                       {u"a-._~Z9"_s, u"AZaz09-._~"_s},
