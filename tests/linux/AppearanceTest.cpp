@@ -45,7 +45,7 @@ struct Portal : FakeService {
     }
 };
 
-// A host, and what it tells of the looks, the last one in front.
+// A host and the appearances that it has reported, the latest first.
 struct ObservedHost {
     ObservedHost()
     {
@@ -88,7 +88,7 @@ private Q_SLOTS:
         });
     }
 
-    // Each value once as the portal has it at the start and once as a change.
+    // Each value once as the initial one and once as a change.
     void portalSettings()
     {
         const auto &[name, group, keyName, value, expected] = currentCase<Setting>();
@@ -104,7 +104,7 @@ private Q_SLOTS:
             if (live) {
                 portal.change(group, key, value);
             }
-            // Told last, so that nothing can still be on its way.
+            // The last signal: when it has arrived, no other is pending.
             portal.change(looks, u"reduced-motion"_s, 1U);
             QTRY_COMPARE(host.last(), after);
             QList<UIAppearance> told{after, expected, UIAppearance()};

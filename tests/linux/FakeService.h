@@ -6,7 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 
-/// A service on the test's bus while the object lives: writes down the calls, gives one answer to
+/// A service on the test's bus during its lifetime: records calls, and gives the same answer to
 /// all.
 class FakeService : public QDBusVirtualObject {
 public:

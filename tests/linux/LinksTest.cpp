@@ -28,7 +28,7 @@ class LinksTest : public QObject {
     QFile m_gate{QDir::home().filePath(u"gate"_s)};
 
 private Q_SLOTS:
-    // A handler that goes on when the test opens the gate, and then writes down its argument.
+    // A handler that waits until the test opens the gate, and then records its argument.
     void initTestCase()
     {
         QVERIFY(write(u"handler"_s,
@@ -41,7 +41,8 @@ private Q_SLOTS:
                       "[Default Applications]\nx-scheme-handler/zbra=handler.desktop\n"
                       "x-scheme-handler/cydia=handler.desktop\n"));
         QCOMPARE(::mkfifo(QFile::encodeName(m_gate.fileName()).constData(), 0600), 0);
-        // For reading too: writing then never waits, and the gate falls open when the test ends.
+        // Also opened for reading, so that writing never blocks and the end of the test opens the
+        // gate.
         QVERIFY(m_gate.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     }
 
@@ -55,7 +56,7 @@ private Q_SLOTS:
               u"ZBRA://Host.EXAMPLE/%41%zz%u%%f//../."_s,
               u"zbra://a b'c\"d$(e)`f`;&|*?~\\\n<>é€"_s}) {
             QVERIFY(m_host.canOpenURL(url));
-            m_host.openURL(url); // would never come back if it waited for the handler
+            m_host.openURL(url); // would never return if it waited for the handler
             QCOMPARE(m_gate.write("go\n"), 3);
             QFile seen(QDir::home().filePath(u"seen"_s));
             QTRY_VERIFY(seen.exists());

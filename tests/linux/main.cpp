@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The program as a later start of the application: uses all of the port, then says what it is.
+// Runs the program as a later start of the application: uses every function of the port, then
+// prints whether it is the single instance.
 int startApplication(QStringList arguments, std::chrono::milliseconds remainingTime)
 {
     LinuxHost host(arguments.takeFirst(), remainingTime);

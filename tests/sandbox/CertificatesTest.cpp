@@ -21,7 +21,7 @@ QByteArray contents(const QString &path)
 
 } // namespace
 
-/// What a service leaves in its folder for the next one to prove who it is.
+/// The certificates that a service keeps in its folder for the next start.
 class CertificatesTest : public QObject {
     Q_OBJECT
 

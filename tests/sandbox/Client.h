@@ -8,13 +8,13 @@
 
 #include <memory>
 
-/// What came of a request.
+/// The outcome of a request.
 struct Answer {
-    /// libcurl's code, 0 when a whole answer came.
+    /// libcurl's code; 0 for a complete answer.
     int error = -1;
     long status = 0;
     QByteArray head = {};
-    /// The first mebibyte of it; what is more ends the transfer with an error.
+    /// At most a mebibyte; a longer body ends the transfer with an error.
     QByteArray body = {};
 
     [[nodiscard]] QJsonObject json() const;
@@ -23,12 +23,12 @@ struct Answer {
     [[nodiscard]] bool isUser() const;
 };
 
-/// An HTTPS client that trusts one authority, and keeps its connection from call to call.
+/// An HTTPS client that trusts one authority, and reuses its connection.
 class Client {
 public:
     Client(quint16 port, const QString &caFile);
 
-    /// The target is sent byte for byte, and so is one more header field if there is one.
+    /// Sends the target and the optional header field `field` unchanged.
     Answer send(const QByteArray &method, const QByteArray &target, long timeout = 20'000,
                 const QByteArray &field = {});
     Answer get(const QByteArray &target) { return send("GET", target); }

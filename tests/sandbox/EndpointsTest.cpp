@@ -20,8 +20,8 @@ namespace {
 const QString jo = u"Jo.Smith@wzt.example"_s;
 const QString package = sandbox::packages()[1];
 
-/// {e} and {p} stand for the names userEmail and userPassword, {jo} for Jo's address in other
-/// letters, {new} for a registration, {right}, {wrong} and {empty} for the digests of such
+/// Replaces abbreviations: {e} and {p} are userEmail and userPassword, {jo} is Jo's address in
+/// other case, {new} for a registration, {right}, {wrong} and {empty} for the digests of such
 /// passwords, {id} for a package.
 QByteArray filled(QByteArray text)
 {
@@ -48,7 +48,7 @@ QDateTime moment(const QJsonValue &text)
 
 } // namespace
 
-/// The endpoints as a client sees them, and the accounts and issues behind them.
+/// The endpoints over HTTPS, and the accounts and issues that they change.
 class EndpointsTest : public QObject {
     Q_OBJECT
 
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(get("/login.php?{e}=a&{p}={wrong}&{jo}&{p}={right}").isUser()); // the last counts
     }
 
-    void aHeadTooLongIsAnsweredAndForgotten()
+    void answersAHeadThatIsTooLong()
     {
         for (const int length : {65'533, 65'536, 70'000, 250'000}) {
             const Answer answer =
@@ -130,7 +130,7 @@ private Q_SLOTS:
                  400);
     }
 
-    void whatIsThrownEndsNothing()
+    void exceptionsFailOnlyTheirRequest()
     {
         std::atomic<bool> throws = false;
         Sandbox service(Sandbox::Options{.log = [&](const QString &) {
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(client.get("/user.php").status, 400);
     }
 
-    void requestsAreRememberedUpToANumber()
+    void keepsTheLastThousandRequests()
     {
         Sandbox service;
         Client client(service.port(), service.caFile());

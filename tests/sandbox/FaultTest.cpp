@@ -18,13 +18,13 @@
 
 using namespace Qt::StringLiterals;
 
-/// Faults as a terminal stages them; what each one is to a client, the URL session's tests see.
+/// The commands that stage faults. The tests of the URL session check the faults' details.
 class FaultTest : public QObject {
     Q_OBJECT
 
     sandbox::Sandbox m_service;
 
-    /// Of a connection of its own.
+    /// The answer on a new connection.
     [[nodiscard]] Answer answer(long timeout = 20'000) const
     {
         return Client(m_service.port(), m_service.caFile())
@@ -76,7 +76,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What libcurl makes of these depends on its version.
+    /// The error codes for these depend on the version of libcurl.
     void stagedCuts()
     {
         for (const char *line : {"/user.php cut 20", "/user.php unmeasured"}) {
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(unmeasured.isUser() && !unmeasured.head.contains("Content-Length"));
     }
 
-    void silentHoldersOfTheSocketDelayNobody()
+    void silentClientsDelayNoOther()
     {
         const QTemporaryDir folder;
         sandbox::ControlSocket control;
@@ -97,21 +97,21 @@ private Q_SLOTS:
         address.sun_family = AF_UNIX;
         const QByteArray path = folder.filePath(u"control"_s).toLocal8Bit();
         std::ranges::copy(path, address.sun_path);
-        std::array<int, 3> holders{};
-        for (int &holder : holders) {
-            holder = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        std::array<int, 3> clients{};
+        for (int &client : clients) {
+            client = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
             QCOMPARE(
-                ::connect(holder, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
-            QCOMPARE(::send(holder, "ha", 2, MSG_NOSIGNAL), 2);
+                ::connect(client, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+            QCOMPARE(::send(client, "ha", 2, MSG_NOSIGNAL), 2);
         }
         QCOMPARE(sandbox::ControlSocket::send(folder.path(), u"in time"_s), u"error: in time"_s);
-        for (const int holder : holders) {
+        for (const int client : clients) {
             char answer[64];
-            // They are still there: nobody's turn had to end first.
-            QCOMPARE(::send(holder, "lf\n", 3, MSG_NOSIGNAL), 3);
-            const ssize_t length = ::recv(holder, answer, sizeof answer, 0);
+            // The silent clients are still connected.
+            QCOMPARE(::send(client, "lf\n", 3, MSG_NOSIGNAL), 3);
+            const ssize_t length = ::recv(client, answer, sizeof answer, 0);
             QCOMPARE(QByteArray(answer, std::max(ssize_t(0), length)), "error: half\n");
-            ::close(holder);
+            ::close(client);
         }
     }
 

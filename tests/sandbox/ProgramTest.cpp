@@ -54,7 +54,7 @@ struct Running {
 
 } // namespace
 
-/// The service as a program of its own.
+/// The program wzt-sandbox.
 class ProgramTest : public QObject {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatItKeepsIsForItsUserAlone()
+    void filesAreForTheUserAlone()
     {
         const QTemporaryDir folder;
         const Sandbox::Options options{.directory = folder.path() + u"/made/here"_s};
@@ -118,7 +118,7 @@ private Q_SLOTS:
     void linesFromATerminal()
     {
         const QTemporaryDir folder;
-        // Longer than the address of a socket may be.
+        // Longer than the address of a socket can be.
         const QString directory = folder.path() + u'/' + u"d"_s.repeated(120);
         const auto stage = [&](const QString &line) {
             return QProcess::execute(program, {u"--directory"_s, directory, u"--stage"_s, line});

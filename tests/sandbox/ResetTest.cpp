@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using sandbox::Sandbox;
 
-/// The way from a forgotten password to a new one.
+/// The reset of a forgotten password.
 class ResetTest : public QObject {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(update(used, u"new"_s).isUser());
         QVERIFY(!signsIn(takenBack) && signsIn(u"new"_s));
 
-        // An earlier one stays good when the next message cannot be written.
+        // The earlier one remains valid if the next message cannot be written.
         const QString kept = requestPassword();
         const QString outbox = m_service.directory() + u"/outbox"_s;
         QVERIFY(!(QFile::permissions(outbox) & (QFile::ReadGroup | QFile::ReadOther)));
