@@ -67,16 +67,27 @@ rules() {
     wrapped 'gio/' 'GIO'
     wrapped 'unicode/' 'ICU'
     wrapped 'boost/beast' 'Boost.Beast'
-    knows platform/foundation
+    knows platform/files
+    knows platform/foundation platform/files
+    knows platform/foundation/base
+    knows platform/foundation/dates
+    knows platform/foundation/coding platform/foundation/{base,dates}
+    knows platform/foundation/storage platform/foundation/coding platform/files
+    knows platform/foundation/url platform/foundation/base
     knows platform/uikit
     knows platform/xlform platform/uikit
-    knows platform/linux platform/uikit
+    knows platform/linux platform/uikit platform/files
     knows model platform/foundation
     knows service model platform/foundation
     knows views platform/uikit platform/foundation model
     knows screens views service model platform/xlform platform/uikit platform/foundation
     knows app screens views service model platform
-    knows sandbox
+    knows sandbox platform/files
+    knows sandbox/http
+    knows sandbox/storage platform/files
+    knows sandbox/certificates sandbox/{http,storage}
+    knows sandbox/endpoints sandbox/{http,storage}
+    knows sandbox/faults sandbox/http
     return "$rules_broken"
 }
 
