@@ -80,7 +80,7 @@ function(wzt_test name)
     # Ends a test that hangs; a busy or an emulated machine takes its time.
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 900
-        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=900000;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/Tsan.supp:ignore_noninstrumented_modules=1:halt_on_error=1"
+        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=900000;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/Tsan.supp:ignore_noninstrumented_modules=1:halt_on_error=1:die_after_fork=0"
         ENVIRONMENT_MODIFICATION "DBUS_SESSION_BUS_ADDRESS=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_CACHE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;http_proxy=unset:;https_proxy=unset:;HTTP_PROXY=unset:;HTTPS_PROXY=unset:;ALL_PROXY=unset:;all_proxy=unset:")
     set_property(TEST ${name} PROPERTY LABELS ${ARG_LABEL})
 endfunction()
