@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/endpoints/AccountEndpoints.h"
 
+#include "sandbox/endpoints/AccountReply.h"
 #include "sandbox/endpoints/AccountRules.h"
 #include "sandbox/endpoints/OneTimePassword.h"
 #include "sandbox/endpoints/ResetMessage.h"
@@ -21,35 +22,6 @@ constexpr qint64 oneTimeLife = 3600;
 Reply failure()
 {
     return resultReply("Internal Error"_L1, 500);
-}
-
-Reply userReply(const Account &account)
-{
-    QJsonObject object{
-        {u"userTavloID"_s, account.number},
-        {u"userEmail"_s, account.email},
-        {u"userName"_s, account.name},
-        {u"userEarlyAdopterStatus"_s, int{account.earlyAdopter}},
-        {u"userJoined"_s, account.joined},
-    };
-    const std::pair<QString, std::optional<QString>> optionals[] = {
-        {u"userReddit"_s, account.reddit},
-        {u"userTwitter"_s, account.twitter},
-        {u"userDiscord"_s, account.discord},
-        {u"userCydiaID"_s, account.cydia},
-    };
-    for (const auto &[key, text] : optionals) {
-        if (text) {
-            object.insert(key, *text);
-        }
-    }
-    return jsonReply(object);
-}
-
-// The value of a parameter; empty if it is missing.
-QString parameter(const Request &request, QStringView name)
-{
-    return request.parameter(name).value_or(QString());
 }
 
 // The status of a request without a required parameter is 400, whatever its text.
@@ -90,8 +62,8 @@ QList<Endpoint> AccountEndpoints::endpoints()
 
 Reply AccountEndpoints::login(const Request &request)
 {
-    const QString email = parameter(request, u"userEmail");
-    const QString digest = parameter(request, u"userPassword");
+    const QString email = request.text(u"userEmail");
+    const QString digest = request.text(u"userPassword");
     StoredAccount found;
     const Outcome outcome = m_store.find(email, &found);
     if (outcome == Outcome::Missing) {
@@ -120,10 +92,10 @@ bool AccountEndpoints::adoptOneTimePassword(const StoredAccount &found, const QB
 
 Reply AccountEndpoints::registration(const Request &request)
 {
-    Account account{.email = parameter(request, u"userEmail"),
-                    .name = parameter(request, u"userName"),
+    Account account{.email = request.text(u"userEmail"),
+                    .name = request.text(u"userName"),
                     .joined = m_clock.text()};
-    const QString digest = parameter(request, u"userPassword");
+    const QString digest = request.text(u"userPassword");
     if (!isAddress(account.email) || !isName(account.name) || !isDigest(digest)) {
         return resultReply("Improper request"_L1, 400);
     }
@@ -142,7 +114,7 @@ Reply AccountEndpoints::registration(const Request &request)
 
 Reply AccountEndpoints::passwordReset(const Request &request)
 {
-    const QString email = parameter(request, u"userEmail");
+    const QString email = request.text(u"userEmail");
     StoredAccount found;
     const Outcome outcome = m_store.find(email, &found);
     if (outcome == Outcome::Missing) {
@@ -165,8 +137,8 @@ Reply AccountEndpoints::passwordReset(const Request &request)
 
 Reply AccountEndpoints::update(const Request &request)
 {
-    const QString email = parameter(request, u"userEmail");
-    const QString oldDigest = parameter(request, u"userOldPassword");
+    const QString email = request.text(u"userEmail");
+    const QString oldDigest = request.text(u"userOldPassword");
     StoredAccount found;
     const Outcome outcome = m_store.find(email, &found);
     if (outcome == Outcome::Missing) {
@@ -209,7 +181,7 @@ Reply AccountEndpoints::change(StoredAccount &found, const Request &request)
 
 Reply AccountEndpoints::user(const Request &request)
 {
-    const QString email = parameter(request, u"userEmail");
+    const QString email = request.text(u"userEmail");
     if (email.isEmpty()) {
         return resultReply("Invalid Request"_L1, 400);
     }

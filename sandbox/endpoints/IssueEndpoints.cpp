@@ -28,11 +28,6 @@ QJsonObject objectOf(const Issue &issue)
     };
 }
 
-QString parameter(const Request &request, QStringView name)
-{
-    return request.parameter(name).value_or(QString());
-}
-
 // The reply for an unknown package; nil for a known one.
 std::optional<Reply> refusal(const QString &package)
 {
@@ -56,7 +51,7 @@ QList<Endpoint> IssueEndpoints::endpoints()
 
 Reply IssueEndpoints::list(const Request &request)
 {
-    const QString package = parameter(request, u"packageId");
+    const QString package = request.text(u"packageId");
     if (const auto reply = refusal(package)) {
         return *reply;
     }
@@ -73,13 +68,13 @@ Reply IssueEndpoints::list(const Request &request)
 
 Reply IssueEndpoints::submission(const Request &request)
 {
-    const QString package = parameter(request, u"packageId");
+    const QString package = request.text(u"packageId");
     if (const auto reply = refusal(package)) {
         return *reply;
     }
     bool isNumber = false;
-    const qint64 reporter = parameter(request, u"reporterId").toLongLong(&isNumber);
-    const QString title = parameter(request, u"title");
+    const qint64 reporter = request.text(u"reporterId").toLongLong(&isNumber);
+    const QString title = request.text(u"title");
     if (title.isEmpty() || !isNumber || reporter < 0) {
         return resultReply("Improper request"_L1, 400);
     }

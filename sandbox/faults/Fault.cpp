@@ -14,17 +14,6 @@ namespace {
 
 constexpr std::chrono::milliseconds surplusPause{100};
 
-QByteArray hostOf(const Request &request, quint16 port)
-{
-    return request.header("Host").value_or("localhost:" + QByteArray::number(port));
-}
-
-QByteArray otherHostOf(const Request &request, quint16 port)
-{
-    const bool isLocalhost = hostOf(request, port).startsWith("localhost");
-    return (isLocalhost ? "127.0.0.1:" : "localhost:") + QByteArray::number(port);
-}
-
 } // namespace
 
 Fault Fault::delay(std::chrono::milliseconds time)
@@ -121,55 +110,6 @@ Fault Fault::keyUpdates(int count)
     return fault;
 }
 
-Fault Fault::redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location)
-{
-    Fault fault;
-    fault.m_replacement = [code, location = std::move(location)](const Request &request,
-                                                                 quint16 port) {
-        return Reply{
-            .status = code, .headers = {{"Location", location(request, port)}}, .body = {}};
-    };
-    return fault;
-}
-
-Fault Fault::redirect(const QByteArray &location, int code)
-{
-    return redirectTo(code, [location](const Request &, quint16) { return location; });
-}
-
-Fault Fault::redirectLoop(int code)
-{
-    return redirectTo(code, [](const Request &request, quint16) { return request.target; });
-}
-
-Fault Fault::redirectFurther(int code)
-{
-    return redirectTo(code, [](const Request &request, quint16) {
-        return QByteArray(request.target + "&further");
-    });
-}
-
-Fault Fault::redirectToHttp(int code)
-{
-    return redirectTo(code, [](const Request &request, quint16 port) {
-        return QByteArray("http://" + hostOf(request, port) + request.target);
-    });
-}
-
-Fault Fault::redirectToOtherHost(int code)
-{
-    return redirectTo(code, [](const Request &request, quint16 port) {
-        return QByteArray("https://" + otherHostOf(request, port) + request.target);
-    });
-}
-
-Fault Fault::redirectToPath(const QByteArray &path, int code)
-{
-    return redirectTo(code, [path](const Request &request, quint16) {
-        return QByteArray(path + request.target.mid(request.path.size()));
-    });
-}
-
 Fault Fault::after(std::chrono::milliseconds time) const
 {
     Fault fault = *this;
@@ -207,33 +147,36 @@ Fault Fault::ending(Transmission::Ending ending) const
 
 Transmission Fault::transmission(const Request &request, const Reply &real, quint16 port) const
 {
-    Reply reply = m_replacement ? m_replacement(request, port) : real;
+    const Reply reply = m_replacement ? m_replacement(request, port) : real;
     Transmission transmission = m_delivery;
-    transmission.bytes = reply.body;
     transmission.ending = m_ending.value_or(transmissionOf(request, reply).ending);
-    if (m_isRaw) {
-        return transmission;
+    const bool keepsAlive = transmission.ending == Transmission::Ending::KeepOpen;
+    const QByteArray answer = m_isRaw ? reply.body : message(reply, keepsAlive);
+    transmission.bytes = answer + m_surplus;
+    if (!m_surplus.isEmpty()) {
+        // A client that found them at once would give up the connection.
+        transmission.pieceSize = answer.size();
+        transmission.pause = surplusPause;
     }
+    return transmission;
+}
+
+/// The head and the body with the changes of this fault.
+QByteArray Fault::message(Reply reply, bool keepsAlive) const
+{
     reply.status = m_status.value_or(reply.status);
     reply.headers += m_headers;
     if (m_missing) {
         reply.body = gzipped(reply.body);
         reply.body.chop(*m_missing);
     }
-    const bool keepsAlive = transmission.ending == Transmission::Ending::KeepOpen;
     std::optional<qint64> length;
     if (m_hasLength) {
         length = std::max(qint64{0}, reply.body.size() + m_lengthDifference);
     }
     const qsizetype sent = m_isHalved ? reply.body.size() / 2 : reply.body.size();
-    const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent) + m_surplus;
-    transmission.bytes = whole.left(m_cut.value_or(whole.size()));
-    if (!m_surplus.isEmpty()) {
-        // A client that found them at once would give up the connection.
-        transmission.pieceSize = whole.size() - m_surplus.size();
-        transmission.pause = surplusPause;
-    }
-    return transmission;
+    const QByteArray whole = headOf(reply, keepsAlive, length) + reply.body.left(sent);
+    return whole.left(m_cut.value_or(whole.size()));
 }
 
 } // namespace sandbox

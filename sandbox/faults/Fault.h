@@ -89,6 +89,7 @@ public:
 
 private:
     using Replacement = std::function<Reply(const Request &, quint16 port)>;
+    [[nodiscard]] QByteArray message(Reply reply, bool keepsAlive) const;
     static Fault redirectTo(int code, std::function<QByteArray(const Request &, quint16)> location);
 
     /// Null: the real answer is sent.

@@ -47,6 +47,11 @@ struct Request {
     /// The value of the last item of that name, as in PHP; empty if the item has no value, nil if
     /// there is no such item.
     [[nodiscard]] std::optional<QString> parameter(QStringView name) const;
+    /// The same, but empty if there is no such item.
+    [[nodiscard]] QString text(QStringView name) const
+    {
+        return parameter(name).value_or(QString());
+    }
 };
 
 } // namespace sandbox

@@ -2,82 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/coding/NSKeyedUnarchiver.h"
 
+#include "platform/foundation/coding/ArchivedValues.h"
 #include "platform/foundation/coding/PropertyList.h"
-#include "platform/foundation/coding/UTF8Reading.h"
 
 #include <QHash>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 using Value = NSCoder::Value;
-
-/// The value of a plain text, number, boolean or date; nil for any other node.
-Value plainValue(const PropertyList &node)
-{
-    if (const auto text = node.string()) {
-        return *text == "$null"_L1 ? Value() : Value(*text);
-    }
-    if (const auto number = node.integer()) {
-        return *number;
-    }
-    if (const auto number = node.real()) {
-        return *number;
-    }
-    if (const auto boolean = node.boolean()) {
-        return *boolean;
-    }
-    const auto date = node.date();
-    return date ? Value(*date) : Value();
-}
-
-std::optional<double> asDouble(const PropertyList &node)
-{
-    const auto number = node.integer();
-    return number ? std::optional(static_cast<double>(*number)) : node.real();
-}
-
-Value textOf(const PropertyList &object)
-{
-    if (const auto text = object.item(u"NS.string"_s).string()) {
-        return *text;
-    }
-    const auto bytes = object.item(u"NS.bytes"_s).data();
-    return bytes ? Value(textFromUTF8(*bytes)) : Value();
-}
-
-Value numberOf(const PropertyList &object)
-{
-    for (const QString &key : {u"NS.number"_s, u"NS.intval"_s, u"NS.dblval"_s, u"NS.boolval"_s}) {
-        const Value value = plainValue(object.item(key));
-        if (!std::holds_alternative<std::monostate>(value)) {
-            return value;
-        }
-    }
-    return {};
-}
-
-Value dateOf(const PropertyList &object)
-{
-    const auto time = asDouble(object.item(u"NS.time"_s));
-    return time ? Value(NSDate{*time}) : Value();
-}
-
-/// Classes whose objects are values that a record can hold.
-struct ReaderRow {
-    QLatin1StringView className;
-    Value (*read)(const PropertyList &object);
-};
-constexpr std::array readerTable{
-    ReaderRow{"NSDate"_L1, dateOf},
-    ReaderRow{"NSString"_L1, textOf},
-    ReaderRow{"NSMutableString"_L1, textOf},
-    ReaderRow{"NSNumber"_L1, numberOf},
-};
 
 class Archive {
 public:
@@ -136,7 +72,8 @@ private:
                 return std::nullopt;
             }
             if (item.key() != "$class"_L1) {
-                coder.encodeValue(uid ? valueAt(*uid) : plainValue(*item), item.key());
+                coder.encodeValue(uid ? valueAt(*uid) : ArchivedValues::fromPlain(*item),
+                                  item.key());
             }
         }
         return coder;
@@ -154,11 +91,7 @@ private:
     /// Follows only references to classes, so cycles of objects are harmless.
     [[nodiscard]] Value valueOf(const PropertyList &object) const
     {
-        const auto className = classOf(object).item(u"$classname"_s).string();
-        const auto *row =
-            std::find_if(readerTable.begin(), readerTable.end(),
-                         [&](const ReaderRow &r) { return className == r.className; });
-        return row == readerTable.end() ? plainValue(object) : row->read(object);
+        return ArchivedValues::fromObject(object, classOf(object).item(u"$classname"_s).string());
     }
 
     const PropertyList &m_list;
