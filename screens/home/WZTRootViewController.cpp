@@ -26,7 +26,7 @@ struct Row {
     void (Screen::*action)();
 };
 
-// What the thanks look like is their own cell's matter.
+// The thanks cell has its own picture and text.
 constexpr NSIndexPath thanks{2, 0};
 constexpr Row rows[] = {
     {{0, 0}, u"bugreport", u"Bug Reporter", &Screen::showIssueProjectList},

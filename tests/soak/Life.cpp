@@ -153,7 +153,7 @@ private:
         auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
         ::ualarm(m_dice.once(3) ? m_alarm : 0, 0);
         if (login) {
-            login->loginEnded(1, user);
+            login->loginCompleted(1, user);
         } else if (m_session.currentUser() && m_dice.once(4)) {
             m_session.logout();
         } else if (m_session.currentUser()) {
