@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells the program that it was started anew to do without hardware.
+/// The environment variable of a program that was restarted without hardware.
 constexpr auto mark = "WZT_SOFTWARE_RENDERER";
 
 bool hasGraphicsHardware()
@@ -31,7 +31,7 @@ void Renderer::choose()
 {
     const bool fellBack = qEnvironmentVariableIsSet(mark);
     qunsetenv(mark);
-    // Not by Qt's variable: programs that a link starts would inherit it.
+    // Programs that a link starts would inherit Qt's variable.
     if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     }
@@ -48,9 +48,9 @@ void Renderer::fallBack()
     for (QByteArray &argument : arguments) {
         pointers.push_back(argument.data());
     }
-    pointers.back() = nullptr; // the last one ends with a null character as well
+    pointers.back() = nullptr; // the empty piece after the last null character
     qputenv(mark, "1");
     const QByteArray program = QFile::encodeName(QFile::symLinkTarget(u"/proc/self/exe"_s));
     execv(program.constData(), pointers.data());
-    execv("/proc/self/exe", pointers.data()); // even if it was replaced meanwhile
+    execv("/proc/self/exe", pointers.data()); // works after the file was replaced
 }

@@ -3,7 +3,7 @@
 #include "tests/soak/Life.h"
 
 #include "app/AppDelegate.h"
-#include "app/Launch.h"
+#include "app/Program.h"
 #include "app/WZTTabBarController.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/UIApplication.h"
@@ -303,8 +303,8 @@ int Life::live(int &argc, char *argv[])
     configuration.timeoutIntervalForRequest = std::chrono::seconds(2);
     const auto alarm = QByteArray(argv[4]).toUInt();
     argc = 1;
-    Launch launch(argc, argv, configuration);
+    Program program(argc, argv, configuration);
     std::unique_ptr<Person> person;
     QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm); });
-    return launch.run({});
+    return program.run({});
 }
