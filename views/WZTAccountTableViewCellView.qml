@@ -11,7 +11,7 @@ Item {
 
     required property WZTAccountTableViewCell control
 
-    /// What a text may take of the card's width.
+    /// The maximum width of a text in the card.
     readonly property real room: card.width - 2 * 14
 
     implicitHeight: since.y + since.height + 14

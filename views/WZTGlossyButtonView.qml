@@ -4,8 +4,8 @@ import QtQuick
 import UIKit
 import Views
 
-/// A glossy button: its fill, its border, its shine and, on top, its title. As large as it was
-/// made, or as its title needs.
+/// A glossy button: its fill, shine and border below its title. Its implicit size is the size of its
+/// frame, or fits the title if the frame is empty.
 UIControlArea {
     id: root
 
