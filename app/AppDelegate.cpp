@@ -87,12 +87,12 @@ void AppDelegate::setCurrentUser(const WZTUser &user)
         NSKeyedArchiver::archivedDataWithRootObject(*m_currentUser, WZTUser::className);
     if (!data) {
         NSLog(u"The user's record cannot be archived and is not kept."_s);
-        forgetKeptUser();
+        removeStoredUser();
         return;
     }
     // Without a writable file the user stays signed in until the application ends.
     if (!m_defaults.setObject(data, currentUserKey)) {
-        forgetKeptUser();
+        removeStoredUser();
     }
     reloadTabs();
 }
@@ -110,7 +110,7 @@ void AppDelegate::reloadTabs()
 void AppDelegate::logout()
 {
     m_currentUser = std::nullopt;
-    forgetKeptUser();
+    removeStoredUser();
     m_rootVC->tableView()->reloadData();
     m_userVC->tableView()->reloadData();
     m_tabController->setSelectedIndex(0);
@@ -118,7 +118,7 @@ void AppDelegate::logout()
 }
 
 // The next start must not restore a user who has signed out or has been replaced.
-void AppDelegate::forgetKeptUser()
+void AppDelegate::removeStoredUser()
 {
     if (!m_defaults.removeObjectForKey(currentUserKey)) {
         NSLog(u"The user's record cannot be removed: the next start finds it."_s);

@@ -57,7 +57,7 @@ private:
     [[nodiscard]] std::optional<WZTUser> restoredUser() const;
     void makeTabs();
     void reloadTabs();
-    void forgetKeptUser();
+    void removeStoredUser();
     void presentLogin(bool animated);
 
     std::unique_ptr<UIWindow> m_window;

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The environment variable of a program that was restarted without hardware.
-constexpr auto mark = "WZT_SOFTWARE_RENDERER";
+/// The environment variable that marks a program as restarted without hardware.
+constexpr auto restartMark = "WZT_SOFTWARE_RENDERER";
 
 bool hasGraphicsHardware()
 {
@@ -29,8 +29,8 @@ bool hasGraphicsHardware()
 
 void Renderer::choose()
 {
-    const bool fellBack = qEnvironmentVariableIsSet(mark);
-    qunsetenv(mark);
+    const bool fellBack = qEnvironmentVariableIsSet(restartMark);
+    qunsetenv(restartMark);
     // Programs that a link starts would inherit Qt's variable.
     if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
@@ -49,7 +49,7 @@ void Renderer::fallBack()
         pointers.push_back(argument.data());
     }
     pointers.back() = nullptr; // the empty piece after the last null character
-    qputenv(mark, "1");
+    qputenv(restartMark, "1");
     const QByteArray program = QFile::encodeName(QFile::symLinkTarget(u"/proc/self/exe"_s));
     execv(program.constData(), pointers.data());
     execv("/proc/self/exe", pointers.data()); // works after the file was replaced

@@ -25,15 +25,15 @@ void wake(int)
     errno = error;
 }
 
-void handle(void (*handler)(int))
+void setHandler(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int number : signalNumbers) {
-        struct sigaction before = {};
+        struct sigaction previous = {};
         // A signal that the parent process made this one ignore stays ignored.
-        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
+        if (sigaction(number, nullptr, &previous) == 0 && previous.sa_handler != SIG_IGN) {
             sigaction(number, &action, nullptr);
         }
     }
@@ -55,7 +55,7 @@ TerminationSignals::TerminationSignals(const std::function<void()> &terminate)
                          m_notifier->setEnabled(false);
                          terminate();
                      });
-    handle(wake);
+    setHandler(wake);
 }
 
 TerminationSignals::~TerminationSignals()
@@ -63,7 +63,7 @@ TerminationSignals::~TerminationSignals()
     if (!m_notifier) {
         return;
     }
-    handle(SIG_DFL);
+    setHandler(SIG_DFL);
     m_notifier.reset();
     for (auto &end : pipeEnds) {
         close(end.exchange(-1));

@@ -48,10 +48,10 @@ void openLink(const char *url)
     UIApplication::sharedApplication()->openURL(QLatin1StringView(url));
 }
 
-void addRepository(const char *inZebra, const char *inCydia)
+void addRepository(const char *zebraURL, const char *cydiaURL)
 {
     const bool hasZebra = UIApplication::sharedApplication()->canOpenURL(u"zbra://"_s);
-    openLink(hasZebra ? inZebra : inCydia);
+    openLink(hasZebra ? zebraURL : cydiaURL);
 }
 
 } // namespace
