@@ -27,24 +27,24 @@ QString applicationId()
     return QString::fromLatin1(BuildConstants::applicationId);
 }
 
-/// Prepares the process for the application object. Returns how long the start may still wait for
-/// the desktop.
+/// Prepares the process for the application object. Returns the time that the start may still wait
+/// for the desktop.
 std::chrono::milliseconds prepareProcess()
 {
-    const std::chrono::milliseconds patienceLeft = LinuxHost::prepare();
+    const std::chrono::milliseconds remainingTime = LinuxHost::prepare();
     // A write beyond the limit for files fails then, instead of ending the program. An empty
     // handler does that: programs started from here would inherit an ignored signal.
     std::signal(SIGXFSZ, [](int) {});
     Renderer::choose();
-    return patienceLeft;
+    return remainingTime;
 }
 
 } // namespace
 
 Program::Program(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
-    : m_patienceLeft(prepareProcess()),
+    : m_remainingTime(prepareProcess()),
       m_application(argc, argv),
-      m_host(applicationId(), m_patienceLeft),
+      m_host(applicationId(), m_remainingTime),
       m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
     QGuiApplication::setApplicationName(applicationId());

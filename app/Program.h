@@ -27,7 +27,7 @@ private:
     void openURLs(const QStringList &urls);
     void end();
 
-    std::chrono::milliseconds m_patienceLeft;
+    std::chrono::milliseconds m_remainingTime;
     QGuiApplication m_application;
     LinuxHost m_host;
     SharedObjects::Settings m_settings;
