@@ -21,7 +21,7 @@ namespace {
 
 constexpr auto currentUserKey = "currentUser"_L1;
 
-/// A tab without a title: `name` is what a screen reader says.
+/// A tab without a title; screen readers say `name`.
 std::unique_ptr<UITabBarItem> tabBarItem(const QString &image, int tag, const QString &name)
 {
     auto item = std::make_unique<UITabBarItem>(QString(), UIImage::imageNamed(image), tag);
@@ -43,7 +43,7 @@ bool AppDelegate::didFinishLaunchingWithOptions()
 {
     m_window = std::make_unique<UIWindow>();
     m_window->makeKeyAndVisible();
-    // Not through the setter: nothing is written back.
+    // The setter would write the user back.
     m_currentUser = restoredUser();
     makeTabs();
     m_window->setRootViewController(m_tabController);
@@ -64,7 +64,7 @@ void AppDelegate::makeTabs()
         {make<UINavigationController>(m_rootVC), make<UINavigationController>(m_userVC)});
 }
 
-// Data that is no archive of a user stays where it is until the next sign-in replaces it.
+// Data that is not an archive of a user stays until the next sign-in replaces it.
 std::optional<WZTUser> AppDelegate::restoredUser() const
 {
     const auto data = m_defaults.dataForKey(currentUserKey);
@@ -87,12 +87,12 @@ void AppDelegate::setCurrentUser(const WZTUser &user)
         NSKeyedArchiver::archivedDataWithRootObject(*m_currentUser, WZTUser::className);
     if (!data) {
         NSLog(u"The user's record cannot be archived and is not kept."_s);
-        forgetKeptUser();
+        removeStoredUser();
         return;
     }
-    // Where nothing can be written the user is signed in until the application ends.
+    // Without a writable file the user stays signed in until the application ends.
     if (!m_defaults.setObject(data, currentUserKey)) {
-        forgetKeptUser();
+        removeStoredUser();
     }
     reloadTabs();
 }
@@ -110,15 +110,15 @@ void AppDelegate::reloadTabs()
 void AppDelegate::logout()
 {
     m_currentUser = std::nullopt;
-    forgetKeptUser();
+    removeStoredUser();
     m_rootVC->tableView()->reloadData();
     m_userVC->tableView()->reloadData();
     m_tabController->setSelectedIndex(0);
     presentLogin(true);
 }
 
-// The next start must not sign in somebody who has signed out, or whom another user has replaced.
-void AppDelegate::forgetKeptUser()
+// The next start must not restore a user who has signed out or has been replaced.
+void AppDelegate::removeStoredUser()
 {
     if (!m_defaults.removeObjectForKey(currentUserKey)) {
         NSLog(u"The user's record cannot be removed: the next start finds it."_s);

@@ -16,20 +16,21 @@ class WZTRootViewController;
 class WZTTabBarController;
 class WZTUserViewController;
 
-/// Starts the application and keeps who is signed in, from one start to the next under
-/// "currentUser" of the user defaults. It is the shared session while it lives. Main thread only.
+/// Starts the application and holds the signed-in user, who is kept for the next start under
+/// "currentUser" of the user defaults. It is the shared session. Main thread only.
 class AppDelegate : public UIResponder, public UIApplicationDelegate, public WZTSession {
     Q_OBJECT
 
 public:
-    /// `applicationId` and `folder` say where the user defaults lie; see NSUserDefaults.
+    /// `applicationId` and `folder` locate the user defaults; see NSUserDefaults.
     explicit AppDelegate(const QString &applicationId, const QString &folder = QString());
     ~AppDelegate() override;
 
-    /// Shows the tabs, and Login over them when nobody is signed in.
+    /// Shows the tabs, with Login over them when nobody is signed in.
     bool didFinishLaunchingWithOptions() override;
     /// Accepts every URL and does nothing with it.
     bool openURL(const QString &url) override;
+    // The application has nothing to do at these changes, and nothing calls them.
     void applicationWillResignActive() override {}
     void applicationDidEnterBackground() override {}
     void applicationWillEnterForeground() override {}
@@ -56,7 +57,7 @@ private:
     [[nodiscard]] std::optional<WZTUser> restoredUser() const;
     void makeTabs();
     void reloadTabs();
-    void forgetKeptUser();
+    void removeStoredUser();
     void presentLogin(bool animated);
 
     std::unique_ptr<UIWindow> m_window;

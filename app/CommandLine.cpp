@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What Qt itself reads from the command line of a program with windows. A session manager that
-/// restores the program passes some of it.
+/// The options that Qt itself reads in a program with windows. A session manager passes some of
+/// them when it restores the program.
 QList<QCommandLineOption> qtOptions()
 {
     QList<QCommandLineOption> options{QCommandLineOption(u"reverse"_s)};
@@ -28,6 +28,20 @@ QList<QCommandLineOption> qtOptions()
     return options;
 }
 
+void describe(QCommandLineParser &parser)
+{
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(
+        u"Account, bug reports and package repositories in one touch application."_s);
+    parser.addPositionalArgument(u"URL"_s,
+                                 QLatin1StringView(BuildConstants::urlScheme)
+                                     + ": URLs that open the application."_L1,
+                                 u"[URL...]"_s);
+    parser.addOption(QCommandLineOption({u"h"_s, u"help"_s}, u"Show this help."_s));
+    parser.addVersionOption();
+    parser.addOptions(qtOptions());
+}
+
 } // namespace
 
 QStringList CommandLine::urls(int argc, char *argv[])
@@ -37,26 +51,15 @@ QStringList CommandLine::urls(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[index]));
     }
 
-    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
     QCommandLineParser parser;
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(
-        u"Account, bug reports and package repositories in one touch application."_s);
-    parser.addPositionalArgument(u"URL"_s,
-                                 QLatin1StringView(BuildConstants::urlScheme)
-                                     + ": URLs that open the application."_L1,
-                                 u"[URL...]"_s);
-    parser.addOption(help);
-    const QCommandLineOption version = parser.addVersionOption();
-    parser.addOptions(qtOptions());
-
-    const bool known = parser.parse(arguments);
-    if (!known || parser.isSet(help) || parser.isSet(version)) {
-        // Without it the parser does not know what the program is called.
+    describe(parser);
+    const bool isValid = parser.parse(arguments);
+    if (!isValid || parser.isSet(u"help"_s) || parser.isSet(u"version"_s)) {
+        // The parser takes the program's name from this object.
         const QCoreApplication application(argc, argv);
         QCoreApplication::setApplicationName(u"wzt-companion"_s);
         QCoreApplication::setApplicationVersion(QLatin1StringView(BuildConstants::version));
-        if (known && parser.isSet(help)) {
+        if (isValid && parser.isSet(u"help"_s)) {
             parser.showHelp();
         }
         parser.process(arguments);

@@ -6,9 +6,9 @@
 
 namespace CommandLine {
 
-/// The URLs that the program was started with. Ends the process when it is asked for its version
-/// or for help (status 0), or for what it does not know (status 1). Needs no display: to be called
-/// before the application object is made.
+/// The URLs on the command line. Prints the version or the help and ends the process with status 0
+/// if an option asks for it, and ends it with status 1 after an unknown option. Needs no display;
+/// call it before the application object is made.
 [[nodiscard]] QStringList urls(int argc, char *argv[]);
 
 } // namespace CommandLine

@@ -9,12 +9,13 @@
 
 namespace QueryString {
 
-/// `text` with its percent sequences replaced by the characters they stand for. Nil when a
-/// sequence is malformed or the bytes are not UTF-8. A plus sign stays one.
+/// `text` with its percent sequences decoded. Nil when a sequence is malformed or the bytes are not
+/// UTF-8. A plus sign stays a plus sign.
 [[nodiscard]] std::optional<QString> stringByRemovingPercentEncoding(const QString &text);
 
-/// The items of "a=1&b=%20x", decoded. Of repeated names the last counts, and what follows a second
-/// equals sign is ignored. A piece without an equals sign or with a malformed encoding is left out.
+/// The decoded items of a query such as "a=1&b=%20x". The last of several equal names counts. Text
+/// after a second equals sign is ignored, and so is an item without an equals sign or with
+/// a malformed encoding.
 [[nodiscard]] QMap<QString, QString> parse(const QString &text);
 
 } // namespace QueryString

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells the program that it was started anew to do without hardware.
-constexpr auto mark = "WZT_SOFTWARE_RENDERER";
+/// The environment variable that marks a program as restarted without hardware.
+constexpr auto restartMark = "WZT_SOFTWARE_RENDERER";
 
 bool hasGraphicsHardware()
 {
@@ -29,9 +29,9 @@ bool hasGraphicsHardware()
 
 void Renderer::choose()
 {
-    const bool fellBack = qEnvironmentVariableIsSet(mark);
-    qunsetenv(mark);
-    // Not by Qt's variable: programs that a link starts would inherit it.
+    const bool fellBack = qEnvironmentVariableIsSet(restartMark);
+    qunsetenv(restartMark);
+    // Programs that a link starts would inherit Qt's variable.
     if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     }
@@ -48,9 +48,9 @@ void Renderer::fallBack()
     for (QByteArray &argument : arguments) {
         pointers.push_back(argument.data());
     }
-    pointers.back() = nullptr; // the last one ends with a null character as well
-    qputenv(mark, "1");
+    pointers.back() = nullptr; // the empty piece after the last null character
+    qputenv(restartMark, "1");
     const QByteArray program = QFile::encodeName(QFile::symLinkTarget(u"/proc/self/exe"_s));
     execv(program.constData(), pointers.data());
-    execv("/proc/self/exe", pointers.data()); // even if it was replaced meanwhile
+    execv("/proc/self/exe", pointers.data()); // works after the file was replaced
 }

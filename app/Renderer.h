@@ -4,13 +4,13 @@
 
 namespace Renderer {
 
-/// Has windows drawn by Qt's software renderer on a machine without graphics hardware, where
-/// emulated hardware would take three times the memory. QT_QUICK_BACKEND, if set, holds instead.
-/// To be called before the application object is made.
+/// Selects Qt's software renderer on a machine without graphics hardware, where emulated hardware
+/// would take three times the memory. QT_QUICK_BACKEND, if set, decides instead. Call it before the
+/// application object is made.
 void choose();
 
-/// Starts the program anew, as it was started, with the software renderer: for when the hardware
-/// is there but cannot be used. Returns only if that fails.
+/// Restarts the program with the same arguments and the software renderer, after the hardware has
+/// failed. Returns only if that is impossible.
 void fallBack();
 
 } // namespace Renderer

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int signalNumbers[] = {SIGTERM, SIGINT, SIGHUP};
 
-// A signal handler reaches nothing but what is global: the pipe that it wakes the main thread by.
+// The signal handler writes to this pipe to wake the main thread. A handler reaches only globals.
 constinit std::array<std::atomic<int>, 2> pipeEnds{-1, -1};
 
 void wake(int)
@@ -25,15 +25,15 @@ void wake(int)
     errno = error;
 }
 
-void handle(void (*handler)(int))
+void setHandler(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int number : signalNumbers) {
-        struct sigaction before = {};
-        // What the program was started to ignore it ignores.
-        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
+        struct sigaction previous = {};
+        // A signal that the parent process made this one ignore stays ignored.
+        if (sigaction(number, nullptr, &previous) == 0 && previous.sa_handler != SIG_IGN) {
             sigaction(number, &action, nullptr);
         }
     }
@@ -45,7 +45,7 @@ TerminationSignals::TerminationSignals(const std::function<void()> &terminate)
 {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-        return; // signals end the process as they do by default
+        return; // the signals keep their default actions
     }
     pipeEnds[0] = ends[0];
     pipeEnds[1] = ends[1];
@@ -55,7 +55,7 @@ TerminationSignals::TerminationSignals(const std::function<void()> &terminate)
                          m_notifier->setEnabled(false);
                          terminate();
                      });
-    handle(wake);
+    setHandler(wake);
 }
 
 TerminationSignals::~TerminationSignals()
@@ -63,7 +63,7 @@ TerminationSignals::~TerminationSignals()
     if (!m_notifier) {
         return;
     }
-    handle(SIG_DFL);
+    setHandler(SIG_DFL);
     m_notifier.reset();
     for (auto &end : pipeEnds) {
         close(end.exchange(-1));

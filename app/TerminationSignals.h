@@ -7,12 +7,13 @@
 #include <functional>
 #include <memory>
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread; a second signal of the same
-/// kind ends the process at once. One object at a time, within an application object.
+/// Calls a function on the main thread at SIGTERM, SIGINT and SIGHUP; a second signal of the same
+/// kind ends the process at once. There is at most one object, and only while an application object
+/// exists.
 class TerminationSignals {
 public:
     explicit TerminationSignals(const std::function<void()> &terminate);
-    /// Signals do what they do by default from then on.
+    /// Restores the signals' default actions.
     ~TerminationSignals();
     Q_DISABLE_COPY_MOVE(TerminationSignals)
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
 
-#include "platform/uikit/base/UIImpactFeedbackGenerator.h"
+#include "views/HapticTap.h"
 #include "views/UIColorEx.h"
 
 void WZTTabBarController::viewDidLoad()
@@ -13,5 +13,5 @@ void WZTTabBarController::viewDidLoad()
 
 void WZTTabBarController::didSelectItem(UITabBarItem *)
 {
-    UIImpactFeedbackGenerator(UIImpactFeedbackStyle::Light).impactOccurred();
+    tapHaptically();
 }

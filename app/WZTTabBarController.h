@@ -4,7 +4,8 @@
 
 #include "platform/uikit/presentation/UITabBarController.h"
 
-/// The root of the interface: tabs in the application's tint colour, felt when they are chosen.
+/// The root of the interface: tabs in the application's tint colour, with a haptic tap at each
+/// choice.
 class WZTTabBarController : public UITabBarController {
     Q_OBJECT
 

@@ -8,6 +8,6 @@
 
 class QJsonValue;
 
-/// The moment under a key of the service's parameters: a text such as "2019-08-14 17:05:09", in the
-/// device's time zone. Nil for any other text and any other value. Any thread.
+/// The date of a service parameter: a text such as "2019-08-14 17:05:09" in the device's time zone.
+/// Nil for any other text and any other value. Any thread.
 [[nodiscard]] std::optional<NSDate> serviceDate(const QJsonValue &value);

@@ -7,18 +7,18 @@
 #include <memory>
 #include <vector>
 
-/// A project that issues can be reported against. Two packages are never equal, only the same one:
-/// they are shared by pointer.
+/// A project of the bug reporter. Packages are compared by identity and shared by pointer.
 class WZTPackage {
 public:
     WZTPackage(QString identifier, QString name);
     Q_DISABLE_COPY_MOVE(WZTPackage)
 
-    /// The projects there are, always in the same order, made anew at each call.
+    /// All projects, always in the same order. Each call makes new objects.
     [[nodiscard]] static std::vector<std::shared_ptr<WZTPackage>> allPackages();
 
-    /// Names the project on the service: the vendor prefix, a full stop and the project's key.
+    /// The project's identifier on the service: the vendor prefix, a full stop and the project's
+    /// key.
     QString bundleIdentifier;
-    /// The name to show.
+    /// The display name.
     QString name;
 };

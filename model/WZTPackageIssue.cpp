@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text and its key in an archive, which differs from the service's for one of them on purpose.
+/// A text and its archive key. One of the keys differs from the service's on purpose.
 struct TextField {
     WZTPackageIssue::Text WZTPackageIssue::*field;
     QLatin1StringView archive;

@@ -11,7 +11,7 @@
 class NSCoder;
 class QJsonObject;
 
-/// An issue that somebody reported against a project, as the web service lists it: a plain value.
+/// An issue of a project, as the web service lists it: a plain value.
 class WZTPackageIssue {
 public:
     using Text = std::optional<QString>;
@@ -23,11 +23,12 @@ public:
     WZTPackageIssue(Text issueId, Text referenceId, Text packageId, Text reporterId, Text title,
                     Text description, bool status, std::optional<NSDate> openDate);
 
-    /// The issue in an element of a reply, whatever that holds: a text that is missing, or neither
-    /// text nor number, is nil, as is a date that cannot be read. Any thread.
+    /// Reads an issue from an element of a reply and never fails. A text is nil if the value is
+    /// missing or is neither a text nor a number, and a date is nil if it cannot be parsed. Any
+    /// thread.
     [[nodiscard]] static WZTPackageIssue initWithIssueParams(const QJsonObject &params);
 
-    /// The issue in an archive, whatever that holds: absent values are nil or false.
+    /// Reads an issue from an archive and never fails: absent values are nil or false.
     [[nodiscard]] static WZTPackageIssue initWithCoder(const NSCoder &coder);
     void encodeWithCoder(NSCoder &coder) const;
 
@@ -35,15 +36,15 @@ public:
 
     std::optional<NSDate> openDate;
     Text issueId;
-    /// Names the project, as WZTPackage's bundleIdentifier does.
+    /// The project's WZTPackage::bundleIdentifier.
     Text packageId;
     Text referenceId;
-    /// The number of the account that reported it.
+    /// The reporting account's number.
     Text reporterId;
     /// One line.
     Text title;
     Text issueDescription;
-    /// False once it is closed.
+    /// False once the issue is closed.
     bool open = false;
 
 private:

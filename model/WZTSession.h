@@ -4,22 +4,22 @@
 
 #include "model/WZTUser.h"
 
-/// Who is signed in. Screens and the service client read it here and change it here; the
-/// application's delegate is the one behind it. Main thread only.
+/// The signed-in user, for the screens and the service client. The application's delegate
+/// implements it. Main thread only.
 class WZTSession {
 public:
     virtual ~WZTSession();
 
     /// The session of the application; null before its start and after its end.
     [[nodiscard]] static WZTSession *shared();
-    /// Makes `session` the shared one; null for none. A session that ends takes itself away.
+    /// Makes `session` the shared one; null removes it. The destructor removes a shared session.
     static void install(WZTSession *session);
 
     /// Nil while nobody is signed in.
     [[nodiscard]] virtual const std::optional<WZTUser> &currentUser() const = 0;
-    /// Signs `user` in, or replaces the record of who is: keeps it for the next start and shows
-    /// it on both tabs.
+    /// Signs `user` in or replaces the record of the signed-in user, stores the record for the next
+    /// start and reloads both tabs.
     virtual void setCurrentUser(const WZTUser &user) = 0;
-    /// Signs out: forgets the record and asks for a sign-in.
+    /// Signs out: removes the record and presents Login.
     virtual void logout() = 0;
 };

@@ -26,7 +26,7 @@ constexpr Keys userNameKeys{"userName"_L1, "username"_L1};
 constexpr Keys earlyAdopterKeys{"userEarlyAdopterStatus"_L1, "earlyAdopter"_L1};
 constexpr Keys joinDateKeys{"userJoined"_L1, "joinDate"_L1};
 
-/// The texts that an account may lack; an archive has an entry only for those that are set.
+/// An optional text. Its archive entry exists only if the text is set.
 struct OptionalText {
     std::optional<QString> WZTUser::*field;
     Keys keys;

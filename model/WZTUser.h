@@ -17,29 +17,29 @@ public:
     /// The class name under which archives keep a user.
     static constexpr QLatin1StringView className{"WZTUser"};
 
-    /// Sets the three fields that every account has, without any check.
+    /// Sets the three fields of every account, without any check.
     WZTUser(int tavloId, std::optional<QString> email, std::optional<QString> userName);
 
-    /// The account in the user parameters of a reply. Nil unless the number is positive and the
+    /// Reads an account from a reply's user parameters. Nil unless the number is positive and the
     /// e-mail and the name are not empty; nothing else is checked.
     [[nodiscard]] static std::optional<WZTUser> initWithUserParams(const QJsonObject &params);
 
-    /// The account in an archive, whatever that holds: absent values are 0, nil or false.
+    /// Reads an account from an archive and never fails: absent values are 0, nil or false.
     [[nodiscard]] static WZTUser initWithCoder(const NSCoder &coder);
     void encodeWithCoder(NSCoder &coder) const;
 
     bool operator==(const WZTUser &) const = default;
 
     bool earlyAdopter = false;
-    /// The account's number on the service, 1 or more when the service sent it.
+    /// The account's number on the service; 1 or more in a record from the service.
     int tavloId = 0;
     std::optional<QString> cydiaId;
     std::optional<NSDate> joinDate;
     std::optional<QString> discordUsername;
-    /// Names the account in every request; absent only in an archive that lacks it.
+    /// The account's key in every request. Nil only after reading an archive without it.
     std::optional<QString> email;
     std::optional<QString> redditUsername;
     std::optional<QString> twitterUsername;
-    /// The name to show; absent only in an archive that lacks it.
+    /// The display name. Nil only after reading an archive without it.
     std::optional<QString> userName;
 };

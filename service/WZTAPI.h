@@ -11,17 +11,17 @@
 #include <functional>
 
 /// The client of the web service. Every operation starts one request on the shared URL session and
-/// returns at once; its completion, which must not be empty, runs exactly once, on the session's
-/// thread. What a code means is the operation's own matter: there is no common success.
+/// returns at once. Its completion must not be empty; it runs exactly once, on the session's
+/// thread. Each operation has codes of its own: no code means success in all of them.
 ///
 /// Passwords are digests (see SHA256). An absent text is sent as a name without a value, an empty
 /// one as an empty value.
 class WZTAPI {
 public:
     using Text = std::optional<QString>;
-    /// The user is there with the one code that stands for a reply with a user, and nil otherwise.
+    /// The user is nil for every code except the one that reports a user.
     using UserCompletion = std::function<void(NSUInteger code, const std::optional<WZTUser> &user)>;
-    /// The issues are there with the one code that stands for a list, and nil otherwise.
+    /// The issues are nil for every code except the one that reports issues.
     using IssuesCompletion =
         std::function<void(NSUInteger code, const std::optional<QList<WZTPackageIssue>> &issues)>;
     using CodeCompletion = std::function<void(NSUInteger code)>;
@@ -37,25 +37,25 @@ public:
     static void registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
                               UserCompletion completion);
 
-    /// Has a message with a new password sent. 0: sent. 3: not sent, or no such address.
+    /// Asks for a message with a new password. 0: sent. 3: not sent, or no such address.
     /// 2: anything else.
     static void resetAccountPassword(const Text &email, CodeCompletion completion);
 
-    /// Changes name, password or both; an absent or empty one stays as it is. 1: the user as
-    /// changed. 2: no such address. 0: wrong current password. 3: anything else.
+    /// Changes the name, the password or both; an absent or empty one stays as it is. 1: the
+    /// changed user. 2: no such address. 0: wrong current password. 3: anything else.
     static void updateAccount(const Text &email, const Text &userName, const Text &passwordDigest,
                               const Text &newPasswordDigest, UserCompletion completion);
 
-    /// Reads the account anew. 0: its user. 1: no such address. 2: anything else.
+    /// Fetches the account again. 0: its user. 1: no such address. 2: anything else.
     static void userForAccount(const Text &email, UserCompletion completion);
 
-    /// Lists a project's issues in the service's order. 1: the issues. 0: there are none, and nil.
-    /// 2: anything else, more than 100,000 issues among it.
+    /// Lists a project's issues in the service's order. 1: the issues. 0: the project has none.
+    /// 2: anything else, including more than 100,000 issues.
     static void issuesForPackageIdentifier(const Text &identifier, IssuesCompletion completion);
 
-    /// Files an issue against a project, in the name of who is signed in, and logs what it sends.
-    /// Without a description none is sent. Main thread. 0: accepted. 1: refused, or the service was
-    /// not reached.
+    /// Files an issue against a project in the signed-in user's name and logs the parameters. An
+    /// absent description is not sent. Main thread. 0: accepted. 1: refused, or the service was not
+    /// reached.
     static void submitIssueForPackage(const Text &identifier, const Text &title,
                                       const Text &issueDescription, CodeCompletion completion);
 };

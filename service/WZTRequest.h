@@ -4,47 +4,28 @@
 
 #include "platform/foundation/url/NSURLQueryItem.h"
 
+#include <QByteArray>
 #include <QJsonDocument>
 #include <QList>
-#include <QString>
 
 #include <functional>
 #include <optional>
-#include <span>
 
-/// One query item of a request.
-struct WZTParameter {
-    enum class Sent { Always, UnlessNil, UnlessEmpty };
-
-    QLatin1StringView name;
-    Sent sent = Sent::Always;
-};
-
-/// What an operation asks of the service. Whatever its method is, its parameters travel in the
-/// URL's query, and no header fields and no body are its own.
+/// One request to the service. The parameters travel in the URL's query with either method; there
+/// are no header fields and no body.
 struct WZTRequest {
-    enum class Method { Get, Post };
+    /// Nil for a transport error; a null document for a body that is neither a JSON object nor
+    /// a JSON list.
+    using Reply = std::optional<QJsonDocument>;
 
-    QLatin1StringView path;
-    Method method = Method::Get;
-    /// In the order in which they are sent.
-    std::span<const WZTParameter> parameters;
+    /// "GET" or "POST".
+    QByteArray method;
+    QString path;
+    /// In the order in which they are sent. A nil value is sent as a bare name, an empty one as an
+    /// empty value.
+    QList<NSURLQueryItem> parameters;
+
+    /// Sends the request over the shared URL session and returns at once. `completion` runs exactly
+    /// once, on the session's thread; without a session it runs on this one, before the return.
+    void send(std::function<void(const Reply &)> completion) const;
 };
-
-namespace WZTRequestFrame {
-
-/// What came back: nil for a transport error, a null document for a body that is no JSON object
-/// or list.
-using Reply = std::optional<QJsonDocument>;
-
-/// What `request` sends with one value for each of its parameters.
-[[nodiscard]] QList<NSURLQueryItem> queryItems(const WZTRequest &request,
-                                               std::span<const std::optional<QString>> values);
-
-/// Sends `request` over the shared URL session, with one value for each of its parameters, and
-/// returns at once. A nil value that is always sent goes out as a bare name. `decode` runs exactly
-/// once, on the session's thread, or on this one when there is no session (any more).
-void send(const WZTRequest &request, std::span<const std::optional<QString>> values,
-          std::function<void(const Reply &)> decode);
-
-} // namespace WZTRequestFrame

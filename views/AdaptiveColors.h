@@ -4,18 +4,18 @@
 
 #include "platform/uikit/appearance/UIColor.h"
 
-/// The colours of screens and cells: from system version 13 on those that follow light and dark,
-/// before it fixed ones. The version is looked at when the colour is asked for.
+/// The colours of screens and cells. They follow light and dark from system version 13 on and are
+/// fixed before it; each call checks the version.
 namespace AdaptiveColors {
 
-/// Behind a whole screen.
+/// The background of a screen.
 [[nodiscard]] UIColor screenBackground();
-/// Behind the contents of a card.
+/// The background of a card.
 [[nodiscard]] UIColor cardBackground();
 [[nodiscard]] UIColor text();
-/// What stands beside a text and says less.
+/// The text of a caption.
 [[nodiscard]] UIColor caption();
-/// What stands in an empty field.
+/// The placeholder of an empty field.
 [[nodiscard]] UIColor placeholder();
 [[nodiscard]] UIColor line();
 

@@ -12,7 +12,7 @@ UIColor darker(const UIColor::RGB &color, double alpha)
                                  color.blue - darkening, alpha);
 }
 
-// The alpha that counts is the one read with the white.
+// The alpha of `gray` counts, not that of `rgb`.
 UIColor darker(const UIColor::RGB &rgb, const UIColor::Gray &gray)
 {
     const bool colorless = rgb.red + rgb.green + rgb.blue == 0;

@@ -4,6 +4,6 @@
 
 #include "platform/uikit/appearance/UIColor.h"
 
-/// What a button of that colour is filled with while a finger is on it: each channel less 0.2,
-/// below 0 as well; black alone grows lighter. No colour for one whose model is not known.
+/// The fill of a pressed button with the fill `color`: each channel less 0.2, below 0 as well. Only
+/// black becomes lighter. A colour of an unknown model gives no colour.
 [[nodiscard]] UIColor pressedColor(const UIColor &color);

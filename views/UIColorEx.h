@@ -6,9 +6,9 @@
 
 namespace UIColorEx {
 
-/// The application's one accent colour: system teal in the dark style, system blue in every other,
-/// the unspecified one included; before system version 13 always system blue. A new colour at
-/// every call, equal to none before it.
+/// The application's accent colour: system teal in the dark style, system blue in the light and the
+/// unspecified style, and always system blue before system version 13. Each call makes a new
+/// colour, which equals no other.
 [[nodiscard]] UIColor tintColor();
 
 } // namespace UIColorEx

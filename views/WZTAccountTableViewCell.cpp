@@ -4,8 +4,8 @@
 
 #include "model/WZTSession.h"
 #include "platform/foundation/dates/NSDateFormatter.h"
-#include "platform/uikit/base/UIApplication.h"
 #include "views/AdaptiveColors.h"
+#include "views/CardStyle.h"
 #include "views/UIColorEx.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +19,7 @@ void setUp(UILabel &label, UIFontTextStyle style, const UIColor &color, const QS
     label.setText(text);
 }
 
-// Screen readers come to the caption after what it is of, so the value says both.
+// The caption follows its value, so for screen readers the value says both.
 void fillValue(UILabel &value, const UILabel &caption, const std::optional<QString> &text)
 {
     value.setText(text.value_or(QString()));
@@ -40,14 +40,9 @@ WZTAccountTableViewCell::WZTAccountTableViewCell(UITableViewCellStyle style,
                                                  const QString &reuseIdentifier)
     : UITableViewCell(style, reuseIdentifier)
 {
-    const bool hasCurves = UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(13);
     contentView()->setBackgroundColor(UIColor::clearColor());
     setBackgroundColor(UIColor::clearColor());
-    m_cardBackgroundView.setBackgroundColor(AdaptiveColors::cardBackground());
-    m_cardBackgroundView.setLayer({.cornerRadius = 12.333,
-                                   .masksToBounds = true,
-                                   .cornerCurve = hasCurves ? CALayer::CornerCurve::Continuous
-                                                            : CALayer::CornerCurve::Circular});
+    styleCard(m_cardBackgroundView, 12.333);
 
     setUp(m_headerLabel, UIFontTextStyle::Title2, AdaptiveColors::text(), u"Account Details"_s);
     m_editButton.setTitle(u"Update"_s);

@@ -5,9 +5,9 @@
 #include "platform/uikit/controls/UIButton.h"
 #include "platform/uikit/tables/UITableViewCell.h"
 
-/// The signed-in user's card, filled from the shared session when it is made and at each reuse.
-/// With nobody signed in it has no name and no address. Where its views stand is
-/// WZTAccountTableViewCellView.qml's.
+/// The signed-in user's card, filled from the shared session when the cell is made and at each
+/// reuse. While nobody is signed in, the name and the address are empty.
+/// WZTAccountTableViewCellView.qml has the layout.
 class WZTAccountTableViewCell : public UITableViewCell {
     Q_OBJECT
     QML_ELEMENT
@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] UIView *cardBackgroundView() { return &m_cardBackgroundView; }
     [[nodiscard]] UILabel *headerLabel() { return &m_headerLabel; }
-    /// Without a target for touch up inside, when the cell is new and after each reuse.
+    /// A new or reused cell has no target for touch up inside.
     [[nodiscard]] UIButton *editButton() { return &m_editButton; }
     [[nodiscard]] UIView *dividerOneView() { return &m_dividerOneView; }
     [[nodiscard]] UILabel *userNameLabel() { return &m_userNameLabel; }
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] UILabel *emailLabel() { return &m_emailLabel; }
     [[nodiscard]] UIView *dividerThreeView() { return &m_dividerThreeView; }
     [[nodiscard]] UILabel *emailTitleLabel() { return &m_emailTitleLabel; }
-    /// The account's number and, in the device's locale, the day it was made.
+    /// The account's number and its creation date in the device's locale.
     [[nodiscard]] UILabel *userSinceLabel() { return &m_userSinceLabel; }
 
     void prepareForReuse() override;

@@ -11,8 +11,8 @@ Item {
 
     required property WZTAccountTableViewCell control
 
-    /// What a text may take of the card's width.
-    readonly property real room: card.width - 2 * 14
+    /// The maximum width of a text in the card.
+    readonly property real maximumTextWidth: card.width - 2 * 14
 
     implicitHeight: since.y + since.height + 14
 
@@ -26,14 +26,14 @@ Item {
             id: header
             control: root.control.headerLabel
             anchors { top: parent.top; topMargin: 14; left: parent.left; leftMargin: 14 }
-            width: Math.max(0, Math.min(implicitWidth, root.room - edit.width - 10))
+            width: Math.max(0, Math.min(implicitWidth, root.maximumTextWidth - edit.width - 10))
             Accessible.role: Accessible.Heading
         }
         UIButtonView {
             id: edit
             control: root.control.editButton
             anchors { right: parent.right; rightMargin: 14; verticalCenter: header.verticalCenter }
-            width: Math.min(implicitWidth, root.room)
+            width: Math.min(implicitWidth, root.maximumTextWidth)
         }
         UIViewView {
             id: dividerOne
@@ -46,7 +46,7 @@ Item {
             id: userName
             control: root.control.userNameLabel
             anchors { top: dividerOne.bottom; topMargin: 10; left: parent.left; leftMargin: 14 }
-            width: Math.min(implicitWidth, root.room)
+            width: Math.min(implicitWidth, root.maximumTextWidth)
         }
         UIViewView {
             id: dividerTwo
@@ -65,7 +65,7 @@ Item {
             id: email
             control: root.control.emailLabel
             anchors { top: userNameTitle.bottom; topMargin: 14; left: parent.left; leftMargin: 14 }
-            width: Math.min(implicitWidth, root.room)
+            width: Math.min(implicitWidth, root.maximumTextWidth)
         }
         UIViewView {
             id: dividerThree
@@ -84,7 +84,7 @@ Item {
             id: since
             control: root.control.userSinceLabel
             anchors { top: emailTitle.bottom; topMargin: 14; horizontalCenter: parent.horizontalCenter }
-            width: Math.min(implicitWidth, root.room)
+            width: Math.min(implicitWidth, root.maximumTextWidth)
         }
     }
 }

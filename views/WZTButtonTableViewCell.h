@@ -5,7 +5,7 @@
 #include "platform/uikit/tables/UITableViewCell.h"
 #include "views/WZTGlossyButton.h"
 
-/// A button as wide as the table allows. What it says and does is set by the screen that shows it.
+/// A button across the table's width. The screen sets its title and its action.
 class WZTButtonTableViewCell : public UITableViewCell {
     Q_OBJECT
     QML_ELEMENT
@@ -17,7 +17,7 @@ public:
     WZTButtonTableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier);
     ~WZTButtonTableViewCell() override;
 
-    /// Made without a size, and so without a shine that could be seen.
+    /// Made with an empty frame, so its shine is invisible.
     [[nodiscard]] WZTGlossyButton *button() { return &m_button; }
 
 private:

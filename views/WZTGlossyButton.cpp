@@ -10,7 +10,7 @@ struct Stop {
     double location, white, alpha;
 };
 
-// Two stops in the middle: the shine has an edge there.
+// Two stops at the same location give the shine a hard edge in the middle.
 constexpr Stop shine[] = {
     {0.0, 1.0, 0.4}, {0.5, 1.0, 0.2}, {0.5, 0.75, 0.2}, {0.8, 0.4, 0.2}, {1.0, 1.0, 0.4},
 };

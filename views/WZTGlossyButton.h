@@ -4,7 +4,7 @@
 
 #include "platform/uikit/controls/UIButton.h"
 
-/// A rounded, bordered button of one colour, darker while a finger is on it, under a fixed shine.
+/// A rounded, bordered button of one colour under a fixed shine, darker while pressed.
 class WZTGlossyButton : public UIButton {
     Q_OBJECT
     QML_ELEMENT
@@ -12,20 +12,19 @@ class WZTGlossyButton : public UIButton {
     Q_CLASSINFO("view", "Views/WZTGlossyButtonView.qml")
 
 public:
-    /// The shine keeps the size of `frame`, in points, whatever size the button is drawn in.
+    /// The shine keeps the size of `frame`, in points, when the button is drawn in another size.
     WZTGlossyButton(const QRectF &frame, const UIColor &color);
     ~WZTGlossyButton() override;
 
     /// Gives `button` the fixed look over `color`. Each call adds one more shine.
     static void makeButtonShiny(WZTGlossyButton &button, const UIColor &color);
 
-    /// The fill while no finger is on the button. Setting it fills the button at once, pressed or
-    /// not.
+    /// The fill while the button is not pressed. The setter also fills a pressed button at once.
     [[nodiscard]] UIColor buttonColor() const { return m_buttonColor; }
     void setButtonColor(const UIColor &color);
 
-    // What the button's own touches do. A touch that is cancelled, or that ends outside without
-    // having been seen to leave, leaves it pressed.
+    // The button's own touch handlers. It stays pressed after a cancelled touch, and after a touch
+    // that ends outside without a drag exit.
     void wasPressed();
     void endedPress();
 

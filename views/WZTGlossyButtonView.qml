@@ -4,18 +4,18 @@ import QtQuick
 import UIKit
 import Views
 
-/// A glossy button: its fill, its border, its shine and, on top, its title. As large as it was
-/// made, or as its title needs.
+/// A glossy button: its fill, shine and border below its title. Its implicit size is the size of its
+/// frame, or fits the title if the frame is empty.
 UIControlArea {
     id: root
 
     required property WZTGlossyButton control
 
     readonly property uiEdgeInsets insets: control.contentEdgeInsets
-    readonly property rect made: control.layer.bounds
+    readonly property rect frame: control.layer.bounds
 
-    implicitWidth: made.width || title.implicitWidth + insets.left + insets.right
-    implicitHeight: made.height || title.implicitHeight + insets.top + insets.bottom
+    implicitWidth: frame.width || title.implicitWidth + insets.left + insets.right
+    implicitHeight: frame.height || title.implicitHeight + insets.top + insets.bottom
     receiver: control
 
     Accessible.role: Accessible.Button
@@ -32,7 +32,7 @@ UIControlArea {
     }
     UISublayersPicture {
         anchors.fill: parent
-        visible: root.made.width > 0 && root.made.height > 0
+        visible: root.frame.width > 0 && root.frame.height > 0
         view: root.control
     }
     Rectangle {

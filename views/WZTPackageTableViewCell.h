@@ -4,8 +4,8 @@
 
 #include "platform/uikit/tables/UITableViewCell.h"
 
-/// A project with a picture and two labels, each null until whoever uses the cell assigns it. It
-/// draws nothing but what every cell draws.
+/// A project with a picture and two labels, each null until it is assigned. It is drawn like a
+/// plain cell.
 class WZTPackageTableViewCell : public UITableViewCell {
     Q_OBJECT
     QML_ELEMENT

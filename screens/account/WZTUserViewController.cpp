@@ -3,18 +3,20 @@
 #include "screens/account/WZTUserViewController.h"
 
 #include "model/WZTSession.h"
-#include "platform/foundation/base/Dispatch.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/bars/UINavigationItem.h"
-#include "platform/uikit/base/UIApplication.h"
-#include "platform/uikit/base/UIImpactFeedbackGenerator.h"
-#include "screens/common/AlertFields.h"
+#include "screens/common/ContentType.h"
+#include "screens/common/FieldsAlert.h"
+#include "screens/common/MainThread.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
 #include "views/AdaptiveColors.h"
+#include "views/HapticTap.h"
 #include "views/WZTAccountTableViewCell.h"
 #include "views/WZTButtonTableViewCell.h"
 #include "views/WZTHeaderTableViewCell.h"
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -27,9 +29,24 @@ constexpr Message updateMessages[] = {
     {3, MessageKind::Error, u"An unknown error occured."},
 };
 
-void tapHaptically()
+enum UpdateField : size_t { NameField, NewPasswordField, CurrentPasswordField };
+
+std::array<AlertField, 3> updateFields(const std::optional<WZTUser> &user)
 {
-    UIImpactFeedbackGenerator(UIImpactFeedbackStyle::Light).impactOccurred();
+    return {{
+        {user ? user->userName.value_or(QString()) : QString(),
+         {.keyboardType = UIKeyboardType::ASCIICapable,
+          .autocorrectionType = UITextAutocorrectionType::Yes,
+          .textContentType = UITextContentType::Name},
+         u"Name"_s},
+        {u"New Password"_s,
+         {.autocorrectionType = UITextAutocorrectionType::No,
+          .textContentType = contentTypeSince(12, UITextContentType::NewPassword),
+          .secureTextEntry = true}},
+        {u"Current Password"_s,
+         {.textContentType = contentTypeSince(12, UITextContentType::Password),
+          .secureTextEntry = true}},
+    }};
 }
 
 std::optional<QString> currentEmail()
@@ -38,15 +55,15 @@ std::optional<QString> currentEmail()
     return user ? user->email : std::nullopt;
 }
 
-// Signing out holds, and so does signing in as somebody else: a reply that was asked for with
-// another address comes too late.
+// A reply is dropped when the user has signed out, or somebody else has signed in, since the
+// request.
 bool isSignedIn(const std::optional<QString> &email)
 {
     return WZTSession::shared()->currentUser() && email == currentEmail();
 }
 
-/// Nil for a text without a character.
-std::optional<QString> entered(const UITextField &field)
+/// The field's text; nil if that is empty.
+std::optional<QString> nonEmptyText(const UITextField &field)
 {
     const auto text = field.text();
     return text && !text->isEmpty() ? text : std::nullopt;
@@ -90,97 +107,80 @@ double WZTUserViewController::heightForFooterInSection(int section) const
 std::shared_ptr<UITableViewCell>
 WZTUserViewController::cellForRowAtIndexPath(const NSIndexPath &indexPath)
 {
-    std::shared_ptr<UITableViewCell> cell;
-    if (indexPath.section == 0) {
-        cell = tableView()->dequeueReusableCellWithIdentifier(u"header"_s);
-    } else if (indexPath.section == 1) {
-        auto account =
-            tableView()->dequeueReusableCellWithIdentifier<WZTAccountTableViewCell>(u"account"_s);
-        account->editButton()->addTarget(this, &WZTUserViewController::editProfile,
-                                         UIControlEvent::TouchUpInside);
-        cell = std::move(account);
-    } else {
-        auto button =
-            tableView()->dequeueReusableCellWithIdentifier<WZTButtonTableViewCell>(u"button"_s);
-        button->button()->setButtonColor(UIColor::redColor());
-        button->button()->addTarget(this, &WZTUserViewController::logout,
-                                    UIControlEvent::TouchUpInside);
-        button->button()->setTitle(u"Logout"_s);
-        cell = std::move(button);
-    }
+    auto cell = cellForSection(indexPath.section);
     cell->setSelectionStyle(UITableViewCellSelectionStyle::None);
+    return cell;
+}
+
+std::shared_ptr<UITableViewCell> WZTUserViewController::cellForSection(int section)
+{
+    if (section == 0) {
+        return tableView()->dequeueReusableCellWithIdentifier(u"header"_s);
+    }
+    if (section == 1) {
+        auto cell =
+            tableView()->dequeueReusableCellWithIdentifier<WZTAccountTableViewCell>(u"account"_s);
+        cell->editButton()->addTarget(this, &WZTUserViewController::editProfile,
+                                      UIControlEvent::TouchUpInside);
+        return cell;
+    }
+    auto cell = tableView()->dequeueReusableCellWithIdentifier<WZTButtonTableViewCell>(u"button"_s);
+    cell->button()->setButtonColor(UIColor::redColor());
+    cell->button()->addTarget(this, &WZTUserViewController::logout, UIControlEvent::TouchUpInside);
+    cell->button()->setTitle(u"Logout"_s);
     return cell;
 }
 
 void WZTUserViewController::refresh(UIControl *sender)
 {
-    const auto control = strong(static_cast<UIRefreshControl *>(sender));
     const auto email = currentEmail();
-    WZTAPI::userForAccount(email, [control, email](NSUInteger, const std::optional<WZTUser> &user) {
-        dispatchAsyncMain([control, email, user] {
-            if (user && isSignedIn(email)) {
-                WZTSession::shared()->setCurrentUser(*user);
-            }
-            control->endRefreshing();
-        });
-    });
+    const auto finish = [email](UIRefreshControl &control, NSUInteger /*code*/,
+                                const std::optional<WZTUser> &user) {
+        if (user && isSignedIn(email)) {
+            WZTSession::shared()->setCurrentUser(*user);
+        }
+        control.endRefreshing();
+    };
+    WZTAPI::userForAccount(email, onMainThread(static_cast<UIRefreshControl *>(sender), finish));
 }
 
 void WZTUserViewController::editProfile(UIControl *)
 {
     const std::optional<WZTUser> user = WZTSession::shared()->currentUser();
     const auto email = user ? user->email : std::nullopt;
-    const auto contentType = [](UITextContentType type) {
-        return UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(12)
-            ? type
-            : UITextContentType::Unspecified;
-    };
-    const AlertField fields[] = {
-        {user ? user->userName.value_or(QString()) : QString(),
-         {.keyboardType = UIKeyboardType::ASCIICapable,
-          .autocorrectionType = UITextAutocorrectionType::Yes,
-          .textContentType = UITextContentType::Name},
-         u"Name"_s},
-        {u"New Password"_s,
-         {.autocorrectionType = UITextAutocorrectionType::No,
-          .textContentType = contentType(UITextContentType::NewPassword),
-          .secureTextEntry = true}},
-        {u"Current Password"_s,
-         {.textContentType = contentType(UITextContentType::Password), .secureTextEntry = true}},
-    };
-
     tapHaptically();
-    const auto alert = make<UIAlertController>(u"Update Account"_s, QString());
-    addFields(*alert, fields);
-    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-    alert->addAction(
-        u"Update"_s, UIAlertAction::Style::Default,
-        [self = strong(this), alert = alert.get(), email] { self->requestUpdate(*alert, email); });
-    presentViewController(alert, true);
+    presentFieldsAlert(*this, u"Update Account"_s, updateFields(user), u"Update"_s,
+                       [self = strong(this), email](const UIAlertController &alert) {
+                           self->requestUpdate(alert, email);
+                       });
 }
 
 void WZTUserViewController::requestUpdate(const UIAlertController &alert,
                                           const std::optional<QString> &email)
 {
-    const auto name = entered(*alert.textFields()[0]);
-    const auto newPassword = entered(*alert.textFields()[1]);
-    const auto password = alert.textFields()[2]->text(); // an empty one is sent, and refused there
+    const auto &fields = alert.textFields();
+    const auto name = nonEmptyText(*fields[NameField]);
+    const auto newPassword = nonEmptyText(*fields[NewPasswordField]);
+    // The service refuses an empty password, not this screen.
+    const auto password = fields[CurrentPasswordField]->text();
     if (!password) {
         displayErrorMessage(u"Enter your password to confirm changes."_s);
-    } else if (!name && !newPassword) {
-        displayErrorMessage(u"Enter changes to update account."_s);
-    } else {
-        WZTAPI::updateAccount(
-            email, name, SHA256(*password), digest(newPassword),
-            [self = strong(this), email](NSUInteger code, const std::optional<WZTUser> &user) {
-                dispatchAsyncMain(
-                    [self, email, code, user] { self->updateEnded(code, user, email); });
-            });
+        return;
     }
+    if (!name && !newPassword) {
+        displayErrorMessage(u"Enter changes to update account."_s);
+        return;
+    }
+    const auto finish = [email](WZTUserViewController &self, NSUInteger code,
+                                const std::optional<WZTUser> &user) {
+        self.updateCompleted(code, user, email);
+    };
+    WZTAPI::updateAccount(email, name, SHA256(*password), digest(newPassword),
+                          onMainThread(this, finish));
 }
 
-void WZTUserViewController::updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
-                                        const std::optional<QString> &email)
+void WZTUserViewController::updateCompleted(NSUInteger code, const std::optional<WZTUser> &user,
+                                            const std::optional<QString> &email)
 {
     if (!isSignedIn(email)) {
         return;

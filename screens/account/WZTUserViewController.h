@@ -10,8 +10,8 @@
 class UIAlertController;
 class UIControl;
 
-/// Account, the second tab: the logo, the signed-in user's card and the way out. It keeps no copy
-/// of the user but asks the shared session each time.
+/// Account, the second tab: the logo, the signed-in user's card and the Logout button. It keeps no
+/// copy of the user but asks the shared session each time.
 class WZTUserViewController : public UITableViewController,
                               public MessageAlerts<WZTUserViewController> {
     Q_OBJECT
@@ -29,18 +29,20 @@ public:
     [[nodiscard]] std::shared_ptr<UITableViewCell>
     cellForRowAtIndexPath(const NSIndexPath &indexPath) override;
 
-    /// Fetches the profile anew, silently whatever comes of it; `sender` is the refresh control.
+    /// Fetches the profile again; reports neither success nor failure. `sender` is the refresh
+    /// control.
     void refresh(UIControl *sender);
     /// Asks for a new name, a new password or both, and for the current password.
     void editProfile(UIControl *sender);
     /// Signs out at once.
     void logout(UIControl *sender);
 
-    /// What came of an update of the account of that address: takes over the user and tells of it,
-    /// unless somebody else or nobody is signed in by now.
-    void updateEnded(NSUInteger code, const std::optional<WZTUser> &user,
-                     const std::optional<QString> &email);
+    /// Stores the user of an update and shows the message for its code, if the user with `email`
+    /// is still signed in.
+    void updateCompleted(NSUInteger code, const std::optional<WZTUser> &user,
+                         const std::optional<QString> &email);
 
 private:
+    [[nodiscard]] std::shared_ptr<UITableViewCell> cellForSection(int section);
     void requestUpdate(const UIAlertController &alert, const std::optional<QString> &email);
 };

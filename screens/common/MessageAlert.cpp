@@ -9,12 +9,17 @@
 
 using namespace Qt::StringLiterals;
 
+void presentAlert(UIViewController &screen, const QString &title, const QString &message,
+                  UIAlertAction::Handler dismissed)
+{
+    auto alert = make<UIAlertController>(title, message);
+    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel, std::move(dismissed));
+    screen.presentViewController(std::move(alert), true);
+}
+
 void presentMessage(UIViewController &screen, MessageKind kind, const QString &text)
 {
-    const QString title = kind == MessageKind::Error ? u"Error"_s : u"Great!"_s;
-    const auto alert = make<UIAlertController>(title, text);
-    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-    screen.presentViewController(alert, true);
+    presentAlert(screen, kind == MessageKind::Error ? u"Error"_s : u"Great!"_s, text);
 }
 
 void presentMessage(UIViewController &screen, std::span<const Message> messages, NSUInteger code)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/foundation/base/NSUInteger.h"
+#include "platform/uikit/alerts/UIAlertAction.h"
 
 #include <QString>
 #include <QStringView>
@@ -11,24 +12,28 @@
 
 class UIViewController;
 
-/// The title of an alert that reports an outcome.
+/// Presents, from `screen`, an alert with the one action "Dismiss". `dismissed` runs when that
+/// action has taken the alert away.
+void presentAlert(UIViewController &screen, const QString &title, const QString &message,
+                  UIAlertAction::Handler dismissed = {});
+
+/// The title of an alert that reports an outcome: "Error" or "Great!".
 enum class MessageKind { Error, Success };
 
-/// What a screen tells its user for one status code of the operation that it called.
+/// A screen's message for one status code of an operation.
 struct Message {
     NSUInteger code;
     MessageKind kind;
     QStringView text;
 };
 
-/// Presents, from `screen`, the alert that reports an outcome: titled "Error" or "Great!", with the
-/// one action "Dismiss".
+/// Presents `text`, from `screen`, in an alert titled by `kind`.
 void presentMessage(UIViewController &screen, MessageKind kind, const QString &text);
-/// The same with the row of `messages` for `code`; nothing for a code that nothing is told about.
+/// Presents the row of `messages` for `code`; nothing if there is none.
 void presentMessage(UIViewController &screen, std::span<const Message> messages, NSUInteger code);
 
-/// What every screen can tell its user; `Screen` is the screen's own class.
-template <class Screen>
+/// The two message alerts of every screen; `Screen` is the screen's own class.
+template <typename Screen>
 class MessageAlerts {
 public:
     /// An alert titled "Error".

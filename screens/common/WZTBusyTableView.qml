@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 import Screens
 
-/// A table, and over its middle a spinner.
+/// A table with a spinner over its middle.
 UITableViewView {
     id: root
 

@@ -5,8 +5,7 @@
 #include "platform/uikit/controls/UIActivityIndicatorView.h"
 #include "platform/uikit/tables/UITableViewController.h"
 
-/// A grouped table with the screens' background and, over its middle, a spinner that is hidden
-/// while it is stopped.
+/// A grouped table on the screens' background. A spinner in the middle is hidden while stopped.
 class WZTBusyTableViewController : public UITableViewController {
     Q_OBJECT
     QML_ELEMENT

@@ -26,7 +26,7 @@ struct Row {
     void (Screen::*action)();
 };
 
-// What the thanks look like is their own cell's matter.
+// The thanks cell has its own picture and text.
 constexpr NSIndexPath thanks{2, 0};
 constexpr Row rows[] = {
     {{0, 0}, u"bugreport", u"Bug Reporter", &Screen::showIssueProjectList},
@@ -48,10 +48,10 @@ void openLink(const char *url)
     UIApplication::sharedApplication()->openURL(QLatin1StringView(url));
 }
 
-void addRepository(const char *inZebra, const char *inCydia)
+void addRepository(const char *zebraURL, const char *cydiaURL)
 {
     const bool hasZebra = UIApplication::sharedApplication()->canOpenURL(u"zbra://"_s);
-    openLink(hasZebra ? inZebra : inCydia);
+    openLink(hasZebra ? zebraURL : cydiaURL);
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 #include "screens/common/MessageAlert.h"
 #include "screens/common/WZTBusyTableViewController.h"
 
-/// Home, the first tab: a fixed menu of the bug reporter, of links into other applications, and a
-/// word of thanks.
+/// Home, the first tab: a fixed menu with the bug reporter, links to other applications and a card
+/// of thanks.
 class WZTRootViewController : public WZTBusyTableViewController,
                               public MessageAlerts<WZTRootViewController> {
     Q_OBJECT
@@ -23,15 +23,15 @@ public:
     [[nodiscard]] double heightForFooterInSection(int section) const override;
     [[nodiscard]] std::shared_ptr<UITableViewCell>
     cellForRowAtIndexPath(const NSIndexPath &indexPath) override;
-    /// Deselects the row and does what it stands for.
+    /// Deselects the row and runs its action.
     void didSelectRowAtIndexPath(const NSIndexPath &indexPath) override;
 
-    // What the rows do. A link goes to whoever handles it; nothing is told when nobody does.
-    /// Hands the public repository to Zebra where that is installed, and to Cydia otherwise.
+    // The rows' actions. A link without an application for it does nothing.
+    /// Hands the public repository to Zebra if that is installed, and to Cydia otherwise.
     void addPublicRepo();
-    /// The same with the repository for supporters.
+    /// Does the same with the supporter repository.
     void addSubscriberRepo();
     void joinDiscord();
-    /// Pushes a new list of the projects that issues can be reported against.
+    /// Pushes a new list of projects.
     void showIssueProjectList();
 };

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "screens/issues/WZTIssueReporterViewController.h"
 
-#include "platform/foundation/base/Dispatch.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/bars/UINavigationItem.h"
+#include "screens/common/MainThread.h"
+#include "screens/common/MessageAlert.h"
 #include "service/WZTAPI.h"
 
 using namespace Qt::StringLiterals;
@@ -63,41 +63,32 @@ void WZTIssueReporterViewController::cancel(UIBarButtonItem *)
 void WZTIssueReporterViewController::submitPressed(UIBarButtonItem *)
 {
     if (!formValidationErrors().isEmpty()) {
-        present(u"Validation Error"_s, u"Ensure at least a title is entered"_s, {});
+        presentAlert(*this, u"Validation Error"_s, u"Ensure at least a title is entered"_s);
         return;
     }
     tableView()->endEditing(true);
     const auto title = formValues().at(u"title"_s);
     const auto notes = formValues().at(u"notes"_s);
     WZTAPI::submitIssueForPackage(
-        m_package->bundleIdentifier, title, notes, [self = strong(this)](NSUInteger code) {
-            dispatchAsyncMain([self, code] { self->submissionEnded(code); });
-        });
+        m_package->bundleIdentifier, title, notes,
+        onMainThread(this, &WZTIssueReporterViewController::submissionCompleted));
 }
 
-void WZTIssueReporterViewController::submissionEnded(NSUInteger code)
+void WZTIssueReporterViewController::submissionCompleted(NSUInteger code)
 {
     if (code == submissionAccepted) {
-        present(u"Submission Success"_s, u"Thank you for submitted an issue report"_s,
-                [self = strong(this)] { self->close(); });
+        presentAlert(*this, u"Submission Success"_s, u"Thank you for submitted an issue report"_s,
+                     [self = strong(this)] { self->close(); });
     } else {
-        present(u"Submission Error"_s,
-                u"There was a problem submitting your issue. If this persists, let WZT know."_s,
-                {});
+        presentAlert(
+            *this, u"Submission Error"_s,
+            u"There was a problem submitting your issue. If this persists, let WZT know."_s);
     }
-}
-
-void WZTIssueReporterViewController::present(const QString &title, const QString &message,
-                                             UIAlertAction::Handler dismissed)
-{
-    auto alert = make<UIAlertController>(title, message);
-    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel, std::move(dismissed));
-    presentViewController(std::move(alert), true);
 }
 
 void WZTIssueReporterViewController::close()
 {
-    // Asked of the presenter, so that another submission's alert goes as well.
+    // The presenter also dismisses the alert of another submission.
     if (UIViewController *presenter = presentingViewController()) {
         presenter->dismissViewControllerAnimated(true);
     }

@@ -4,14 +4,13 @@
 
 #include "model/WZTPackage.h"
 #include "platform/foundation/base/NSUInteger.h"
-#include "platform/uikit/alerts/UIAlertAction.h"
 #include "platform/xlform/XLFormViewController.h"
 
 class UIBarButtonItem;
 
-/// The form on which an issue is filed against a project: a title, notes, Submit and Cancel. Each
-/// tap on Submit is a submission of its own, and each outcome an alert of its own; nothing waits
-/// for the reply meanwhile. The form closes after an accepted submission and by Cancel.
+/// The form for a new issue of a project: a title, notes, Submit and Cancel. Each tap on Submit
+/// starts a separate submission, and each outcome is an alert; the form stays usable meanwhile.
+/// Cancel closes the form, and so does the alert of an accepted submission.
 class WZTIssueReporterViewController : public XLFormViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -20,22 +19,21 @@ class WZTIssueReporterViewController : public XLFormViewController {
 public:
     explicit WZTIssueReporterViewController(std::shared_ptr<WZTPackage> package);
 
-    /// The project that the issue is filed against.
+    /// The project of the issue.
     [[nodiscard]] std::shared_ptr<WZTPackage> package() const { return m_package; }
     void setPackage(std::shared_ptr<WZTPackage> package) { m_package = std::move(package); }
 
     void viewDidLoad() override;
 
-    /// Closes the form; what was typed goes with it.
+    /// Closes the form and discards its texts.
     void cancel(UIBarButtonItem *sender);
-    /// Files what is typed, or says that there is no title.
+    /// Submits the issue, or shows a message if the title is empty.
     void submitPressed(UIBarButtonItem *sender);
 
-    /// What becomes of a submission: 0 for accepted, anything else for not.
-    void submissionEnded(NSUInteger code);
+    /// Reports a submission's outcome; 0 is success.
+    void submissionCompleted(NSUInteger code);
 
 private:
-    void present(const QString &title, const QString &message, UIAlertAction::Handler dismissed);
     void close();
 
     std::shared_ptr<WZTPackage> m_package;

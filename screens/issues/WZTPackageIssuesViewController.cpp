@@ -3,25 +3,14 @@
 #include "screens/issues/WZTPackageIssuesViewController.h"
 
 #include "model/WZTPackage.h"
-#include "platform/foundation/base/Dispatch.h"
 #include "platform/foundation/base/NSLog.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/presentation/UINavigationController.h"
+#include "screens/common/MainThread.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
 #include "service/WZTAPI.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void stopIndicator(const std::weak_ptr<WZTPackageIssuesViewController> &weakScreen)
-{
-    if (const auto screen = weakScreen.lock()) {
-        screen->activityIndicator()->stopAnimating();
-    }
-}
-
-} // namespace
 
 WZTPackageIssuesViewController::WZTPackageIssuesViewController(std::shared_ptr<WZTPackage> package)
     : m_package(std::move(package))
@@ -43,16 +32,12 @@ void WZTPackageIssuesViewController::viewDidAppear(bool animated)
     activityIndicator()->startAnimating();
     WZTAPI::issuesForPackageIdentifier(
         m_package->bundleIdentifier,
-        [self = strong(this), weakSelf = weak(this)](NSUInteger, const Issues &issues) {
-            dispatchAsyncMain([self, weakSelf, issues] {
-                stopIndicator(weakSelf);
-                self->setPackageIssues(issues);
-            });
-        });
+        onMainThread(this, &WZTPackageIssuesViewController::fetchCompleted));
 }
 
-void WZTPackageIssuesViewController::setPackageIssues(const Issues &issues)
+void WZTPackageIssuesViewController::fetchCompleted(NSUInteger /*code*/, const Issues &issues)
 {
+    activityIndicator()->stopAnimating();
     m_packageIssues = issues;
     tableView()->reloadData();
 }

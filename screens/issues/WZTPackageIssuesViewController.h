@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/WZTPackageIssue.h"
+#include "platform/foundation/base/NSUInteger.h"
 #include "screens/common/WZTBusyTableViewController.h"
 
 #include <QList>
@@ -10,8 +11,8 @@
 class UIBarButtonItem;
 class WZTPackage;
 
-/// A project's issues, fetched whenever the screen comes into sight: what was listed before stays
-/// until the reply replaces it, whatever the reply is. Failures are not told.
+/// A project's issues, fetched at each appearance of the screen. Every reply replaces the list; a
+/// failure empties it, without a message.
 class WZTPackageIssuesViewController : public WZTBusyTableViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +25,8 @@ public:
     ~WZTPackageIssuesViewController() override;
 
     [[nodiscard]] const std::shared_ptr<WZTPackage> &package() const { return m_package; }
-    /// Those of the last reply, in its order; nil before the first and when it had none.
+    /// The issues of the last reply, in its order. Nil before the first reply and after one without
+    /// issues.
     [[nodiscard]] const Issues &packageIssues() const { return m_packageIssues; }
 
     void viewDidAppear(bool animated) override;
@@ -35,11 +37,11 @@ public:
 
     /// Presents the form for a new issue.
     void addNewIssue(UIBarButtonItem *sender);
-    /// Takes the screen away.
+    /// Dismisses the screen.
     void cancel(UIBarButtonItem *sender);
 
 private:
-    void setPackageIssues(const Issues &issues);
+    void fetchCompleted(NSUInteger code, const Issues &issues);
 
     std::shared_ptr<WZTPackage> m_package;
     Issues m_packageIssues;

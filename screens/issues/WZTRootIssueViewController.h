@@ -5,7 +5,7 @@
 #include "model/WZTPackage.h"
 #include "platform/uikit/tables/UITableViewController.h"
 
-/// The projects that issues can be reported against; each opens its issues.
+/// The list of the projects. Each row opens the issues of its project.
 class WZTRootIssueViewController : public UITableViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -14,7 +14,7 @@ class WZTRootIssueViewController : public UITableViewController {
 public:
     WZTRootIssueViewController();
 
-    /// As the catalogue was when the screen was made.
+    /// The catalogue at the time when the screen was made.
     [[nodiscard]] const std::vector<std::shared_ptr<WZTPackage>> &packages() const
     {
         return m_packages;

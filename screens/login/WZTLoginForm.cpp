@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 
-// The sign-in screen's views: what they show and send. Where they stand is WZTLoginView.qml's.
+// The contents and actions of the sign-in screen's views. WZTLoginView.qml has their layout.
 
-#include "platform/uikit/base/UIApplication.h"
 #include "platform/uikit/base/UITapGestureRecognizer.h"
+#include "screens/common/ContentType.h"
 #include "screens/login/WZTLoginViewController.h"
 #include "views/AdaptiveColors.h"
+#include "views/CardStyle.h"
 #include "views/UIColorEx.h"
 
 using namespace Qt::StringLiterals;
@@ -15,11 +16,6 @@ namespace {
 
 constexpr double fieldInset = 14;
 constexpr double cornerRadius = 12;
-
-bool systemIsAtLeast(double version)
-{
-    return UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(version);
-}
 
 } // namespace
 
@@ -51,11 +47,7 @@ void WZTLoginViewController::viewDidLeave()
 
 void WZTLoginViewController::buildForm()
 {
-    m_formContainer.setBackgroundColor(AdaptiveColors::cardBackground());
-    m_formContainer.setLayer({.cornerRadius = cornerRadius,
-                              .masksToBounds = true,
-                              .cornerCurve = systemIsAtLeast(13) ? CALayer::CornerCurve::Continuous
-                                                                 : CALayer::CornerCurve::Circular});
+    styleCard(m_formContainer, cornerRadius);
     m_headerLabel.setText(u"Account Login"_s);
     m_headerLabel.setFont(UIFont::preferredFontForTextStyle(UIFontTextStyle::Title2));
     m_headerLabel.setTextColor(AdaptiveColors::text());
@@ -70,8 +62,7 @@ void WZTLoginViewController::buildForm()
     setUpField(m_passwordTextField, u"Password"_s,
                {.keyboardType = UIKeyboardType::ASCIICapable,
                 .autocapitalizationType = UITextAutocapitalizationType::None,
-                .textContentType = systemIsAtLeast(11) ? UITextContentType::Password
-                                                       : UITextContentType::Unspecified,
+                .textContentType = contentTypeSince(11, UITextContentType::Password),
                 .secureTextEntry = true});
     m_passwordTextField.addTarget(this, &WZTLoginViewController::login,
                                   UIControlEvent::EditingDidEndOnExit);

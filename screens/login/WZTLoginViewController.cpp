@@ -3,20 +3,21 @@
 #include "screens/login/WZTLoginViewController.h"
 
 #include "model/WZTSession.h"
-#include "platform/foundation/base/Dispatch.h"
 #include "platform/uikit/alerts/UIAlertController.h"
-#include "platform/uikit/base/Make.h"
-#include "platform/uikit/base/UIApplication.h"
-#include "platform/uikit/base/UIImpactFeedbackGenerator.h"
-#include "screens/common/AlertFields.h"
+#include "screens/common/ContentType.h"
+#include "screens/common/FieldsAlert.h"
+#include "screens/common/MainThread.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
+#include "views/HapticTap.h"
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// What is told for each code; the code of success has no message but dismisses the screen.
+// The messages for each operation's codes. The success codes have none: they dismiss the screen.
 constexpr NSUInteger loginSucceeded = 1;
 constexpr Message loginMessages[] = {
     {0, MessageKind::Error, u"Account details did not match any account"},
@@ -39,16 +40,28 @@ constexpr Message registrationMessages[] = {
     {4, MessageKind::Error, u"An unknown error occured."},
 };
 
-void tapHaptically()
+AlertField emailField()
 {
-    UIImpactFeedbackGenerator(UIImpactFeedbackStyle::Light).impactOccurred();
+    return {u"Email"_s,
+            {.keyboardType = UIKeyboardType::EmailAddress,
+             .autocorrectionType = UITextAutocorrectionType::No,
+             .textContentType = UITextContentType::EmailAddress}};
 }
 
-void stopSpinner(const std::weak_ptr<WZTLoginViewController> &weakScreen)
+enum RegistrationField : size_t { NameField, EmailField, PasswordField };
+
+std::array<AlertField, 3> registrationFields()
 {
-    if (const auto screen = weakScreen.lock()) {
-        screen->activityIndicator()->stopAnimating();
-    }
+    return {{
+        {u"Name"_s,
+         {.keyboardType = UIKeyboardType::ASCIICapable,
+          .autocorrectionType = UITextAutocorrectionType::Yes,
+          .textContentType = UITextContentType::Name}},
+        emailField(),
+        {u"Password"_s,
+         {.textContentType = contentTypeSince(12, UITextContentType::NewPassword),
+          .secureTextEntry = true}},
+    }};
 }
 
 QString trimmedText(const UITextField &field)
@@ -78,19 +91,14 @@ void WZTLoginViewController::login(UIControl *)
     }
     m_activityIndicator.startAnimating();
     WZTAPI::loginToAccount(email, SHA256(password),
-                           [self = strong(this), weakSelf = weak(this)](
-                               NSUInteger code, const std::optional<WZTUser> &user) {
-                               dispatchAsyncMain([self, weakSelf, code, user] {
-                                   stopSpinner(weakSelf);
-                                   self->loginEnded(code, user);
-                               });
-                           });
+                           onMainThread(this, &WZTLoginViewController::loginCompleted));
 }
 
-void WZTLoginViewController::loginEnded(NSUInteger code, const std::optional<WZTUser> &user)
+void WZTLoginViewController::loginCompleted(NSUInteger code, const std::optional<WZTUser> &user)
 {
+    m_activityIndicator.stopAnimating();
     if (code == loginSucceeded) {
-        enter(user);
+        finishSignIn(user);
     } else {
         presentMessage(*this, loginMessages, code);
     }
@@ -99,93 +107,56 @@ void WZTLoginViewController::loginEnded(NSUInteger code, const std::optional<WZT
 void WZTLoginViewController::forgot(UIControl *)
 {
     tapHaptically();
-    const auto alert = make<UIAlertController>(u"Reset Password"_s, QString());
-    const AlertField fields[] = {
-        {u"Email"_s,
-         {.keyboardType = UIKeyboardType::EmailAddress,
-          .autocorrectionType = UITextAutocorrectionType::No,
-          .textContentType = UITextContentType::EmailAddress}},
-    };
-    addFields(*alert, fields);
-    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-    alert->addAction(u"Reset"_s, UIAlertAction::Style::Default,
-                     [self = strong(this), alert = alert.get()] { self->requestReset(*alert); });
-    presentViewController(alert, true);
+    const AlertField fields[] = {emailField()};
+    presentFieldsAlert(
+        *this, u"Reset Password"_s, fields, u"Reset"_s,
+        [self = strong(this)](const UIAlertController &alert) { self->requestReset(alert); });
 }
 
 void WZTLoginViewController::requestReset(const UIAlertController &alert)
 {
-    const std::optional<QString> email = alert.textFields()[0]->text();
     m_activityIndicator.startAnimating();
-    WZTAPI::resetAccountPassword(email,
-                                 [self = strong(this), weakSelf = weak(this)](NSUInteger code) {
-                                     dispatchAsyncMain([self, weakSelf, code] {
-                                         stopSpinner(weakSelf);
-                                         self->resetEnded(code);
-                                     });
-                                 });
+    WZTAPI::resetAccountPassword(alert.textFields()[0]->text(),
+                                 onMainThread(this, &WZTLoginViewController::resetCompleted));
 }
 
-void WZTLoginViewController::resetEnded(NSUInteger code)
+void WZTLoginViewController::resetCompleted(NSUInteger code)
 {
+    m_activityIndicator.stopAnimating();
     presentMessage(*this, resetMessages, code);
 }
 
 void WZTLoginViewController::registerAccount(UIControl *)
 {
-    using Correction = UITextAutocorrectionType;
-    const bool hasNewPasswordContent =
-        UIApplication::sharedApplication()->traits().systemVersionIsAtLeast(12);
-    const AlertField fields[] = {
-        {u"Name"_s,
-         {.keyboardType = UIKeyboardType::ASCIICapable,
-          .autocorrectionType = Correction::Yes,
-          .textContentType = UITextContentType::Name}},
-        {u"Email"_s,
-         {.keyboardType = UIKeyboardType::EmailAddress,
-          .autocorrectionType = Correction::No,
-          .textContentType = UITextContentType::EmailAddress}},
-        {u"Password"_s,
-         {.textContentType = hasNewPasswordContent ? UITextContentType::NewPassword
-                                                   : UITextContentType::Unspecified,
-          .secureTextEntry = true}},
-    };
-
     tapHaptically();
-    const auto alert = make<UIAlertController>(u"New Account"_s, QString());
-    addFields(*alert, fields);
-    alert->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel);
-    alert->addAction(u"Register"_s, UIAlertAction::Style::Default,
-                     [self = strong(this), alert = alert.get()] { self->requestAccount(*alert); });
-    presentViewController(alert, true);
+    presentFieldsAlert(
+        *this, u"New Account"_s, registrationFields(), u"Register"_s,
+        [self = strong(this)](const UIAlertController &alert) { self->requestAccount(alert); });
 }
 
 void WZTLoginViewController::requestAccount(const UIAlertController &alert)
 {
     const auto &fields = alert.textFields();
+    const QString password = fields[PasswordField]->text().value_or(QString());
     m_activityIndicator.startAnimating();
-    WZTAPI::registerEmail(
-        fields[1]->text(), fields[0]->text(), SHA256(fields[2]->text().value_or(QString())),
-        [self = strong(this)](NSUInteger code, const std::optional<WZTUser> &user) {
-            dispatchAsyncMain([self, code, user] {
-                self->m_activityIndicator.stopAnimating();
-                self->registrationEnded(code, user);
-            });
-        });
+    WZTAPI::registerEmail(fields[EmailField]->text(), fields[NameField]->text(), SHA256(password),
+                          onMainThread(this, &WZTLoginViewController::registrationCompleted));
 }
 
-void WZTLoginViewController::registrationEnded(NSUInteger code, const std::optional<WZTUser> &user)
+void WZTLoginViewController::registrationCompleted(NSUInteger code,
+                                                   const std::optional<WZTUser> &user)
 {
+    m_activityIndicator.stopAnimating();
     if (code == registrationSucceeded) {
-        enter(user);
+        finishSignIn(user);
     } else {
         presentMessage(*this, registrationMessages, code);
     }
 }
 
-void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
+void WZTLoginViewController::finishSignIn(const std::optional<WZTUser> &user)
 {
-    // A reply to a screen that is gone comes too late: another one has signed somebody in.
+    // A dismissed screen changes nothing: another reply has already signed somebody in.
     UIViewController *presenter = presentingViewController();
     if (!presenter) {
         return;
@@ -193,6 +164,6 @@ void WZTLoginViewController::enter(const std::optional<WZTUser> &user)
     if (user) {
         WZTSession::shared()->setCurrentUser(*user);
     }
-    // Asked of the presenter, so that an alert opened meanwhile goes as well.
+    // The presenter also dismisses an alert that the user has opened meanwhile.
     presenter->dismissViewControllerAnimated(true);
 }

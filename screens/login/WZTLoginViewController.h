@@ -14,9 +14,9 @@
 class WZTUser;
 class UIAlertController;
 
-/// The sign-in screen, presented over the tabs while nobody is signed in. The only ways out are a
-/// sign-in and a registration; both hand the user to the session and dismiss the screen. A reset
-/// message and a new account are asked for in alerts.
+/// The sign-in screen, presented over the tabs while nobody is signed in. Only a sign-in and a
+/// registration lead out of it: they hand the user to the session and dismiss the screen. Alerts
+/// with fields ask for the address of a password reset and for the details of a new account.
 class WZTLoginViewController : public UIViewController,
                                public MessageAlerts<WZTLoginViewController> {
     Q_OBJECT
@@ -45,28 +45,28 @@ public:
     /// The card that holds the header and both fields.
     [[nodiscard]] UIView *formContainer() { return &m_formContainer; }
 
-    /// Always: nobody gets past this screen by a gesture.
+    /// True: no gesture dismisses this screen.
     [[nodiscard]] bool isModalInPresentation() const override { return true; }
     void viewDidLoad() override;
-    /// Puts the keyboard into the e-mail field, at every appearance.
+    /// Makes the e-mail field the first responder, at every appearance.
     void viewWillAppear(bool animated) override;
-    /// Forgets the password.
+    /// Overwrites the typed password.
     void viewDidLeave() override;
 
-    /// A tap anywhere: takes the keyboard from the e-mail field, or else from the password field.
+    /// Ends editing in the e-mail field, or else in the password field, after a tap anywhere.
     void handleSingleTap(UITapGestureRecognizer *sender);
-    /// Signs in with both fields' texts, trimmed; a message if one is empty.
+    /// Signs in with the trimmed texts of both fields; shows a message if one is empty.
     void login(UIControl *sender);
-    /// Asks for an address and has a reset message sent to it, as typed.
+    /// Asks for an address and requests a reset message to it, as typed.
     void forgot(UIControl *sender);
-    /// Asks for name, e-mail and password and makes an account of them, as typed.
+    /// Asks for name, e-mail and password and requests an account with them, as typed.
     void registerAccount(UIControl *sender);
 
-    // What becomes of an operation, by its own codes: a message, the way out with or without
-    // a user, or nothing, for a code that is none of them and once the screen is dismissed.
-    void loginEnded(NSUInteger code, const std::optional<WZTUser> &user);
-    void resetEnded(NSUInteger code);
-    void registrationEnded(NSUInteger code, const std::optional<WZTUser> &user);
+    // These stop the spinner and act on the operation's own codes: a message, the dismissal with or
+    // without a user, or nothing for an unlisted code. A dismissed screen shows nothing.
+    void loginCompleted(NSUInteger code, const std::optional<WZTUser> &user);
+    void resetCompleted(NSUInteger code);
+    void registrationCompleted(NSUInteger code, const std::optional<WZTUser> &user);
 
 private:
     void buildForm();
@@ -79,7 +79,7 @@ private:
 
     void requestReset(const UIAlertController &alert);
     void requestAccount(const UIAlertController &alert);
-    void enter(const std::optional<WZTUser> &user);
+    void finishSignIn(const std::optional<WZTUser> &user);
 
     UIActivityIndicatorView m_activityIndicator;
     UIButton m_forgotPasswordButton;

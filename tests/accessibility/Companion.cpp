@@ -3,12 +3,12 @@
 
 // The program as it is, over the service that its arguments name.
 
-#include "app/Launch.h"
+#include "app/Program.h"
 
 int main(int argc, char *argv[])
 {
     NSURLSessionConfiguration service;
     service.certificateAuthorityFile = QString::fromLocal8Bit(argv[1]);
     service.connectTo = QString::fromLocal8Bit(argv[2]);
-    return Launch(argc, argv, service).run({});
+    return Program(argc, argv, service).run({});
 }

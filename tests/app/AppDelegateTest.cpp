@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/LifeCycle.h"
 #include "app/WZTTabBarController.h"
 #include "platform/foundation/base/Dispatch.h"
 #include "platform/foundation/coding/NSKeyedArchiver.h"
@@ -271,33 +270,6 @@ private Q_SLOTS:
         QCOMPARE(codes, QList<NSUInteger>{2});
         QVERIFY(!login && !UIApplication::sharedApplication());
         QVERIFY(!WZTSession::shared() && !NSURLSession::sharedSession());
-    }
-
-    void theLifeCycleIsTold()
-    {
-        struct Recorder : UIApplicationDelegate {
-            QString told;
-            bool didFinishLaunchingWithOptions() override { return true; }
-            bool openURL(const QString &) override { return true; }
-            void applicationWillResignActive() override { told += u'r'; }
-            void applicationDidEnterBackground() override { told += u'b'; }
-            void applicationWillEnterForeground() override { told += u'f'; }
-            void applicationDidBecomeActive() override { told += u'a'; }
-            void applicationWillTerminate() override { told += u't'; }
-        };
-        const std::pair<Qt::ApplicationState, QString> steps[] = {
-            {Qt::ApplicationInactive, {}},      {Qt::ApplicationActive, u"a"_s},
-            {Qt::ApplicationActive, {}},        {Qt::ApplicationInactive, u"r"_s},
-            {Qt::ApplicationActive, u"a"_s},    {Qt::ApplicationHidden, u"rb"_s},
-            {Qt::ApplicationSuspended, {}},     {Qt::ApplicationInactive, u"f"_s},
-            {Qt::ApplicationSuspended, u"b"_s}, {Qt::ApplicationActive, u"fa"_s},
-        };
-        Recorder recorder;
-        LifeCycle lifeCycle(recorder);
-        for (const auto &[state, told] : steps) {
-            lifeCycle.enter(state);
-            QCOMPARE(std::exchange(recorder.told, {}), told);
-        }
     }
 };
 

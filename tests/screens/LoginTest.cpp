@@ -193,7 +193,7 @@ private Q_SLOTS:
         app.service().stage(flow->path, reply.after(std::chrono::milliseconds(50)));
         flow->start(app, typed);
         const QPointer<WZTLoginViewController> screen = &login(app);
-        screen->loginEnded(1, kim); // the reply to another tap, which is quicker
+        screen->loginCompleted(1, kim); // the reply to another tap, which is quicker
         if (signsOut) {
             app.delegate().logout();
         }

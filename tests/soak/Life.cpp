@@ -3,7 +3,7 @@
 #include "tests/soak/Life.h"
 
 #include "app/AppDelegate.h"
-#include "app/Launch.h"
+#include "app/Program.h"
 #include "app/WZTTabBarController.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/UIApplication.h"
@@ -153,7 +153,7 @@ private:
         auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
         ::ualarm(m_dice.once(3) ? m_alarm : 0, 0);
         if (login) {
-            login->loginEnded(1, user);
+            login->loginCompleted(1, user);
         } else if (m_session.currentUser() && m_dice.once(4)) {
             m_session.logout();
         } else if (m_session.currentUser()) {
@@ -303,8 +303,8 @@ int Life::live(int &argc, char *argv[])
     configuration.timeoutIntervalForRequest = std::chrono::seconds(2);
     const auto alarm = QByteArray(argv[4]).toUInt();
     argc = 1;
-    Launch launch(argc, argv, configuration);
+    Program program(argc, argv, configuration);
     std::unique_ptr<Person> person;
     QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm); });
-    return launch.run({});
+    return program.run({});
 }

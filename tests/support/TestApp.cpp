@@ -28,8 +28,8 @@ TestApp::~TestApp()
 void TestApp::launch()
 {
     quit();
-    m_runtime = std::make_unique<Runtime>(m_host, m_settings);
-    m_runtime->delegate().didFinishLaunchingWithOptions();
+    m_shared = std::make_unique<SharedObjects>(m_host, m_settings);
+    m_shared->delegate().didFinishLaunchingWithOptions();
 }
 
 void TestApp::launchSignedIn(const QString &name, const QString &email)
@@ -41,7 +41,7 @@ void TestApp::launchSignedIn(const QString &name, const QString &email)
 
 void TestApp::quit()
 {
-    m_runtime.reset();
+    m_shared.reset();
 }
 
 QString TestApp::alert()

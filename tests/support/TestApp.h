@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Runtime.h"
+#include "app/SharedObjects.h"
 #include "platform/uikit/presentation/UIWindow.h"
 #include "sandbox/Sandbox.h"
 #include "tests/support/RecordingHost.h"
@@ -45,8 +45,8 @@ public:
     [[nodiscard]] RecordingHost &host() { return m_host; }
     [[nodiscard]] QString folder() const { return m_folder.path(); }
 
-    [[nodiscard]] UIApplication &application() { return m_runtime->application(); }
-    [[nodiscard]] AppDelegate &delegate() { return m_runtime->delegate(); }
+    [[nodiscard]] UIApplication &application() { return m_shared->application(); }
+    [[nodiscard]] AppDelegate &delegate() { return m_shared->delegate(); }
     /// The topmost controller of the window, alerts included; null when it is no `Controller`.
     template <class Controller = UIViewController>
     [[nodiscard]] Controller *top()
@@ -63,6 +63,6 @@ private:
     QTemporaryDir m_folder;
     RecordingHost m_host;
     sandbox::Sandbox m_service{{.hashMemory = 8192, .hashPasses = 1}};
-    Runtime::Settings m_settings;
-    std::unique_ptr<Runtime> m_runtime;
+    SharedObjects::Settings m_settings;
+    std::unique_ptr<SharedObjects> m_shared;
 };

@@ -1,20 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/Runtime.h"
+#include "app/SharedObjects.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 
 namespace {
 
-void destroyWhatWasLetGo()
+void drainDeferredDeletes()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
 
-Runtime::Runtime(UIHost &host, const Settings &settings)
+SharedObjects::SharedObjects(UIHost &host, const Settings &settings)
     : m_application(host),
       m_session(std::make_unique<NSURLSession>(settings.urlSession)),
       m_delegate(std::make_unique<AppDelegate>(settings.applicationId, settings.defaultsFolder))
@@ -29,18 +29,18 @@ Runtime::Runtime(UIHost &host, const Settings &settings)
         });
 }
 
-Runtime::~Runtime()
+SharedObjects::~SharedObjects()
 {
     finish();
     m_application.setDelegate(nullptr);
     m_delegate.reset();
-    // The screens that the delegate kept are to be gone before the application is.
-    destroyWhatWasLetGo();
+    // The delegate's screens must be destroyed before the application.
+    drainDeferredDeletes();
 }
 
-void Runtime::finish()
+void SharedObjects::finish()
 {
     m_session.reset();
     QCoreApplication::sendPostedEvents();
-    destroyWhatWasLetGo();
+    drainDeferredDeletes();
 }

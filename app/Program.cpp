@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/Launch.h"
+#include "app/Program.h"
 
-#include "app/LifeCycle.h"
 #include "app/Renderer.h"
 #include "app/TerminationSignals.h"
 #include "model/BuildConstants.h"
@@ -28,20 +27,23 @@ QString applicationId()
     return QString::fromLatin1(BuildConstants::applicationId);
 }
 
-int &prepared(int &argc)
+/// Prepares the process for the application object. Returns the time that the start may still wait
+/// for the desktop.
+std::chrono::milliseconds prepareProcess()
 {
-    // A file that may not grow any further is a write that fails, not the end of the program. A
-    // handler, for programs started from here would inherit that the signal is ignored.
+    const std::chrono::milliseconds remainingTime = LinuxHost::prepare();
+    // A write beyond the limit for files fails then, instead of ending the program. An empty
+    // handler does that: programs started from here would inherit an ignored signal.
     std::signal(SIGXFSZ, [](int) {});
     Renderer::choose();
-    return argc;
+    return remainingTime;
 }
 
 } // namespace
 
-Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
-    : m_remainingTime(LinuxHost::prepare()),
-      m_application(prepared(argc), argv),
+Program::Program(int &argc, char *argv[], const NSURLSessionConfiguration &urlSession)
+    : m_remainingTime(prepareProcess()),
+      m_application(argc, argv),
       m_host(applicationId(), m_remainingTime),
       m_settings{.applicationId = applicationId(), .defaultsFolder = {}, .urlSession = urlSession}
 {
@@ -52,9 +54,9 @@ Launch::Launch(int &argc, char *argv[], const NSURLSessionConfiguration &urlSess
     QGuiApplication::setFont(QFont(u"Inter"_s));
 }
 
-Launch::~Launch() = default;
+Program::~Program() = default;
 
-int Launch::run(const QStringList &urls)
+int Program::run(const QStringList &urls)
 {
     const auto opened = [this](const QStringList &later) {
         if (!m_window) {
@@ -69,10 +71,6 @@ int Launch::run(const QStringList &urls)
 
     const TerminationSignals terminationSignals(&QGuiApplication::quit);
     start();
-    LifeCycle lifeCycle(m_runtime->delegate());
-    const QObject following;
-    QObject::connect(&m_application, &QGuiApplication::applicationStateChanged, &following,
-                     [&](Qt::ApplicationState state) { lifeCycle.enter(state); });
     showWindow();
     openURLs(urls);
     const int status = QGuiApplication::exec();
@@ -80,15 +78,15 @@ int Launch::run(const QStringList &urls)
     return status;
 }
 
-void Launch::start()
+void Program::start()
 {
-    m_runtime = std::make_unique<Runtime>(m_host, m_settings);
-    m_runtime->delegate().didFinishLaunchingWithOptions();
+    m_shared = std::make_unique<SharedObjects>(m_host, m_settings);
+    m_shared->delegate().didFinishLaunchingWithOptions();
 }
 
-void Launch::showWindow()
+void Program::showWindow()
 {
-    m_window = std::make_unique<UIWindowHost>(*m_runtime->delegate().window(), displayName(),
+    m_window = std::make_unique<UIWindowHost>(*m_shared->delegate().window(), displayName(),
                                               QIcon(u":/icon.svg"_s));
     QObject::connect(&m_window->view(), &QQuickWindow::sceneGraphError,
                      [](QQuickWindow::SceneGraphError, const QString &message) {
@@ -98,19 +96,18 @@ void Launch::showWindow()
     m_window->show();
 }
 
-void Launch::openURLs(const QStringList &urls)
+void Program::openURLs(const QStringList &urls)
 {
     for (const QString &url : urls) {
-        m_runtime->delegate().openURL(url);
+        m_shared->delegate().openURL(url);
     }
 }
 
-void Launch::end()
+void Program::end()
 {
-    // A start from now on is not handed to an application that is about to go.
+    // A later start must not hand its URLs to an ending application.
     m_host.releaseSingleInstance();
-    m_runtime->delegate().applicationWillTerminate();
-    m_runtime->finish();
+    m_shared->finish();
     m_window.reset();
-    m_runtime.reset();
+    m_shared.reset();
 }

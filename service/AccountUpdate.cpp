@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "service/WZTAccountReplies.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr WZTAccountReplies::Result results[] = {
+    {"User Not Found"_L1, 2},
+    {"Incorrect"_L1, 0},
+};
+constexpr WZTAccountReplies codes{
+    .transportError = 3,
+    .user = 1,
+    .results = results,
+    .anythingElse = 3,
+};
+
+void addUnlessEmpty(QList<NSURLQueryItem> &parameters, const NSURLQueryItem &item)
+{
+    if (item.value && !item.value->isEmpty()) {
+        parameters.append(item);
+    }
+}
+
+} // namespace
+
+void WZTAPI::updateAccount(const Text &email, const Text &userName, const Text &passwordDigest,
+                           const Text &newPasswordDigest, UserCompletion completion)
+{
+    WZTRequest request{"POST",
+                       u"/update.php"_s,
+                       {{u"userEmail"_s, email}, {u"userOldPassword"_s, passwordDigest}}};
+    addUnlessEmpty(request.parameters, {u"userName"_s, userName});
+    addUnlessEmpty(request.parameters, {u"userNewPassword"_s, newPasswordDigest});
+    sendAccountRequest(request, codes, std::move(completion));
+}

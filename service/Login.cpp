@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "service/WZTAccountReplies.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr WZTAccountReplies::Result results[] = {
+    {"User Does Not Exist"_L1, 2},
+    {"Incorrect"_L1, 0},
+};
+constexpr WZTAccountReplies codes{
+    .transportError = 3,
+    .user = 1,
+    .results = results,
+    .anythingElse = 3,
+};
+
+} // namespace
+
+void WZTAPI::loginToAccount(const Text &email, const Text &passwordDigest,
+                            UserCompletion completion)
+{
+    const WZTRequest request{
+        "GET", u"/login.php"_s, {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}}};
+    sendAccountRequest(request, codes, std::move(completion));
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "service/WZTAccountReplies.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr WZTAccountReplies::Result results[] = {
+    {"Message has been sent"_L1, 0},
+    {"Message could not be sent"_L1, 3},
+    {"User Not Found"_L1, 3},
+};
+constexpr WZTAccountReplies codes{
+    .transportError = 2,
+    .user = std::nullopt,
+    .results = results,
+    .anythingElse = 2,
+};
+
+} // namespace
+
+void WZTAPI::resetAccountPassword(const Text &email, CodeCompletion completion)
+{
+    const WZTRequest request{"POST", u"/passwordreset.php"_s, {{u"userEmail"_s, email}}};
+    sendAccountRequest(
+        request, codes,
+        [completion = std::move(completion)](NSUInteger code, const auto &) { completion(code); });
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "service/WZTAccountReplies.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr WZTAccountReplies::Result results[] = {
+    {"User Exists"_L1, 0},
+    {"Improper request"_L1, 1},
+};
+constexpr WZTAccountReplies codes{
+    .transportError = 4,
+    .user = 2,
+    .results = results,
+    .anythingElse = 3,
+};
+
+} // namespace
+
+void WZTAPI::registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
+                           UserCompletion completion)
+{
+    const WZTRequest request{
+        "GET",
+        u"/register.php"_s,
+        {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}, {u"userName"_s, userName}}};
+    sendAccountRequest(request, codes, std::move(completion));
+}
