@@ -87,7 +87,9 @@ class URLSessionTest : public QObject {
     {
         NSMutableURLRequest request = NSMutableURLRequest::requestWithURL(url);
         request.setHTTPMethod(method);
-        m_session->dataTaskWithRequest(request, outcome.completion())->resume();
+        const auto task = m_session->dataTaskWithRequest(request, outcome.completion());
+        task->resume();
+        task->resume(); // sends nothing more
     }
 
     /// The code with which such a request ends.

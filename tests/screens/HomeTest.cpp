@@ -92,6 +92,9 @@ private Q_SLOTS:
         QCOMPARE(images.join(u' '), u"bugreport add add discord"_s);
         QCOMPARE(home.cellForRowAtIndexPath({2, 0})->selectionStyle(),
                  UITableViewCellSelectionStyle::None);
+        for (const auto &[section, footer] : {std::pair(0, 14), {1, 0}, {2, 0}}) {
+            QCOMPARE(home.heightForFooterInSection(section), footer);
+        }
 
         const QString zebra = u"zbra://sources/add/"_s;
         const QString cydia = u"cydia://url/https://share.wzt.example/api/share#?source="_s;

@@ -9,6 +9,7 @@
 #include "tests/support/TestApp.h"
 #include "tests/support/TestRunner.h"
 #include "tests/support/TestWindow.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QQuickItem>
 #include <QRegularExpression>
@@ -118,15 +119,8 @@ private Q_SLOTS:
     void aHeldReturnActsOnce()
     {
         Stage stage;
-        const auto hold = [&] {
-            QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-            QCoreApplication::sendEvent(&stage.window->view(), &repeat);
-        };
         stage.window->key(Qt::Key_Tab);
-        stage.window->key(Qt::Key_Return); // nothing is typed: an alert
-        hold();
-        stage.window->settle();
-        hold();
+        WindowDriver::hold(stage.window->view(), Qt::Key_Return); // nothing is typed: an alert
         QVERIFY(stage.app.top<UIAlertController>());
         QCOMPARE(stage.app.host().taps, 1);
     }

@@ -73,6 +73,13 @@ void TestApp::keepData(const QByteArray &data)
     }
 }
 
+void TestApp::forgetUser()
+{
+    if (!defaults().removeObjectForKey(u"currentUser"_s)) {
+        qFatal("the user defaults cannot be written");
+    }
+}
+
 std::optional<QByteArray> TestApp::keptData() const
 {
     return defaults().dataForKey(u"currentUser"_s);

@@ -37,6 +37,7 @@ public:
     /// Has `user` in the user defaults, as a run before would have left it. Before `launch`.
     void keepUser(const WZTUser &user) { keepData(archived(user)); }
     void keepData(const QByteArray &data);
+    void forgetUser();
     /// What the user defaults hold for the next start.
     [[nodiscard]] std::optional<QByteArray> keptData() const;
     [[nodiscard]] static QByteArray archived(const WZTUser &user);

@@ -163,6 +163,18 @@ void WindowDriver::type(QQuickWindow &window, const QString &text)
     }
 }
 
+void WindowDriver::hold(QQuickWindow &window, Qt::Key key)
+{
+    QTest::keyPress(&window, key);
+    for (int i = 0; i < 3; ++i) {
+        const QString text = key == Qt::Key_Return ? u"\r"_s : QString();
+        QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QCoreApplication::sendEvent(&window, &repeat);
+        settle(window);
+    }
+    QTest::keyRelease(&window, key);
+}
+
 WindowDriver::Finger::Finger(QQuickWindow &window, const QPoint &at) : m_window(window), m_at(at)
 {
     QTest::touchEvent(&window, screen()).press(0, at, &window);

@@ -43,6 +43,8 @@ void showKeyboard(QQuickView &view, double height);
 /// A finger taps.
 void tap(QQuickWindow &window, const QPoint &point);
 void type(QQuickWindow &window, const QString &text);
+/// Holds a key: a press, some repeats to whatever has the keyboard then, and the release.
+void hold(QQuickWindow &window, Qt::Key key);
 
 /// A finger on a window from when it is made to when it is lifted.
 class Finger {

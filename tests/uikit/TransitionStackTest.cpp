@@ -190,9 +190,12 @@ private Q_SLOTS:
         navigation->goBack();
         QCOMPARE(last->navigationController(), nullptr);
         last->presentViewController(stage.page(u"B"_s), false); // gone: nothing
+        navigation->pages()->attachView(); // from here on leaving takes time
         navigation->popToRootViewControllerAnimated(true);
+        stage.run(u"P+C"_s); // leaving: only the completion runs
+        navigation->pages()->detachView();
         navigation->goBack(); // the root stays
-        QCOMPARE(stage.log.join(u' '), u"Hl Hw Hd Pl Pw Pd Ql Qw Qd Pw Pd Hw Hd"_s);
+        QCOMPARE(stage.log.join(u' '), u"Hl Hw Hd Pl Pw Pd Ql Qw Qd Pw Pd Hw [P+C] Hd"_s);
         home->dismissViewControllerAnimated(false); // a page dismisses its container
         QCOMPARE(stage.present(), u"R"_s);
     }
