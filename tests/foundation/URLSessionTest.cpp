@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/http/Gzip.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 #include <future>
 #include <latch>

@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/FullDisk.h"
+#include "harness/TestRunner.h"
 #include "platform/foundation/coding/PropertyList.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 #include "tests/foundation/BinaryList.h"
-#include "tests/support/Cases.h"
-#include "tests/support/FullDisk.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDBusMetaType>
 #include <QDBusVariant>
@@ -45,7 +44,7 @@ struct Portal : FakeService {
     }
 };
 
-// A host, and what it tells of the looks, the last one in front.
+// A host, and the appearances that it reported, the last one first.
 struct ObservedHost {
     ObservedHost()
     {
@@ -109,7 +108,7 @@ private Q_SLOTS:
             QTRY_COMPARE(host.last(), after);
             QList<UIAppearance> told{after, expected, UIAppearance()};
             told.erase(std::unique(told.begin(), told.end()), told.end());
-            told.removeLast(); // what it begins with is told to nobody
+            told.removeLast(); // the initial appearance is not reported
             QCOMPARE(host.told, told);
         }
     }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/TestSession.h"
 #include "platform/linux/LinuxHost.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestSession.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The program as a later start of the application: uses all of the port, then says what it is.
+// The program as a later start of the application: uses all of the port, then prints its part.
 int startApplication(QStringList arguments, std::chrono::milliseconds patience)
 {
     LinuxHost host(arguments.takeFirst(), patience);

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/login/WZTLoginViewController.h"
 #include "service/TavloCategoryExtension.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 
 using namespace Qt::StringLiterals;
 using sandbox::Fault;
@@ -36,7 +35,7 @@ void answerAlert(TestApp &app, const QString &text)
 
 const QString typed = u"\u00a0jo "_s;
 
-// Opens a flow and sends it off with that text in every field; what is sent for `typed`.
+// Starts a flow with a text in every field, and the request that `typed` makes.
 struct Flow {
     void (*start)(TestApp &app, const QString &text);
     QByteArray path;
@@ -96,8 +95,7 @@ private Q_SLOTS:
              u"Error|Account details did not match any account|(Dismiss)"_s},
             {"reset sent", &reset, result("Message has been sent"),
              u"Great!|A reset email has been sent.|(Dismiss)"_s},
-            {"reset lost", &reset, Fault::close(),
-             u"Error|An unknown error occured.|(Dismiss)"_s},
+            {"reset lost", &reset, Fault::close(), u"Error|An unknown error occured.|(Dismiss)"_s},
             {"registered", &signUp, Fault::json(aUser, 500), {}},
             {"address taken", &signUp, result("User Exists"),
              u"Error|An account already exists for this email.|(Dismiss)"_s},
@@ -135,7 +133,7 @@ private Q_SLOTS:
         for (const auto &[email, password] : {std::pair{u" "_s, u"x"_s}, {u"x"_s, u"\t"_s}}) {
             login(app).emailTextField()->edit(email);
             login(app).passwordTextField()->edit(password);
-            login(app).passwordTextField()->returnPressed(); // does what the button does
+            login(app).passwordTextField()->returnPressed(); // signs in as the button does
             QCOMPARE(app.alert(), u"Error|Ensure all fields are properly filled.|(Dismiss)"_s);
             app.top<UIAlertController>()->triggerCancel();
         }

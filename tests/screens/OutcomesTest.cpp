@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
 #include "screens/login/WZTLoginViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +37,7 @@ WZTLoginViewController &login(TestApp &app)
 
 } // namespace
 
-/// What the screens do about every code of their operations, with and without a user.
+/// The screens' answer to every code of their operations, with and without a user.
 class OutcomesTest : public QObject {
     Q_OBJECT
 
@@ -50,22 +49,30 @@ private Q_SLOTS:
              false,
              [](TestApp &app, auto code, auto &user) { login(app).loginEnded(code, user); },
              1,
-             {u"Error|Account details did not match any account"_s, closes, noAccount, unknown,
+             {u"Error|Account details did not match any account"_s,
+              closes,
+              noAccount,
+              unknown,
               {}}},
             {"reset",
              false,
              [](TestApp &app, auto code, auto &) { login(app).resetEnded(code); },
              {},
              {u"Great!|A reset email has been sent."_s,
-              u"Error|An account doesn't exists for this email."_s, unknown,
-              u"Error|There was an error sending reset email"_s, {}}},
+              u"Error|An account doesn't exists for this email."_s,
+              unknown,
+              u"Error|There was an error sending reset email"_s,
+              {}}},
             {"registration",
              false,
              [](TestApp &app, auto code, auto &user) { login(app).registrationEnded(code, user); },
              2,
              {u"Error|An account already exists for this email."_s,
-              u"Error|Account request couldn't be made at this time."_s, closes,
-              u"Error|Received an unexpected response from server."_s, unknown, {}}},
+              u"Error|Account request couldn't be made at this time."_s,
+              closes,
+              u"Error|Received an unexpected response from server."_s,
+              unknown,
+              {}}},
             {"update",
              true,
              [](TestApp &app, auto code, auto &user) {
@@ -73,7 +80,10 @@ private Q_SLOTS:
              },
              1,
              {u"Error|Entered password did not match this account"_s,
-              u"Great!|Account successfully updated."_s, noAccount, unknown, {}}},
+              u"Great!|Account successfully updated."_s,
+              noAccount,
+              unknown,
+              {}}},
             {"submission",
              true,
              [](TestApp &app, auto code, auto &) {
