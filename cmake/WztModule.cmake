@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 include(${CMAKE_CURRENT_LIST_DIR}/Warnings.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/Precompiled.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/Lint.cmake)
 
-# What every target has in common: warnings, precompiled headers, and includes written from the root of the sources.
+# What every target has in common: warnings, lint, precompiled headers, and includes written from the root of the sources.
 function(wzt_common target)
     wzt_warnings(${target})
+    wzt_lint()
     wzt_precompiled_headers(${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
 endfunction()
@@ -32,6 +34,10 @@ function(wzt_module target)
         set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     endif()
     qt_add_library(${target} STATIC)
+    # Nothing that Qt's tools write is looked at, so it is not worth compiling there.
+    if(WZT_LINT)
+        set(without_cache NO_CACHEGEN)
+    endif()
     # Without DEPENDENCIES nothing would be compiled ahead of time, silently.
     qt_add_qml_module(${target}
         URI ${ARG_URI}
@@ -43,7 +49,8 @@ function(wzt_module target)
         IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
-        RESOURCES ${ARG_ASSETS})
+        RESOURCES ${ARG_ASSETS}
+        ${without_cache})
     wzt_common(${target})
     # The generated type registration includes headers by their bare names.
     foreach(file IN LISTS ARG_SOURCES)
@@ -73,7 +80,7 @@ function(wzt_test name)
     # Ends a test that hangs; a busy or an emulated machine takes its time.
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 900
-        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=900000;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/Tsan.supp:ignore_noninstrumented_modules=1:halt_on_error=1"
+        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=900000;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;TZ=Europe/Berlin;HOME=${home};XDG_RUNTIME_DIR=${home}/runtime;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1;ASAN_OPTIONS=detect_stack_use_after_return=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/Tsan.supp:ignore_noninstrumented_modules=1:halt_on_error=1:die_after_fork=0"
         ENVIRONMENT_MODIFICATION "DBUS_SESSION_BUS_ADDRESS=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_CACHE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;http_proxy=unset:;https_proxy=unset:;HTTP_PROXY=unset:;HTTPS_PROXY=unset:;ALL_PROXY=unset:;all_proxy=unset:")
     set_property(TEST ${name} PROPERTY LABELS ${ARG_LABEL})
 endfunction()

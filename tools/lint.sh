@@ -12,45 +12,17 @@ scripts() { shellcheck --external-sources --check-sourced dev .ci/run; }
 drawings() {
     local drawings
     mapfile -t drawings < <(ours '\.qml$')
-    /usr/lib/qt6/bin/qmllint -I build/sandbox/qml --unused-imports warning "${drawings[@]}"
+    /usr/lib/qt6/bin/qmllint -I "build/$preset/qml" --unused-imports warning "${drawings[@]}"
 }
 
 descriptions() {
-    desktop-file-validate build/sandbox/packaging/*.desktop &&
-        appstreamcli validate --no-net build/sandbox/packaging/*.metainfo.xml &&
-        [[ ! $(cd build/sandbox/packaging && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
+    desktop-file-validate "build/$preset/packaging/"*.desktop &&
+        appstreamcli validate --no-net "build/$preset/packaging/"*.metainfo.xml &&
+        [[ ! $(cd "build/$preset/packaging" && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
 }
 
-# tidy_one BASIS SOURCE: what was clean on the same basis is not looked at again.
-tidy_one() {
-    local mark=build/lint/${2//\//+} said
-    [[ ! -f $mark || $(<"$mark") != "$1" ]] || return 0
-    printf '%s\n' "$2"
-    if said=$(clang-tidy --quiet -p build/lint --extra-arg=-Wno-unknown-warning-option "$2" 2>&1); then
-        printf '%s\n' "$1" >"$mark"
-    else
-        printf '%s\n' "$said"
-        return 1
-    fi
-}
-
-# A verdict rests on clang-tidy, its configuration, the build's flags, the source and all it includes of ours.
-tidy() {
-    local basis
-    mkdir -p build/lint
-    # Only the compiler that made a precompiled header can read it.
-    sed -E 's/-Winvalid-pch -include [^ ]+//' build/sandbox/compile_commands.json >build/lint/compile_commands.json
-    basis=$(cat .clang-tidy cmake/*.cmake CMakePresets.json <(clang-tidy --version) | sha256sum | cut -c 1-64)
-    export -f tidy_one
-    awk -v root="$root/" -v basis="$basis" '
-        FILENAME != "-" { sum[root substr($0, 67)] = $1; next }
-        /^[^ ]/ { source = ""; next }
-        { file = substr($0, 5); sub(/^\.\.\/\.\.\//, root, file); if (source == "") source = file }
-        file in sum { rests[source] = rests[source] sum[file] }
-        END { for (source in rests) if (source in sum) print basis rests[source] "\n" substr(source, length(root) + 1) }
-    ' <(tr '\n' '\0' <<<"$files" | xargs -0 sha256sum) - < <(ninja -C build/sandbox -t deps) |
-        xargs -d '\n' -r -n 2 -P 2 bash -c 'tidy_one "$@"' tidy_one
-}
+# clang-tidy runs as part of this build, and so for the sources that have changed since.
+tidy() { build "$preset" -k 0; }
 
 # complain MESSAGE FOUND: if anything was found.
 complain() {
@@ -109,11 +81,16 @@ rules() {
 }
 
 verb_lint() {
-    need "${building[@]}" "${drawing[@]}" "${linting[@]}"
-    build sandbox
+    local preset=lint check checks=(formatting scripts rules tidy drawings descriptions) broken=()
+    if [[ ${1-} == --quick ]]; then
+        preset=sandbox checks=(formatting scripts rules drawings)
+        need "${building[@]}" "${drawing[@]}" "${styling[@]}"
+        build "$preset"
+    else
+        need "${building[@]}" "${drawing[@]}" "${styling[@]}" "${linting[@]}"
+    fi
     files=$(find . \( -path ./build -o -path ./.git -o -path ./.cache \) -prune -o -type f -printf '%P\n' | sort)
-    local check broken=()
-    for check in formatting scripts rules drawings descriptions tidy; do
+    for check in "${checks[@]}"; do
         say "lint: $check"
         "$check" || broken+=("$check")
     done
