@@ -4,6 +4,6 @@
 
 class QQuickView;
 
-/// What drawing costs at the least: a window as large as the application's, in which one rectangle
+/// The least cost of drawing: a window as large as the application's, in which one rectangle
 /// of its size moves.
 void fillBareWindow(QQuickView &view);

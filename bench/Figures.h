@@ -29,7 +29,7 @@ template <class Work>
 /// Prints one table on the standard output, row by row as they come.
 class Table {
 public:
-    /// `columns` are those beside the first, which names what was measured.
+    /// `columns` are those beside the first, which holds the names.
     Table(const QString &title, const QStringList &columns);
 
     void row(const QString &name, const QStringList &cells) const;

@@ -17,7 +17,7 @@ class FrameClock : public QObject {
 public:
     explicit FrameClock(QQuickWindow &window);
 
-    /// Forgets what was measured, and measures from here.
+    /// Discards earlier frames and measures from here.
     void start();
     [[nodiscard]] const QList<double> &frames() const { return m_frames; }
 

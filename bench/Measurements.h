@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Each prints one table: what the application takes, beside what its floor takes.
+// Each prints one table: figures of the application beside those of its floor.
 
 /// From exec to the first frame, and the memory that it took.
 void measureStarts();
-/// The work for one frame in what moves.
+/// The work for one frame of each animation.
 void measureFrames();
 /// As many issues as fit a reply.
 void measureDecoding();

@@ -3,8 +3,8 @@
 #include "bench/BareConnection.h"
 #include "bench/Figures.h"
 #include "bench/Measurements.h"
+#include "harness/TestApp.h"
 #include "service/WZTAPI.h"
-#include "tests/support/TestApp.h"
 
 #include <semaphore>
 

@@ -3,6 +3,7 @@
 #include "bench/Scenes.h"
 
 #include "app/WZTTabBarController.h"
+#include "harness/Finger.h"
 #include "platform/uikit/base/Make.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "sandbox/DemoIssues.h"
@@ -10,7 +11,6 @@
 #include "screens/home/WZTRootViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
 #include "screens/issues/WZTRootIssueViewController.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QEventLoop>
 #include <QIcon>
@@ -130,13 +130,13 @@ void Stage::drag(int fromY, int toY, std::chrono::milliseconds time)
     constexpr auto pace = 8ms;
     const int x = view().width() / 2;
     const auto steps = static_cast<int>(time / pace);
-    QTest::touchEvent(&view(), WindowDriver::screen()).press(0, {x, fromY}, &view());
+    QTest::touchEvent(&view(), Finger::screen()).press(0, {x, fromY}, &view());
     for (int step = 1; step <= steps; ++step) {
         wait(pace);
         const int y = fromY + (toY - fromY) * step / steps;
-        QTest::touchEvent(&view(), WindowDriver::screen()).move(0, {x, y}, &view());
+        QTest::touchEvent(&view(), Finger::screen()).move(0, {x, y}, &view());
     }
-    QTest::touchEvent(&view(), WindowDriver::screen()).release(0, {x, toY}, &view());
+    QTest::touchEvent(&view(), Finger::screen()).release(0, {x, toY}, &view());
 }
 
 std::vector<Scene> allScenes()

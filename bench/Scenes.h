@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "harness/TestApp.h"
 #include "platform/uikit/presentation/UIWindowHost.h"
-#include "tests/support/TestApp.h"
 
 #include <functional>
 #include <memory>
@@ -32,7 +32,7 @@ struct Scene {
     const char *name;
     /// Brings the window to where the scene begins.
     std::function<void(Stage &stage)> prepare;
-    /// What is measured.
+    /// The measured part.
     std::function<void(Stage &stage)> play;
     /// Puts everything back.
     std::function<void(Stage &stage)> leave;

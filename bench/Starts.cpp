@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Figures.h"
 #include "bench/Measurements.h"
+#include "harness/TestApp.h"
 #include "model/BuildConstants.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
-#include "tests/support/TestApp.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

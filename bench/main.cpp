@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 
-// Prints what the application takes (to start, to draw, to decode, to ask its service), each figure
+// Prints the cost of starting, drawing, decoding and asking the service, each figure
 // beside its floor. It judges nothing: a machine that is busy or slow makes no test fail.
 
 #include "bench/Measurements.h"

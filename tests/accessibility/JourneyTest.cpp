@@ -1,49 +1,49 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestProcess.h"
+#include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "tests/accessibility/ScreenReader.h"
-#include "tests/support/TestProcess.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDBusReply>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Deed = std::function<bool(ScreenReader &)>;
+using Action = std::function<bool(ScreenReader &)>;
 
-/// What a person does, and all that there is then, top to bottom, or only what has the keyboard.
+/// An action, and then either the whole screen, top to bottom, or only the item with the focus.
 struct Step {
-    Deed deed;
+    Action action;
     QString screen;
     QString focus = {};
 };
 
-Deed press(const QString &name)
+Action press(const QString &name)
 {
     return [=](ScreenReader &reader) { return reader.act(u"Press"_s, name); };
 }
 
-Deed focus(const QString &name)
+Action focus(const QString &name)
 {
     return [=](ScreenReader &reader) { return reader.act(u"SetFocus"_s, name); };
 }
 
 // A secret says nothing but where its mark is.
-Deed type(const QString &name, const QString &text)
+Action type(const QString &name, const QString &text)
 {
     return [=](ScreenReader &reader) {
         if (!reader.act(u"SetFocus"_s, name)) {
             return false;
         }
         reader.type(text);
-        return QTest::qWaitFor([&] { return reader.caret(name) == text.size(); });
+        return QTest::qWaitFor([&] { return reader.caret(name) == text.size(); },
+                               TestRunner::patience);
     };
 }
 
-Deed key(int symbol)
+Action key(int symbol)
 {
     return [=](ScreenReader &reader) {
         reader.key(symbol);
@@ -51,13 +51,13 @@ Deed key(int symbol)
     };
 }
 
-const Deed wait = [](ScreenReader &) { return true; };
-const Deed tab = key(0xff09);
-const Deed up = key(0xff52);
-const Deed down = key(0xff54);
-const Deed end = key(0xff57);
-const Deed escape = key(0xff1b);
-const Deed menu = key(0xff67);
+const Action wait = [](ScreenReader &) { return true; };
+const Action tab = key(0xff09);
+const Action up = key(0xff52);
+const Action down = key(0xff54);
+const Action end = key(0xff57);
+const Action escape = key(0xff1b);
+const Action menu = key(0xff67);
 
 // The screens, from top to bottom.
 const QString focused = u", focused"_s;
@@ -91,7 +91,7 @@ const QString update =
     u"dialog Update Account|label Update Account|field Name%1|secret New Password|"
     "secret Current Password%2|button Dismiss|button Update"_s;
 
-// Of thirty, what fits the window.
+// Those of thirty rows that fit the window.
 QString oldIssues(int first, int last)
 {
     QString rows;
@@ -110,7 +110,7 @@ QString accessibilityBus()
     const auto answers = [&] {
         return (address = QDBusConnection::sessionBus().call(request)).isValid();
     };
-    return QTest::qWaitFor(answers, 20000) ? address : QString();
+    return QTest::qWaitFor(answers, TestRunner::patience) ? address : QString();
 }
 
 } // namespace
@@ -122,16 +122,16 @@ class JourneyTest : public QObject {
 
     void follow(ScreenReader &reader, const std::vector<Step> &steps)
     {
-        for (const auto &[deed, screen, focus] : steps) {
+        for (const auto &[action, screen, focus] : steps) {
             if (QTest::currentTestFailed()) {
                 return;
             }
-            QVERIFY(deed(reader));
+            QVERIFY(action(reader));
             if (screen.isEmpty()) {
-                QTRY_COMPARE_WITH_TIMEOUT(reader.focused(), focus + focused, 10000);
+                QTRY_COMPARE(reader.focused(), focus + focused);
             } else {
                 const QStringList shown = QString("window WZT Companion|"_L1 + screen).split(u'|');
-                QTRY_COMPARE_WITH_TIMEOUT(reader.screen(), shown, 10000);
+                QTRY_COMPARE(reader.screen(), shown);
             }
         }
     }
@@ -197,7 +197,7 @@ private Q_SLOTS:
                 {down, {}, u"row Marrow!, 2 of 6, to press"_s},
                 {focus(u"tessaroo"_s), {}, u"row tessaroo, 4 of 6, to press"_s},
                 {up, {}, u"row QELVAN, 3 of 6, to press"_s},
-                // Issues in their order, wherever the table was when they came again.
+                // Issues stay in order, even if the table was scrolled when they came again.
                 {press(u"Pintle"_s), issues.arg(u"Pintle"_s, u", focused|progress Loading"_s)},
                 {wait, issues.arg(u"Pintle"_s, focused + oldIssues(1, 18))},
                 {end, {}, u"row Old, 30 of 30"_s},
@@ -233,7 +233,7 @@ private Q_SLOTS:
 
         TestProcess second;
         second.start(QStringLiteral(COMPANION_UNDER_TEST), arguments);
-        QVERIFY(second.waitForFinished() && second.exitCode() == 0);
+        QVERIFY(second.waitForFinished(TestRunner::patience) && second.exitCode() == 0);
 
         // It ends in good order while it waits for an answer.
         service.stage("/login.php", sandbox::Fault::silence());

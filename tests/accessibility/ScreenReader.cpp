@@ -31,19 +31,19 @@ constexpr quint64 visible = state(30);
 
 constexpr quint32 secret = 40;
 
-// What AT-SPI numbers so is called so here, and has to have all this.
-struct Manners {
-    quint32 role;
+// A role as AT-SPI numbers it, its name here, and what an item of that role must have.
+struct Role {
+    quint32 number;
     QLatin1StringView name;
     bool named = true;
     quint64 states = 0;
     QLatin1StringView action = {};
 };
 
-// Only holds others. Since Qt 6.8 every delegate of a list view is one, even one to be ignored.
+// Only holds others. Since Qt 6.8 every delegate of a list view is one, even an ignored one.
 constexpr quint32 filler = 20;
 constexpr quint32 application = 75;
-constexpr Manners allManners[] = {
+constexpr Role roles[] = {
     {2, "alert"_L1},
     {16, "dialog"_L1},
     {23, "window"_L1},
@@ -152,17 +152,17 @@ QList<ScreenReader::Node> ScreenReader::nodes() const
 
 bool ScreenReader::isFocused(const Node &node) const
 {
-    // What has the keyboard from the start may have said so before anybody listened.
+    // The first item with the focus may have announced it before this reader listened.
     return (node.states & hasFocus) && (m_focused.isEmpty() || node.path == m_focused);
 }
 
 QString ScreenReader::describe(const Node &node) const
 {
-    const auto *manners = std::ranges::find(allManners, node.role, &Manners::role);
-    if (manners == std::end(allManners)) {
+    const auto *role = std::ranges::find(roles, node.role, &Role::number);
+    if (role == std::end(roles)) {
         return u"role %1, %2"_s.arg(node.role).arg(node.name);
     }
-    QString line = manners->name;
+    QString line = role->name;
     if (!node.name.isEmpty()) {
         line += u' ' + node.name;
     }
@@ -180,21 +180,21 @@ QString ScreenReader::describe(const Node &node) const
     if (node.states & selected) {
         line += u", selected"_s;
     }
-    if (manners->action.isEmpty() && node.actions.contains(u"Press"_s)) {
+    if (role->action.isEmpty() && node.actions.contains(u"Press"_s)) {
         line += u", to press"_s;
     }
     if (node.states & hasFocus) {
         line += isFocused(node) ? u", focused"_s : u", focused as well"_s;
     }
-    const quint64 missing = (manners->states | visible | enabled | sensitive) & ~node.states;
-    if (manners->named && node.name.isEmpty()) {
+    const quint64 missing = (role->states | visible | enabled | sensitive) & ~node.states;
+    if (role->named && node.name.isEmpty()) {
         line += u" (no name)"_s;
     }
     if (missing) {
         line += u" (not in states %1)"_s.arg(missing, 0, 16);
     }
-    if (!manners->action.isEmpty() && !node.actions.contains(manners->action)) {
-        line += u" (no action %1)"_s.arg(manners->action);
+    if (!role->action.isEmpty() && !node.actions.contains(role->action)) {
+        line += u" (no action %1)"_s.arg(role->action);
     }
     return line;
 }

@@ -5,8 +5,8 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 
-/// A person who sees nothing, at the one application on an accessibility bus: hears what gets the
-/// keyboard, goes through what shows, acts on it, and types.
+/// A screen reader for the one application on an accessibility bus: follows the keyboard focus,
+/// lists the visible items, acts on them, and types.
 class ScreenReader : public QObject {
     Q_OBJECT
 
@@ -19,10 +19,10 @@ public:
     /// Everything that shows in the application, its window first, as it is heard: "role name:
     /// text, description, selected, to press, focused", and what keeps it from being operated.
     [[nodiscard]] QStringList screen() const;
-    /// Of these what has the keyboard: what was the last to say so, and still is. Empty for none.
+    /// The item with the keyboard focus, described as in `screen`. Empty for none.
     [[nodiscard]] QString focused() const;
 
-    /// Takes an action of what shows under that name; false if nothing there has that action.
+    /// Takes an action of the visible item of that name; false if no item has that action.
     bool act(const QString &action, const QString &name) const;
     /// Types where the keyboard is, as a keyboard does.
     void type(const QString &text) const;
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void stateChanged(const QDBusMessage &event);
 
 private:
-    /// Something that is told about, by its address, and what is said of it.
+    /// An accessible item: its address and its properties.
     struct Node {
         QString service;
         QString path;
@@ -48,7 +48,7 @@ private:
     };
 
     /// The results of a method of "org.a11y.atspi." and `interface`; none if it fails, as it does
-    /// for what has gone meanwhile.
+    /// for an item that has gone meanwhile.
     QVariantList call(const Node &node, const QString &interface, const QString &method,
                       const QVariantList &arguments = {}) const;
     [[nodiscard]] QVariant property(const Node &node, const QString &interface,

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestSession.h"
+#include "harness/TestRunner.h"
+#include "harness/TestSession.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/FullDisk.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/foundation/base/Dispatch.h"
 #include "platform/foundation/coding/NSKeyedArchiver.h"
 #include "platform/uikit/bars/UINavigationItem.h"
@@ -11,13 +14,9 @@
 #include "screens/home/WZTRootViewController.h"
 #include "screens/login/WZTLoginViewController.h"
 #include "service/WZTAPI.h"
-#include "tests/support/FullDisk.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 #include "views/UIColorEx.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -258,7 +257,7 @@ private Q_SLOTS:
         app.service().stage("*", sandbox::Fault::silence(), -1);
         const QPointer<UIViewController> login = app.top();
         QList<NSUInteger> codes;
-        // As a screen does it: what follows a reply runs on the main thread and keeps the screen.
+        // As screens do: the reply is handled on the main thread and keeps the screen alive.
         WZTAPI::userForAccount(u"jo@wzt.example"_s,
                                [&, screen = strong(login.data())](NSUInteger code, const auto &) {
                                    dispatchAsyncMain([&codes, code, screen] {

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
-#include "tests/support/TestRunner.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +20,7 @@ const QString program = QFileInfo(QStringLiteral(WZT_PROGRAM)).fileName();
 
 } // namespace
 
-/// What tells the desktop of the application: the program has to keep what it says.
+/// The files that describe the application to the desktop agree with the program.
 class DesktopEntryTest : public QObject {
     Q_OBJECT
 
@@ -37,6 +37,11 @@ private Q_SLOTS:
                  0);
         const QString share = prefix.filePath(u"share/"_s);
         const QString name = QString::fromUtf8(BuildConstants::displayName);
+        const QString validator = QStandardPaths::findExecutable(u"desktop-file-validate"_s);
+        if (!validator.isEmpty()) {
+            QCOMPARE(
+                QProcess::execute(validator, {share + u"applications/"_s + id + u".desktop"_s}), 0);
+        }
         // A file, and the lines that it has to have.
         const std::pair<QString, QStringList> rows[] = {
             {share + u"applications/"_s + id + u".desktop"_s,

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/MuteSocket.h"
+#include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
-#include "tests/support/MuteSocket.h"
-#include "tests/support/TestRunner.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 
@@ -60,9 +59,9 @@ private Q_SLOTS:
             QVERIFY(program.waitForStarted());
             const auto pid = static_cast<pid_t>(program.processId());
             // Ready once it has a handler of its own for the signal.
-            QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (signalNumber - 1) & 1, 20000);
+            QTRY_VERIFY(caughtSignals(pid) >> (signalNumber - 1) & 1);
             kill(pid, signalNumber);
-            QVERIFY(program.waitForFinished(5000));
+            QVERIFY(program.waitForFinished(TestRunner::patience));
             QCOMPARE(program.exitStatus(), QProcess::NormalExit);
             QCOMPARE(program.readAll(), QByteArray());
             QCOMPARE(program.exitCode(), 0);
@@ -83,9 +82,9 @@ private Q_SLOTS:
         program.start(QStringLiteral(WZT_PROGRAM), runningArguments);
         QVERIFY(program.waitForStarted());
         const auto pid = static_cast<pid_t>(program.processId());
-        QTRY_VERIFY_WITH_TIMEOUT(caughtSignals(pid) >> (SIGTERM - 1) & 1, 20000);
+        QTRY_VERIFY(caughtSignals(pid) >> (SIGTERM - 1) & 1);
         kill(pid, SIGTERM);
-        QVERIFY(program.waitForFinished(5000));
+        QVERIFY(program.waitForFinished(TestRunner::patience));
         QCOMPARE(program.readAll(),
                  "The session bus does not answer: this start does without it.\n");
         QCOMPARE(program.exitCode(), 0);
@@ -108,7 +107,7 @@ private Q_SLOTS:
             QProcess program;
             program.setProcessEnvironment(nowhere);
             program.start(QStringLiteral(WZT_PROGRAM), answer.arguments);
-            QVERIFY(program.waitForFinished());
+            QVERIFY(program.waitForFinished(TestRunner::patience));
             QCOMPARE(program.exitStatus(), QProcess::NormalExit);
             QCOMPARE(program.exitCode(), answer.status);
             const QByteArray output = program.readAllStandardOutput();
@@ -137,12 +136,11 @@ private Q_SLOTS:
         program.start(QStringLiteral(WZT_PROGRAM));
         QVERIFY(program.waitForStarted());
         const auto pid = static_cast<pid_t>(program.processId());
-        QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning
-                                     || caughtSignals(pid) >> (SIGTERM - 1) & 1,
-                                 20000);
+        QTRY_VERIFY(program.state() == QProcess::NotRunning
+                    || caughtSignals(pid) >> (SIGTERM - 1) & 1);
         QCOMPARE(program.state(), QProcess::Running);
         kill(pid, SIGTERM);
-        QVERIFY(program.waitForFinished(5000));
+        QVERIFY(program.waitForFinished(TestRunner::patience));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
     }

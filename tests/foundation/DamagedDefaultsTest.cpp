@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/FullDisk.h"
+#include "harness/TestRunner.h"
 #include "tests/foundation/DefaultsFixture.h"
-#include "tests/support/Cases.h"
-#include "tests/support/FullDisk.h"
-#include "tests/support/TestRunner.h"
 
 #include <csignal>
 

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/foundation/coding/NSKeyedArchiver.h"
 #include "platform/foundation/coding/NSKeyedUnarchiver.h"
 #include "platform/foundation/coding/PropertyList.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

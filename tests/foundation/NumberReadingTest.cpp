@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/base/NumberReading.h"
-#include "tests/support/TestRunner.h"
+#include "harness/TestRunner.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTest>
 
 class NumberReadingTest : public QObject {
     Q_OBJECT

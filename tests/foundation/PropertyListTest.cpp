@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/coding/PropertyList.h"
 
+#include "harness/TestRunner.h"
 #include "tests/foundation/BinaryList.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 #include <bit>
 

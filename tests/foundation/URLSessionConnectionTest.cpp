@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "tests/foundation/SessionFixture.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 #include <map>
 

@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "sandbox/http/Gzip.h"
 #include "tests/foundation/SessionFixture.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/foundation/coding/PropertyList.h"
 #include "tests/foundation/BinaryList.h"
 #include "tests/foundation/DefaultsFixture.h"
-#include "tests/support/TestRunner.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "tests/fuzz/FuzzTargets.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 /// Seeds of the fuzzer, and every input that once broke a rule, through their readers.
 class CorpusTest : public QObject {

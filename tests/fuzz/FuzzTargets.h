@@ -7,7 +7,7 @@
 
 #include <span>
 
-/// One reader of what others write.
+/// One reader of foreign bytes.
 struct FuzzTarget {
     /// Its folder in corpus/.
     QLatin1StringView name;

@@ -27,7 +27,7 @@ const FuzzTarget &chosenTarget()
     return *found;
 }
 
-/// What the readers log of each input says nothing here; what ends the program does.
+/// Log lines of the readers are dropped; fatal ones end the program.
 void logFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg) {

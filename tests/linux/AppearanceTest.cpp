@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/FakeService.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDBusMetaType>
 #include <QDBusVariant>

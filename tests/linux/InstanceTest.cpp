@@ -1,17 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/MuteSocket.h"
+#include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/AuthOnlyBus.h"
 #include "tests/linux/FakeService.h"
-#include "tests/support/MuteSocket.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDBusArgument>
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

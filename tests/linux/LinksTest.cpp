@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
-#include "tests/support/TestRunner.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <sys/stat.h>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/TestSession.h"
 #include "platform/linux/LinuxHost.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestSession.h"
 
 #include <QFile>
 #include <QGuiApplication>

@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
 #include "model/WZTPackage.h"
 #include "model/WZTPackageIssue.h"
 #include "model/WZTUser.h"
 #include "platform/foundation/coding/NSCoder.h"
-#include "tests/support/TestRunner.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "harness/TestWindow.h"
+#include "platform/uikit/input/HitTest.h"
+
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QStringList>
@@ -14,7 +17,7 @@
 /// WZT_RANDOM_SECONDS they go on for that long, with WZT_RANDOM_SEED they begin there.
 namespace RandomRuns {
 
-/// `run` returns what went wrong, empty for nothing. The first fault is the last run.
+/// `run` returns its fault, empty for none. The first fault is the last run.
 inline void each(quint32 count, const std::function<QString(quint32 seed)> &run)
 {
     const int seconds = qEnvironmentVariableIntValue("WZT_RANDOM_SECONDS");
@@ -49,5 +52,14 @@ public:
 private:
     QRandomGenerator m_generator;
 };
+
+/// The middle of something that takes presses, or anywhere else in the window.
+inline QPoint placeIn(const QQuickView &view, Dice &dice)
+{
+    const QPoint any(dice.below(view.width()), dice.below(view.height()));
+    const QQuickItem *item = HitTest::itemAt(view.contentItem(), any);
+    const QPoint middle = item ? TestWindow::rect(item).center().toPoint() : any;
+    return dice.once(2) && QRect(QPoint(), view.size()).contains(middle) ? middle : any;
+}
 
 } // namespace RandomRuns

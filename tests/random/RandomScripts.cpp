@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "platform/uikit/bars/UITabBarItem.h"
 #include "platform/uikit/base/Make.h"
 #include "platform/uikit/presentation/UINavigationController.h"
@@ -7,7 +8,6 @@
 #include "platform/uikit/presentation/UIWindow.h"
 #include "tests/random/RandomRuns.h"
 #include "tests/random/ScriptPage.h"
-#include "tests/support/TestRunner.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
@@ -23,8 +23,7 @@ constexpr int stepsOfARun = 60;
 using Controller = std::shared_ptr<UIViewController>;
 using Cover = UITransitionStack::Cover;
 
-/// A window with two tabs, and what the rules say of it: which controllers are presented and
-/// pushed, whatever transitions are under way.
+/// A window with two tabs, and a model of its controllers that knows no transitions.
 class Script {
 public:
     explicit Script(quint32 seed) : m_dice(seed)
@@ -55,24 +54,20 @@ public:
         end();
         tearDown();
         expect(m_world.living == 0, u"a page stays for ever"_s);
-        if (m_world.faults.isEmpty()) {
-            return {};
-        }
-        return m_world.faults.first() + u" after "_s + m_log.join(u", "_s);
+        const QString fault = m_world.faults.value(0);
+        return fault.isEmpty() ? fault : fault + u" after "_s + m_log.join(u", "_s);
     }
 
 private:
     using Pages = std::vector<Controller>;
     struct Navigation {
         std::shared_ptr<UINavigationController> controller;
-        Pages pages; // as the rules have them
+        Pages pages; // of the model
     };
 
     void expect(bool isRight, const QString &fault)
     {
-        if (!isRight) {
-            m_world.faults.append(fault);
-        }
+        m_world.faults.append(isRight ? QStringList() : QStringList(fault));
     }
 
     void test(UITransitionStack &stack)
@@ -82,8 +77,7 @@ private:
     }
     Controller page(Cover cover = Cover::Covers)
     {
-        m_pages.push_back(make<ScriptPage>(m_world, cover));
-        return m_pages.back();
+        return m_pages.emplace_back(make<ScriptPage>(m_world, cover));
     }
     Controller navigation()
     {
@@ -121,36 +115,24 @@ private:
 
     void step()
     {
+        static constexpr void (Script::*steps[])(bool animated) = {
+            &Script::present, &Script::present,   &Script::dismiss, &Script::push,
+            &Script::pop,     &Script::chooseTab, &Script::endOne,  &Script::endOne};
         ++m_depth;
         const bool animated = m_dice.below(4) > 0;
-        switch (m_dice.below(8)) {
-        case 0:
-        case 1:
-            present(m_dice.oneOf(m_pages), animated);
-            break;
-        case 2:
-            dismiss(m_dice.oneOf(m_pages), animated);
-            break;
-        case 3:
-            push(m_dice.below(static_cast<int>(m_navigations.size())), animated);
-            break;
-        case 4:
-            pop(m_dice.below(static_cast<int>(m_navigations.size())), animated);
-            break;
-        case 5:
-            m_log.append(u"tab"_s);
-            m_tabs->setSelectedIndex(m_dice.below(2));
-            break;
-        default:
-            m_log.append(u"ended"_s);
-            endOne();
-        }
+        (this->*m_dice.oneOf(std::span(steps)))(animated);
         --m_depth;
     }
 
-    // The list of controllers may grow meanwhile.
-    void present(Controller from, bool animated) // NOLINT(performance-unnecessary-value-param)
+    void chooseTab(bool)
     {
+        m_log.append(u"tab"_s);
+        m_tabs->setSelectedIndex(m_dice.below(2));
+    }
+
+    void present(bool animated)
+    {
+        const Controller from = m_dice.oneOf(m_pages); // the list may grow meanwhile
         m_log.append(animated ? u"present"_s : u"present!"_s);
         const Controller shown = m_dice.once(3) ? navigation()
             : m_dice.once(2)                    ? page(Cover::Overlays)
@@ -163,8 +145,9 @@ private:
         from->presentViewController(shown, animated, counted());
     }
 
-    void dismiss(Controller page, bool animated) // NOLINT(performance-unnecessary-value-param)
+    void dismiss(bool animated)
     {
+        const Controller page = m_dice.oneOf(m_pages);
         m_log.append(animated ? u"dismiss"_s : u"dismiss!"_s);
         const auto entry = entryOf(page);
         if (entry != m_presented.end() && entry + 1 != m_presented.end()) {
@@ -175,32 +158,34 @@ private:
         page->dismissViewControllerAnimated(animated, counted());
     }
 
-    void push(int index, bool animated)
+    Navigation &anyNavigation()
+    {
+        return m_navigations[static_cast<std::size_t>(
+            m_dice.below(static_cast<int>(m_navigations.size())))];
+    }
+
+    void push(bool animated)
     {
         m_log.append(animated ? u"push"_s : u"push!"_s);
-        Navigation &navigation = m_navigations[static_cast<std::size_t>(index)];
+        Navigation &navigation = anyNavigation();
         const auto controller = navigation.controller;
         const Controller pushed = page();
         navigation.pages.push_back(pushed);
         controller->pushViewController(pushed, animated);
     }
 
-    void pop(int index, bool animated)
+    void pop(bool animated)
     {
-        Navigation &navigation = m_navigations[static_cast<std::size_t>(index)];
+        Navigation &navigation = anyNavigation();
         const auto controller = navigation.controller;
         const bool toRoot = m_dice.once(3);
         m_log.append(toRoot ? u"pop all"_s : u"pop"_s);
-        const std::size_t pages = navigation.pages.size();
-        navigation.pages.resize(toRoot ? 1 : qMax<std::size_t>(1, pages - 1));
-        if (toRoot) {
-            controller->popToRootViewControllerAnimated(animated);
-        } else {
-            controller->popViewControllerAnimated(animated);
-        }
+        navigation.pages.resize(toRoot ? 1 : qMax<std::size_t>(1, navigation.pages.size() - 1));
+        toRoot ? controller->popToRootViewControllerAnimated(animated)
+               : controller->popViewControllerAnimated(animated);
     }
 
-    [[nodiscard]] std::vector<UITransitionStack *> stacks()
+    std::vector<UITransitionStack *> stacks()
     {
         std::vector<UITransitionStack *> all{m_window->presentation()};
         for (const Navigation &each : m_navigations) {
@@ -216,8 +201,9 @@ private:
         stack.transitionEnded(kept.get());
     }
     // Of any stack, and of a transition that has ended already as well.
-    void endOne()
+    void endOne(bool)
     {
+        m_log.append(u"ended"_s);
         UITransitionStack &stack = *m_dice.oneOf(stacks());
         end(stack, m_dice.below(stack.rowCount()));
     }
@@ -240,7 +226,7 @@ private:
         }
     }
 
-    // Once every transition has ended, what is in sight has appeared and nothing else, and every
+    // Once every transition has ended, only visible controllers have appeared, and every
     // completion has run.
     void end()
     {
@@ -261,9 +247,9 @@ private:
         }
         for (const Controller &each : m_pages) {
             const bool isSeen = std::ranges::find(seen, each) != seen.end();
-            const bool appeared = each->appearanceState() == UIAppearanceState::Appeared;
-            const bool gone = each->appearanceState() == UIAppearanceState::Disappeared;
-            expect(isSeen ? appeared : gone, u"a page is not where it is seen"_s);
+            const auto state =
+                isSeen ? UIAppearanceState::Appeared : UIAppearanceState::Disappeared;
+            expect(each->appearanceState() == state, u"a page is in the wrong state"_s);
         }
         expect(std::ranges::count(m_completions, 1) == std::ssize(m_completions),
                u"a completion has not run"_s);
@@ -277,7 +263,7 @@ private:
         m_pages.clear();
         m_tabs.reset();
         m_window.reset();
-        for (int i = 0; i < 3; ++i) { // containers let go of their own
+        for (int i = 0; i < 3; ++i) { // a container's end releases its pages
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
     }

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/uikit/input/HitTest.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
+#include "harness/TestWindow.h"
 #include "sandbox/DemoIssues.h"
 #include "tests/random/RandomRuns.h"
 #include "tests/random/WindowRules.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestWindow.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -28,20 +26,20 @@ constexpr Qt::Key keys[] = {
 constexpr QSize sizes[] = {{320, 568}, {390, 844}, {844, 390}, {768, 1024}};
 
 /// One run: somebody, signed in or not, who touches the real window.
-class Touches {
+class Touches : TestApp, TestWindow {
 public:
     explicit Touches(quint32 seed) : m_dice(seed)
     {
-        m_app.service().addIssues(sandbox::demoIssues());
-        m_dice.below(4) > 0 ? m_app.launchSignedIn() : m_app.launch();
-        m_window.emplace(m_app, m_dice.oneOf(std::span(sizes)), appearance());
-        m_rules.emplace(view(), *m_app.delegate().window()->presentation());
-        m_window->settle();
+        service().addIssues(sandbox::demoIssues());
+        m_dice.below(4) > 0 ? launchSignedIn() : launch();
+        open(*delegate().window(), m_dice.oneOf(std::span(sizes)), appearance());
+        m_rules.emplace(view(), *delegate().window()->presentation());
+        TestWindow::settle();
         QGuiApplication::clipboard()->setText(u"two\nlines"_s);
     }
     ~Touches()
     {
-        m_window.reset();
+        close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     Q_DISABLE_COPY_MOVE(Touches)
@@ -61,16 +59,11 @@ public:
 
 private:
     using Row = WindowRules::Row;
-    using Finger = WindowDriver::Finger;
-    using Step = void (Touches::*)();
-
-    [[nodiscard]] QQuickView &view() { return m_window->view(); }
 
     UIAppearance appearance()
     {
-        const auto style =
-            m_dice.once(2) ? UIUserInterfaceStyle::Light : UIUserInterfaceStyle::Dark;
-        return {style, m_dice.once(3) ? 1.6 : 1, m_dice.once(3)};
+        using enum UIUserInterfaceStyle;
+        return {m_dice.once(2) ? Light : Dark, m_dice.once(3) ? 1.6 : 1, m_dice.once(3)};
     }
 
     void fault(const QString &what)
@@ -82,10 +75,10 @@ private:
 
     void step()
     {
-        static constexpr std::pair<Step, const char *> steps[] = {
-            {&Touches::tap, "tap"},
-            {&Touches::tap, "tap"},
-            {&Touches::tap, "tap"},
+        static constexpr std::pair<void (Touches::*)(), const char *> steps[] = {
+            {&Touches::tapOnce, "tap"},
+            {&Touches::tapOnce, "tap"},
+            {&Touches::tapOnce, "tap"},
             {&Touches::tapTwice, "two taps"},
             {&Touches::click, "click"},
             {&Touches::drag, "drag"},
@@ -109,20 +102,15 @@ private:
 
     void settle()
     {
-        m_window->settle();
+        TestWindow::settle();
         fault(QTest::currentTestFailed() ? u"a transition does not end"_s : m_rules->settled());
     }
 
-    // Where something takes presses, or anywhere.
     QPoint place()
     {
-        const QPoint any(m_dice.below(view().width()), m_dice.below(view().height()));
-        const QQuickItem *item = HitTest::itemAt(view().contentItem(), any);
-        m_log.last() += u" %1,%2"_s.arg(any.x()).arg(any.y());
-        return item && m_dice.once(2)
-                && QRect(QPoint(), view().size()).contains(WindowDriver::centre(item))
-            ? WindowDriver::centre(item)
-            : any;
+        const QPoint at = RandomRuns::placeIn(view(), m_dice);
+        m_log.last() += u" %1,%2"_s.arg(at.x()).arg(at.y());
+        return at;
     }
     QPoint away(const QPoint &from, int along, int across)
     {
@@ -138,14 +126,14 @@ private:
         const bool still = m_rules->isStill();
         const Row row = m_rules->rowAt(at);
         for (int i = 0; i < times; ++i) {
-            WindowDriver::tap(view(), at);
+            TestWindow::tap(at);
         }
         if (still && row.at && m_rules->chosen().isEmpty()) {
             fault(u"a row that is tapped does nothing"_s);
         }
         acted(QList<Row>(times, row), times);
     }
-    void tap() { tapAt(place(), 1); }
+    void tapOnce() { tapAt(place(), 1); }
     void tapTwice() { tapAt(place(), 2); }
 
     void click()
@@ -165,7 +153,7 @@ private:
         QTest::qWait(m_dice.once(3) ? 120 : 0);
         finger.move(away(from, 150, 40));
         if (m_dice.once(5)) {
-            QTouchEvent cancel(QEvent::TouchCancel, WindowDriver::screen());
+            QTouchEvent cancel(QEvent::TouchCancel, Finger::screen());
             QCoreApplication::sendEvent(&view(), &cancel);
         }
         finger.lift();
@@ -194,8 +182,7 @@ private:
         const QPoint other = place();
         const Row first = m_rules->rowAt(one);
         const Row second = m_rules->rowAt(other);
-        QTest::QTouchEventSequence fingers =
-            QTest::touchEvent(&view(), WindowDriver::screen(), false);
+        QTest::QTouchEventSequence fingers = QTest::touchEvent(&view(), Finger::screen(), false);
         fingers.press(0, one).press(1, other).commit();
         QTest::qWait(m_dice.once(2) ? 120 : 0);
         fingers.release(0, one).release(1, other).commit();
@@ -222,7 +209,7 @@ private:
         const bool drags = list && list->property("dragging").toBool();
         const double before = list ? list->property("contentY").toDouble() : 0;
         reload();
-        view().grabWindow();
+        grab();
         if (drags && (!list || qAbs(list->property("contentY").toDouble() - before) > 0.5)) {
             fault(u"a reload moves the list under the finger"_s);
         }
@@ -243,7 +230,7 @@ private:
         const Qt::Key key = m_dice.oneOf(std::span(keys));
         m_log.last() += u" %1"_s.arg(static_cast<int>(key), 0, 16);
         const bool chooses = key == Qt::Key_Return || key == Qt::Key_Space;
-        QTest::keyClick(&view(), key);
+        TestWindow::key(key);
         if (std::ssize(m_rules->chosen()) > (chooses ? 1 : 0)) {
             fault(u"a key chooses a row"_s);
         }
@@ -252,9 +239,8 @@ private:
 
     void edit()
     {
-        const Qt::Key key = m_dice.oneOf(
-            std::to_array({Qt::Key_A, Qt::Key_V, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y}));
-        QTest::keyClick(&view(), key, Qt::ControlModifier);
+        constexpr Qt::Key edits[] = {Qt::Key_A, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y};
+        TestWindow::key(m_dice.oneOf(std::span(edits)), Qt::ControlModifier);
         acted({}, 0);
     }
 
@@ -265,10 +251,10 @@ private:
             view().resize(m_dice.oneOf(std::span(sizes)));
             break;
         case 1:
-            m_app.application().traits().setOverride(appearance());
+            application().traits().setOverride(appearance());
             break;
         case 2:
-            WindowDriver::showKeyboard(view(), m_dice.once(2) ? 216 : 0);
+            showKeyboard(m_dice.once(2) ? 216 : 0);
             break;
         case 3:
             reload();
@@ -285,17 +271,15 @@ private:
         QQuickWindow other;
         other.show();
         other.requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(QTest::qWaitForWindowActive(&other, TestRunner::patience));
         other.close();
         view().requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(&view()));
+        QVERIFY(QTest::qWaitForWindowActive(&view(), TestRunner::patience));
     }
 
     RandomRuns::Dice m_dice;
     QStringList m_log;
     QString m_fault;
-    TestApp m_app;
-    std::optional<TestWindow> m_window;
     std::optional<WindowRules> m_rules;
 };
 

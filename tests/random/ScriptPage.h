@@ -8,7 +8,7 @@
 
 #include <functional>
 
-/// What all pages of a script have in common.
+/// The state that all pages of a script share.
 struct ScriptWorld {
     QStringList faults;
     /// Something that a page does while it is told of its life.

@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "tests/random/WindowRules.h"
 
+#include "harness/TestRunner.h"
+#include "harness/TestWindow.h"
 #include "platform/uikit/input/HitTest.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/uikit/presentation/UITabBarController.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
-// Writes down what is chosen, and hands it on.
+// Records chosen rows and hands them on.
 class WindowRules::Delegate : public UITableViewDelegate {
 public:
     Delegate(UITableView &table, QList<Row> &chosen)
@@ -92,7 +92,7 @@ WindowRules::~WindowRules() = default;
 
 QList<QQuickItem *> WindowRules::items(const char *type) const
 {
-    QList<QQuickItem *> found = WindowDriver::items(m_window, QLatin1String(type));
+    QList<QQuickItem *> found = TestWindow(m_window).items(QLatin1String(type));
     found.removeIf([](const QQuickItem *item) { return !item->isVisible(); });
     return found;
 }
@@ -154,7 +154,7 @@ QString WindowRules::acted(QList<Row> mayBeChosen, int pages)
 {
     for (const Row &row : m_chosen) {
         if (!mayBeChosen.removeOne(row)) {
-            return u"a row acts that was not let go of"_s;
+            return u"a row acts that was not touched"_s;
         }
     }
     return pageCount() > m_pages + pages ? u"more pages come than were asked for"_s : QString();
@@ -181,7 +181,9 @@ QString WindowRules::tables() const
             return list->property("moving").toBool() || isInBounds(*list);
         });
     };
-    return QTest::qWaitFor(areListsInBounds) ? QString() : u"a list rests out of its bounds"_s;
+    return QTest::qWaitFor(areListsInBounds, TestRunner::patience)
+        ? QString()
+        : u"a list rests out of its bounds"_s;
 }
 
 QString WindowRules::focus() const
@@ -200,7 +202,7 @@ QString WindowRules::settled() const
     const auto arePagesInPlace = [this] {
         return std::ranges::all_of(items("UITransitionEntryView"), isInPlace);
     };
-    if (!QTest::qWaitFor(arePagesInPlace)) {
+    if (!QTest::qWaitFor(arePagesInPlace, TestRunner::patience)) {
         return u"a page rests beside its place"_s;
     }
     const auto shown = m_presentation.controllers();

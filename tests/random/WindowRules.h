@@ -8,7 +8,7 @@
 #include <QPointer>
 #include <QQuickView>
 
-/// What holds in the window of any application, whatever is touched.
+/// Rules that hold in the window of any application after any touch.
 class WindowRules {
 public:
     /// `window` draws `presentation`.
@@ -34,7 +34,7 @@ public:
 
     /// From here to `acted` fingers and keys do something.
     void begin();
-    /// What went wrong since, empty for nothing, when at most these rows may have been chosen and
+    /// The first fault since, empty for none, if at most these rows may have been chosen and
     /// at most so many pages have come.
     [[nodiscard]] QString acted(QList<Row> mayBeChosen, int pages);
     /// The rows chosen since `begin`.

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
-#include "tests/support/TestRunner.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using sandbox::Sandbox;

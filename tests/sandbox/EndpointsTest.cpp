@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/endpoints/Packages.h"
 #include "tests/sandbox/Client.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDateTime>
 #include <QJsonArray>
-#include <QTest>
 
 #include <atomic>
 #include <stdexcept>

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/endpoints/Packages.h"
 #include "tests/sandbox/Client.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QUrl>
 
 #include <csignal>
@@ -26,7 +25,8 @@ struct Running {
     {
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(program, {u"--directory"_s, directory, u"--demo"_s});
-        while (url.isEmpty() && (process.canReadLine() || process.waitForReadyRead(20'000))) {
+        while (url.isEmpty()
+               && (process.canReadLine() || process.waitForReadyRead(TestRunner::patience))) {
             const QStringList line = QString::fromUtf8(process.readLine()).trimmed().split(u'\t');
             if (line[0] == "account"_L1) {
                 accounts.append(line);
@@ -40,7 +40,7 @@ struct Running {
     ~Running()
     {
         process.terminate();
-        process.waitForFinished(5000);
+        process.waitForFinished(TestRunner::patience);
     }
     Q_DISABLE_COPY_MOVE(Running)
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
             }
             QCOMPARE(counts, (QList<qsizetype>{12, 3, 2000, 0, 5, 2}));
             ::kill(static_cast<pid_t>(service.process.processId()), signal);
-            QVERIFY(service.process.waitForFinished(5000));
+            QVERIFY(service.process.waitForFinished(TestRunner::patience));
             QCOMPARE(service.process.exitStatus(), QProcess::NormalExit);
             QCOMPARE(service.process.exitCode(), 0);
             const QByteArray printed = service.process.readAll();

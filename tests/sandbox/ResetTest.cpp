@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
-#include "tests/support/TestRunner.h"
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

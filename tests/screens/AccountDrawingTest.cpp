@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/login/WZTLoginViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestWindow.h"
-#include "tests/support/WindowDriver.h"
+#include "tests/screens/ScreenStage.h"
 #include "views/PressedColor.h"
 #include "views/WZTAccountTableViewCell.h"
 #include "views/WZTButtonTableViewCell.h"
@@ -20,18 +17,14 @@ namespace {
 
 using sandbox::Fault;
 
-// The Account tab in a real window.
-struct Stage {
-    explicit Stage(const QSize &size = {390, 844}, const UIAppearance &appearance = {},
-                   const QString &name = u"Jo"_s, const QString &email = u"jo@wzt.example"_s)
+/// The Account tab.
+struct Stage : ScreenStage {
+    explicit Stage(const Options &options = {.size = {390, 844}, .appearance = {}})
+        : ScreenStage("Account", options)
     {
-        app.launchSignedIn(name, email);
-        app.delegate().tabController()->setSelectedIndex(1);
-        window.emplace(app, size, appearance);
-        window->settle();
     }
 
-    [[nodiscard]] UITableView *table() { return app.delegate().userVC()->tableView(); }
+    [[nodiscard]] UITableView *table() { return delegate().userVC()->tableView(); }
     template <class Cell>
     [[nodiscard]] Cell &cell(int entry)
     {
@@ -44,10 +37,9 @@ struct Stage {
     {
         return logout().backgroundColor() == pressedColor(UIColor::redColor());
     }
-    [[nodiscard]] QRectF rect(const QObject &control) { return window->rect(&control); }
     [[nodiscard]] QQuickItem *list()
     {
-        return window->drawing(table())->findChild<QQuickItem *>(u"list"_s);
+        return drawing(table())->findChild<QQuickItem *>(u"list"_s);
     }
     [[nodiscard]] double scrolled()
     {
@@ -55,9 +47,6 @@ struct Stage {
         return value("contentY") - value("originY") + value("verticalOvershoot");
     }
     [[nodiscard]] bool isRefreshing() { return table()->refreshControl()->isRefreshing(); }
-
-    TestApp app;
-    std::optional<TestWindow> window;
 };
 
 struct Fit {
@@ -98,20 +87,20 @@ private Q_SLOTS:
     void relations()
     {
         const auto &[tag, width, textScale, userName, address] = currentCase<Fit>();
-        Stage stage({width, 844}, {.textScale = textScale}, userName, address);
+        Stage stage({{width, 844}, {.textScale = textScale}, {1, address, userName}});
         WZTAccountTableViewCell &cell = stage.card();
-        const QRectF row = stage.rect(cell);
-        const QRectF card = stage.rect(*cell.cardBackgroundView());
-        const QRectF heading = stage.rect(*cell.headerLabel());
-        const QRectF button = stage.rect(*cell.editButton());
-        const QRectF since = stage.rect(*cell.userSinceLabel());
+        const QRectF row = stage.rect(&cell);
+        const QRectF card = stage.rect(cell.cardBackgroundView());
+        const QRectF heading = stage.rect(cell.headerLabel());
+        const QRectF button = stage.rect(cell.editButton());
+        const QRectF since = stage.rect(cell.userSinceLabel());
         QCOMPARE(card, row.adjusted(16, 0, -16, 0));
         QCOMPARE(heading.topLeft(), card.topLeft() + QPointF(14, 14));
         QVERIFY(heading.right() <= button.left() - 10 + 1e-6);
         QCOMPARE(button.right(), card.right() - 14);
         QVERIFY(isNear(button.center().y(), heading.center().y()));
         const QRectF divider(0, heading.bottom() + 14, width, 1);
-        QCOMPARE(stage.rect(*cell.dividerOneView()), divider);
+        QCOMPARE(stage.rect(cell.dividerOneView()), divider);
 
         const std::tuple<UILabel *, UIView *, UILabel *, double> values[] = {
             {cell.userNameLabel(), cell.dividerTwoView(), cell.userNameTitleLabel(), 10},
@@ -120,13 +109,12 @@ private Q_SLOTS:
         double above = divider.bottom();
         for (const auto &[label, line, caption, space] : values) {
             // As wide as its letters, or as the room.
-            const QRectF value = stage.rect(*label);
+            const QRectF value = stage.rect(label);
             QCOMPARE(value.topLeft(), QPointF(card.left() + 14, above + space));
-            QCOMPARE(value.width(),
-                     qMin(stage.window->drawing(label)->implicitWidth(), card.width() - 28));
-            QCOMPARE(stage.rect(*line), QRectF(value.left(), value.bottom() + 2, value.width(), 1));
-            QCOMPARE(stage.rect(*caption).topLeft(), value.bottomLeft() + QPointF(0, 2 + 1 + 2));
-            above = stage.rect(*caption).bottom();
+            QCOMPARE(value.width(), qMin(stage.drawing(label)->implicitWidth(), card.width() - 28));
+            QCOMPARE(stage.rect(line), QRectF(value.left(), value.bottom() + 2, value.width(), 1));
+            QCOMPARE(stage.rect(caption).topLeft(), value.bottomLeft() + QPointF(0, 2 + 1 + 2));
+            above = stage.rect(caption).bottom();
         }
         QCOMPARE(since.top(), above + 14);
         QVERIFY(isNear(since.center().x(), card.center().x()));
@@ -135,35 +123,32 @@ private Q_SLOTS:
 
     void smallCells()
     {
-        Stage stage({320, 568});
+        Stage stage(Stage::Options{});
         auto &header = stage.cell<WZTHeaderTableViewCell>(1);
-        const QRectF logo = stage.rect(*header.logoImageView());
-        const QRectF row = stage.rect(header);
+        const QRectF logo = stage.rect(header.logoImageView());
+        const QRectF row = stage.rect(&header);
         QVERIFY(std::abs(logo.height() - 49.046) < 0.01);
         QCOMPARE(logo, QRectF(129, row.top(), 62, row.height() - 10));
-        const QRectF button = stage.rect(stage.cell<WZTButtonTableViewCell>(7));
-        QCOMPARE(stage.rect(stage.logout()), button.adjusted(20, 0, -20, 0));
+        const QRectF button = stage.rect(&stage.cell<WZTButtonTableViewCell>(7));
+        QCOMPARE(stage.rect(&stage.logout()), button.adjusted(20, 0, -20, 0));
         // 14 below the header's section, and the platform's space above the next.
-        QVERIFY(std::abs(stage.rect(stage.card()).top() - row.bottom() - 14 - 18) < 0.01);
+        QVERIFY(std::abs(stage.rect(&stage.card()).top() - row.bottom() - 14 - 18) < 0.01);
 
-        stage.app.delegate().tabController()->setSelectedIndex(0);
-        stage.window->settle();
-        const auto find = [&](const QString &name) {
-            return WindowDriver::named(stage.window->view(), name);
-        };
-        QTRY_VERIFY(find(u"heart"_s));
-        const QRectF card = WindowDriver::rect(find(u"heart"_s)->parentItem());
-        QCOMPARE(WindowDriver::rect(find(u"heart"_s)), QRectF(145, card.top(), 30, 30));
-        QCOMPARE(WindowDriver::rect(find(u"thanks"_s)), card.adjusted(10, 34, -10, -4));
-        const QPoint heart = WindowDriver::centre(find(u"heart"_s));
-        QCOMPARE(stage.window->view().grabWindow().pixelColor(heart), QColor(Qt::red));
+        stage.delegate().tabController()->setSelectedIndex(0);
+        stage.settle();
+        QTRY_VERIFY(stage.named(u"heart"_s));
+        const QRectF card = TestWindow::rect(stage.named(u"heart"_s)->parentItem());
+        QCOMPARE(TestWindow::rect(stage.named(u"heart"_s)), QRectF(145, card.top(), 30, 30));
+        QCOMPARE(TestWindow::rect(stage.named(u"thanks"_s)), card.adjusted(10, 34, -10, -4));
+        const QPoint heart = stage.centre(stage.named(u"heart"_s));
+        QCOMPARE(stage.grab().pixelColor(heart), QColor(Qt::red));
     }
 
     void theCardCutsTheFirstDivider()
     {
-        Stage stage({390, 844}, {.style = UIUserInterfaceStyle::Light});
-        const QImage image = stage.window->view().grabWindow();
-        const QRect divider = stage.rect(*stage.card().dividerOneView()).toAlignedRect();
+        Stage stage({{390, 844}, {.style = UIUserInterfaceStyle::Light}});
+        const QImage image = stage.grab();
+        const QRect divider = stage.rect(stage.card().dividerOneView()).toAlignedRect();
         const auto color = [&](int x) { return image.pixelColor(x, divider.top()); };
         QCOMPARE(color(8), QColor(242, 242, 247));
         QVERIFY(color(18) != QColor(Qt::white));
@@ -174,76 +159,73 @@ private Q_SLOTS:
     void aFingerOnTheButton()
     {
         Stage stage;
-        const QPoint at = stage.rect(stage.logout()).center().toPoint();
-        WindowDriver::Finger scrolling(stage.window->view(), at);
+        const QPoint at = stage.rect(&stage.logout()).center().toPoint();
+        Finger scrolling(stage.view(), at);
         scrolling.move(at + QPoint(0, 70));
         scrolling.lift();
         QVERIFY(!stage.isPressed() && !stage.isRefreshing());
         QTRY_COMPARE(stage.scrolled(), 0);
 
-        WindowDriver::Finger pressing(stage.window->view(), at);
+        Finger pressing(stage.view(), at);
         QTRY_VERIFY(stage.isPressed());
-        const QColor drawn = stage.window->view().grabWindow().pixelColor(at - QPoint(150, 0));
+        const QColor drawn = stage.grab().pixelColor(at - QPoint(150, 0));
         QCOMPARE(drawn, pressedColor(UIColor::redColor()).drawn(false));
         pressing.move(at + QPoint(0, 150)); // the touch stays the button's
         QTRY_VERIFY(!stage.isPressed());
         QCOMPARE(stage.scrolled(), 0);
         pressing.move(at + QPoint(0, 5));
         QTRY_VERIFY(stage.isPressed());
-        QVERIFY(stage.app.delegate().currentUser());
+        QVERIFY(stage.delegate().currentUser());
         pressing.lift();
-        QTRY_VERIFY(stage.app.top<WZTLoginViewController>());
-        QCOMPARE(stage.app.host().taps, 1);
+        QTRY_VERIFY(stage.top<WZTLoginViewController>());
+        QCOMPARE(stage.host().taps, 1);
     }
 
     void pullsToRefresh()
     {
         Stage stage;
-        stage.app.service().updateAccount(
+        stage.service().updateAccount(
             {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
-        stage.app.service().stage("/user.php", Fault::delay(std::chrono::milliseconds(600)));
-        WindowDriver::Finger finger(stage.window->view(), {195, 600});
+        stage.service().stage("/user.php", Fault::delay(std::chrono::milliseconds(600)));
+        Finger finger(stage.view(), {195, 600});
         finger.move({195, 840});
         QVERIFY(stage.scrolled() < -80);
-        QVERIFY2(!stage.isRefreshing(), "before it is let go of");
+        QVERIFY2(!stage.isRefreshing(), "before the finger is lifted");
         finger.lift();
         QVERIFY(stage.isRefreshing());
         QTRY_COMPARE(stage.scrolled(), -60);
-        QVERIFY(stage.window->accessible(u"Loading"_s));
+        QVERIFY(stage.accessible(u"Loading"_s));
         QTRY_VERIFY(!stage.isRefreshing());
         QTRY_COMPARE(stage.scrolled(), 0);
-        QVERIFY(stage.window->accessible(u"Name: Joanna"_s));
-        QVERIFY(!stage.window->accessible(u"Loading"_s));
+        QVERIFY(stage.accessible(u"Name: Joanna"_s));
+        QVERIFY(!stage.accessible(u"Loading"_s));
     }
 
     void refreshesByKeyWhereItIsSeen()
     {
-        Stage stage({320, 400}, {.reduceMotion = true});
-        stage.app.service().stage("/user.php", Fault::silence(), -1);
+        Stage stage({.size = {320, 400}});
+        stage.service().stage("/user.php", Fault::silence(), -1);
         stage.card().editButton()->activate();
-        stage.window->settle();
-        stage.window->key(Qt::Key_F5);
+        stage.settle();
+        stage.key(Qt::Key_F5);
         QVERIFY2(!stage.isRefreshing(), "behind an alert");
-        stage.app.top<UIAlertController>()->triggerCancel();
-        stage.window->settle();
-        stage.app.delegate().tabController()->setSelectedIndex(0);
-        stage.window->key(Qt::Key_F5);
+        stage.top<UIAlertController>()->triggerCancel();
+        stage.settle();
+        stage.delegate().tabController()->setSelectedIndex(0);
+        stage.key(Qt::Key_F5);
         QVERIFY2(!stage.isRefreshing(), "in another tab");
-        stage.app.delegate().tabController()->setSelectedIndex(1);
-        stage.window->key(Qt::Key_F5);
+        stage.delegate().tabController()->setSelectedIndex(1);
+        stage.key(Qt::Key_F5);
         QVERIFY(stage.isRefreshing());
         QTRY_COMPARE(stage.scrolled(), -60);
         stage.table()->refreshControl()->endRefreshing();
         QTRY_COMPARE(stage.scrolled(), 0);
 
-        // What has the keyboard keeps it through the reload.
-        stage.app.service().clear();
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_F5}) {
-            stage.window->key(key);
-        }
+        // The keyboard focus survives the reload.
+        stage.service().clear();
+        stage.keys({Qt::Key_Tab, Qt::Key_F5});
         QTRY_VERIFY(!stage.isRefreshing());
-        QTRY_COMPARE(stage.window->view().activeFocusItem(),
-                     stage.window->drawing(stage.card().editButton()));
+        QTRY_COMPARE(stage.view().activeFocusItem(), stage.drawing(stage.card().editButton()));
     }
 
     // While the table is still on its way to the spinner.
@@ -258,16 +240,16 @@ private Q_SLOTS:
     void aRefreshThatEndsAtOnceLeavesTheTableInPlace()
     {
         const auto &[name, textScale, pulls] = currentCase<Refresh>();
-        Stage stage(textScale > 1 ? QSize(320, 568) : QSize(390, 844), {.textScale = textScale});
-        stage.app.service().stage("/user.php", Fault::close());
+        Stage stage({textScale > 1 ? QSize(320, 568) : QSize(390, 844), {.textScale = textScale}});
+        stage.service().stage("/user.php", Fault::close());
         if (pulls) {
-            WindowDriver::Finger finger(stage.window->view(), {30, 60});
+            Finger finger(stage.view(), {30, 60});
             finger.move({30, 380});
             finger.lift();
         } else {
-            stage.window->key(Qt::Key_F5);
+            stage.key(Qt::Key_F5);
         }
-        QTRY_COMPARE(stage.app.service().requests().size(), 1);
+        QTRY_COMPARE(stage.service().requests().size(), 1);
         QTRY_VERIFY(!stage.isRefreshing() && !stage.list()->property("moving").toBool());
         QTRY_COMPARE(stage.scrolled(), 0);
         QTRY_COMPARE(stage.list()->property("topMargin").toDouble(), 0);
@@ -275,14 +257,14 @@ private Q_SLOTS:
 
     void tabReachesWhatIsOutOfSight()
     {
-        Stage stage({320, 568}, {.textScale = 2});
-        const QQuickItem *button = stage.window->drawing(&stage.logout());
+        Stage stage({.appearance = {.textScale = 2}});
+        const QQuickItem *button = stage.drawing(&stage.logout());
         for (int i = 0; i < 10 && !button->hasActiveFocus(); ++i) {
-            stage.window->key(Qt::Key_Tab);
+            stage.key(Qt::Key_Tab);
         }
-        QTRY_VERIFY(WindowDriver::rect(stage.list()).contains(WindowDriver::rect(button)));
-        stage.window->key(Qt::Key_Space);
-        QTRY_VERIFY(stage.app.top<WZTLoginViewController>());
+        QTRY_VERIFY(TestWindow::rect(stage.list()).contains(TestWindow::rect(button)));
+        stage.key(Qt::Key_Space);
+        QTRY_VERIFY(stage.top<WZTLoginViewController>());
     }
 };
 

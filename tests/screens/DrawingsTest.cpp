@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/support/TestRunner.h"
+#include "harness/TestRunner.h"
 
 #include <QMetaType>
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
-/// What a class names as its drawing is there.
+/// Every drawing that a class names exists.
 class DrawingsTest : public QObject {
     Q_OBJECT
 

@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "screens/home/WZTRootViewController.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
 #include "screens/issues/WZTRootIssueViewController.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -31,33 +29,31 @@ Fault listOf(const QByteArrayList &titles)
 }
 
 // The projects are listed, and the service answers as staged.
-struct Stage {
+struct Stage : TestApp {
     Stage()
     {
-        app.launchSignedIn();
-        app.delegate().rootVC()->showIssueProjectList();
+        launchSignedIn();
+        delegate().rootVC()->showIssueProjectList();
     }
 
     [[nodiscard]] WZTRootIssueViewController &projects()
     {
-        const auto *navigation = app.delegate().rootVC()->navigationController();
+        const auto *navigation = delegate().rootVC()->navigationController();
         return dynamic_cast<WZTRootIssueViewController &>(*navigation->topViewController());
     }
     [[nodiscard]] WZTPackageIssuesViewController &open(int project)
     {
         projects().tableView()->chooseRowAtIndexPath({0, project});
         return dynamic_cast<WZTPackageIssuesViewController &>(
-            *app.top<UINavigationController>()->topViewController());
+            *top<UINavigationController>()->topViewController());
     }
     /// Covers the top screen and uncovers it, so that it appears once more.
     void coverAndUncover()
     {
-        app.top()->presentViewController(make<UIViewController>(), false);
-        app.top()->dismissViewControllerAnimated(false);
+        top()->presentViewController(make<UIViewController>(), false);
+        top()->dismissViewControllerAnimated(false);
     }
-    [[nodiscard]] qsizetype requests() { return app.service().requests().size(); }
-
-    TestApp app;
+    [[nodiscard]] qsizetype requests() { return service().requests().size(); }
 };
 
 QStringList titles(const WZTPackageIssuesViewController *screen)
@@ -80,7 +76,7 @@ private Q_SLOTS:
     void rowsAndTheirLinks()
     {
         Stage stage;
-        TestApp &app = stage.app;
+        TestApp &app = stage;
         WZTRootViewController &home = *app.delegate().rootVC();
         home.loadViewIfNeeded();
         QStringList images;
@@ -92,6 +88,9 @@ private Q_SLOTS:
         QCOMPARE(images.join(u' '), u"bugreport add add discord"_s);
         QCOMPARE(home.cellForRowAtIndexPath({2, 0})->selectionStyle(),
                  UITableViewCellSelectionStyle::None);
+        for (const auto &[section, footer] : {std::pair(0, 14), {1, 0}, {2, 0}}) {
+            QCOMPARE(home.heightForFooterInSection(section), footer);
+        }
 
         const QString zebra = u"zbra://sources/add/"_s;
         const QString cydia = u"cydia://url/https://share.wzt.example/api/share#?source="_s;
@@ -123,11 +122,11 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtInfoMsg, qPrintable(line));
         screen.navigationItem()->rightBarButtonItem()->trigger();
         const auto *form = dynamic_cast<WZTIssueReporterViewController *>(
-            stage.app.top<UINavigationController>()->topViewController());
+            stage.top<UINavigationController>()->topViewController());
         QCOMPARE(form->package(), screen.package());
 
-        stage.app.service().stage(path, listOf({"new"}));
-        stage.app.top()->dismissViewControllerAnimated(true);
+        stage.service().stage(path, listOf({"new"}));
+        stage.top()->dismissViewControllerAnimated(true);
         QTRY_COMPARE(titles(&screen), QStringList{u"new"_s}); // fetched as it appears again
     }
 
@@ -140,19 +139,19 @@ private Q_SLOTS:
             {Fault::close(), {}},
         };
         Stage stage;
-        stage.app.service().stage(path, Fault::close());
+        stage.service().stage(path, Fault::close());
         WZTPackageIssuesViewController &screen = stage.open(0);
         QStringList before;
         for (const auto &[reply, shown] : outcomes) {
             QTRY_VERIFY(!screen.activityIndicator()->isAnimating());
             QCOMPARE(titles(&screen), before);
-            stage.app.service().stage(path, reply);
+            stage.service().stage(path, reply);
             stage.coverAndUncover();
             QVERIFY(screen.activityIndicator()->isAnimating());
             QCOMPARE(titles(&screen), before); // until the reply
             QTRY_COMPARE(titles(&screen), shown);
             QCOMPARE(screen.packageIssues().has_value(), !shown.isEmpty());
-            QCOMPARE(stage.app.alert(), QString());
+            QCOMPARE(stage.alert(), QString());
             before = shown;
         }
     }
@@ -160,7 +159,7 @@ private Q_SLOTS:
     void aRowShowsWhatItsIssueHas()
     {
         Stage stage;
-        stage.app.service().stage(path, Fault::json(R"([{"title":"One","description":"More"},
+        stage.service().stage(path, Fault::json(R"([{"title":"One","description":"More"},
             {"title":"One"},{"description":"More"},{},{"title":"One","description":null}])"));
         WZTPackageIssuesViewController &screen = stage.open(0);
         QTRY_COMPARE(screen.numberOfRowsInSection(0), 5);
@@ -181,10 +180,10 @@ private Q_SLOTS:
     {
         for (const bool cancelled : {false, true}) {
             Stage stage;
-            stage.app.service().stage(path, listOf({"first"}).after(300ms));
+            stage.service().stage(path, listOf({"first"}).after(300ms));
             const QPointer<WZTPackageIssuesViewController> screen = &stage.open(0);
             QTRY_COMPARE(stage.requests(), 1);
-            stage.app.service().stage(path, listOf({"second"}).after(100ms));
+            stage.service().stage(path, listOf({"second"}).after(100ms));
             stage.coverAndUncover();
             if (cancelled) {
                 screen->cancel(nullptr);

@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/xlform/XLFormTextFieldCell.h"
 #include "platform/xlform/XLFormTextViewCell.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,18 +23,18 @@ const QString failure = u"Submission Error|There was a problem submitting your i
                         "If this persists, let WZT know.|(Dismiss)"_s;
 
 // Jo is signed in and has the form open for the first project.
-struct Stage {
+struct Stage : TestApp {
     Stage()
     {
-        app.launchSignedIn();
+        launchSignedIn();
         open();
     }
 
     void open()
     {
         form = make<WZTIssueReporterViewController>(package);
-        app.delegate().tabController()->presentViewController(make<UINavigationController>(form),
-                                                              false);
+        delegate().tabController()->presentViewController(make<UINavigationController>(form),
+                                                          false);
     }
     template <class Cell>
     [[nodiscard]] Cell &cell(std::size_t section)
@@ -47,11 +46,9 @@ struct Stage {
     [[nodiscard]] UITextView &notes() { return *cell<XLFormTextViewCell>(2).textView(); }
     void submit() { form->navigationItem()->rightBarButtonItem()->trigger(); }
     void cancel() { form->navigationItem()->leftBarButtonItem()->trigger(); }
-    void dismissAlert() { app.top<UIAlertController>()->triggerCancel(); }
+    void dismissAlert() { top<UIAlertController>()->triggerCancel(); }
     /// How many controllers are in the window: the tabs alone, or the form and alerts as well.
-    [[nodiscard]] int shown() { return app.delegate().window()->presentation()->rowCount(); }
-
-    TestApp app;
+    [[nodiscard]] int shown() { return delegate().window()->presentation()->rowCount(); }
     std::shared_ptr<WZTPackage> package = WZTPackage::allPackages().front();
     std::shared_ptr<WZTIssueReporterViewController> form;
 };
@@ -94,14 +91,14 @@ private Q_SLOTS:
         const auto &[name, title, notes, fault, sent, alert] = currentCase<Outcome>();
         Stage stage;
         if (fault) {
-            stage.app.service().stage("/submitissue.php", *fault);
+            stage.service().stage("/submitissue.php", *fault);
         }
         stage.title().edit(title);
         stage.notes().edit(notes);
         stage.submit();
-        QCOMPARE(stage.app.application().firstResponder() == nullptr, !sent.isEmpty());
-        QTRY_COMPARE(stage.app.alert(), alert);
-        const auto requests = stage.app.service().requests();
+        QCOMPARE(stage.application().firstResponder() == nullptr, !sent.isEmpty());
+        QTRY_COMPARE(stage.alert(), alert);
+        const auto requests = stage.service().requests();
         QCOMPARE(requests.size(), sent.isEmpty() ? 0 : 1);
         if (!requests.isEmpty()) {
             QCOMPARE(requests[0].method, "POST");
@@ -114,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(stage.notes().text(), notes);
         if (alert == failure) { // and can be sent again
             stage.submit();
-            QTRY_COMPARE(stage.app.alert(), success);
+            QTRY_COMPARE(stage.alert(), success);
         }
     }
 
@@ -125,7 +122,7 @@ private Q_SLOTS:
         stage.submit();
         stage.submit();
         QTRY_COMPARE(stage.shown(), 4); // two alerts
-        QCOMPARE(stage.app.service().issues(stage.package->bundleIdentifier).size(), 2);
+        QCOMPARE(stage.service().issues(stage.package->bundleIdentifier).size(), 2);
         stage.dismissAlert();
         QCOMPARE(stage.shown(), 1);
     }
@@ -136,12 +133,12 @@ private Q_SLOTS:
         stage.title().edit(u"Never"_s);
         stage.cancel();
         QCOMPARE(stage.shown(), 1);
-        QVERIFY(stage.app.service().requests().isEmpty());
+        QVERIFY(stage.service().requests().isEmpty());
         stage.open();
         QVERIFY(!stage.form->isModalInPresentation()); // nothing was kept
 
         // A reply that comes after Cancel.
-        stage.app.service().stage("/submitissue.php", Fault::delay(50ms));
+        stage.service().stage("/submitissue.php", Fault::delay(50ms));
         stage.title().edit(u"Late"_s);
         stage.submit();
         stage.cancel();
@@ -149,7 +146,7 @@ private Q_SLOTS:
         stage.form.reset();
         QTRY_VERIFY(!form); // the reply was the last to hold it
         QCOMPARE(stage.shown(), 1);
-        QCOMPARE(stage.app.service().requests().size(), 1);
+        QCOMPARE(stage.service().requests().size(), 1);
     }
 };
 

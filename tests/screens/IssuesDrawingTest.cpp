@@ -1,37 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
 #include "model/WZTPackage.h"
-#include "sandbox/DemoIssues.h"
 #include "screens/home/WZTRootViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestWindow.h"
-#include "tests/support/WindowDriver.h"
+#include "tests/screens/ScreenStage.h"
 
 #include <QAccessible>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Home, in a real window.
-struct Stage {
-    Stage()
-    {
-        app.launchSignedIn();
-        window.emplace(app, QSize(390, 844), UIAppearance{.reduceMotion = true});
-        window->settle();
-    }
-
-    TestApp app;
-    std::optional<TestWindow> window;
+struct Stage : ScreenStage {
+    Stage() : ScreenStage("Home", {.size = {390, 844}}) {}
 };
 
-// A person's way to choose what is named so.
-using Manner = std::tuple<const char *, void (*)(TestWindow &, const QString &)>;
+// A way to choose the item of that name.
+using Way = std::tuple<const char *, void (*)(TestWindow &, const QString &)>;
 
 void touch(TestWindow &window, const QString &name)
 {
@@ -62,13 +48,13 @@ class IssuesDrawingTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anIssueIsReported_data() { addCases<Manner>({{"touch", touch}, {"keyboard", keys}}); }
+    void anIssueIsReported_data() { addCases<Way>({{"touch", touch}, {"keyboard", keys}}); }
 
     void anIssueIsReported()
     {
-        const auto choose = std::get<1>(currentCase<Manner>());
+        const auto choose = std::get<1>(currentCase<Way>());
         Stage stage;
-        TestWindow &window = *stage.window;
+        TestWindow &window = stage;
         const auto go = [&](const QString &to) {
             choose(window, to);
             window.settle();
@@ -82,8 +68,7 @@ private Q_SLOTS:
                 return row && row->text(QAccessible::Description) == position;
             });
         };
-        const auto filed = [&] { return stage.app.service().issues(u"example.wzt.itsmarrow"_s); };
-        QVERIFY(stage.app.service().addIssues(sandbox::demoIssues()));
+        const auto filed = [&] { return stage.service().issues(u"example.wzt.itsmarrow"_s); };
         go(u"Bug Reporter"_s);
         go(u"Marrow!"_s);
         QVERIFY2(!window.accessible(u"Pintle"_s), "what is covered is read out");
@@ -92,13 +77,11 @@ private Q_SLOTS:
         go(u"Add"_s);
         window.type(u"It crashes"_s);
         window.key(Qt::Key_Return);
-        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-        QCoreApplication::sendEvent(&window.view(), &held); // writes no line
         window.type(u"Every\rtime"_s);
         window.key(Qt::Key_Escape); // loses nothing
         go(u"Submit"_s);
         QTRY_VERIFY(window.accessible(u"Submission Success"_s));
-        QVERIFY(!stage.app.application().firstResponder());
+        QVERIFY(!stage.application().firstResponder());
         window.settle();
         QVERIFY2(!window.accessible(u"Submit"_s), "what an alert blocks is read out");
         go(u"Dismiss"_s);
@@ -114,48 +97,43 @@ private Q_SLOTS:
     void aDoubleTapGoesOneScreenFurther()
     {
         Stage stage;
-        QQuickView &view = stage.window->view();
-        const QRect row = stage.window->accessible(u"Bug Reporter"_s)->rect();
-        for (int i = 0; i < 2; ++i) { // where a project is going to be
-            WindowDriver::tap(view, view.mapFromGlobal(row.center()));
+        const QPoint row = stage.centre(u"Bug Reporter"_s);
+        for (int i = 0; i < 2; ++i) { // a project comes to the same place
+            stage.tap(row);
         }
-        stage.window->settle();
-        QVERIFY(stage.window->accessible(u"Projects"_s));
+        stage.settle();
+        QVERIFY(stage.accessible(u"Projects"_s));
     }
 
     void aSwipeBackChoosesAndScrollsNothing()
     {
         Stage stage;
-        stage.app.delegate().rootVC()->showIssueProjectList();
-        stage.window->settle();
-        const QPoint centre = stage.window->accessible(u"Marrow!"_s)->rect().center();
-        const QPoint row(10, stage.window->view().mapFromGlobal(centre).y());
-        WindowDriver::Finger finger(stage.window->view(), row);
+        stage.delegate().rootVC()->showIssueProjectList();
+        stage.settle();
+        const QPoint row(10, stage.centre(u"Marrow!"_s).y());
+        Finger finger(stage.view(), row);
         finger.move(row + QPoint(300, 60));
-        QCOMPARE(WindowDriver::items(stage.window->view(), u"QQuickListView"_s)
-                     .last()
-                     ->property("contentY"),
-                 0.0);
+        QCOMPARE(stage.items(u"QQuickListView"_s).last()->property("contentY"), 0.0);
         finger.lift();
-        stage.window->settle();
-        QVERIFY(stage.window->accessible(u"Bug Reporter"_s));
-        QVERIFY(!stage.window->accessible(u"Marrow! Issues"_s));
+        stage.settle();
+        QVERIFY(stage.accessible(u"Bug Reporter"_s));
+        QVERIFY(!stage.accessible(u"Marrow! Issues"_s));
     }
 
     void theSpinnerIsOverTheMiddle()
     {
         Stage stage;
-        QVERIFY2(!WindowDriver::named(stage.window->view(), u"indicator"_s)->isVisible(), "Home");
-        stage.app.service().stage("/issues.php", sandbox::Fault::silence());
+        QVERIFY2(!stage.named(u"indicator"_s)->isVisible(), "Home");
+        stage.service().stage("/issues.php", sandbox::Fault::silence());
         auto issues = make<WZTPackageIssuesViewController>(WZTPackage::allPackages().front());
-        stage.app.delegate().rootVC()->showViewController(issues);
-        stage.window->settle();
-        const QQuickItem *spinner = stage.window->drawing(issues->activityIndicator());
-        const QQuickItem *table = stage.window->drawing(issues->tableView());
+        stage.delegate().rootVC()->showViewController(issues);
+        stage.settle();
+        const QQuickItem *spinner = stage.drawing(issues->activityIndicator());
+        const QQuickItem *table = stage.drawing(issues->tableView());
         QVERIFY(spinner->isVisible());
-        QCOMPARE(WindowDriver::centre(spinner), WindowDriver::centre(table));
+        QCOMPARE(stage.centre(spinner), stage.centre(table));
         QCOMPARE(table->childItems().last(), spinner); // nothing is drawn over it
-        QVERIFY(stage.window->accessible(u"Loading"_s));
+        QVERIFY(stage.accessible(u"Loading"_s));
     }
 };
 

@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "app/WZTTabBarController.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
 #include "screens/login/WZTLoginViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/TestWindow.h"
+#include "tests/screens/ScreenStage.h"
 
 #include <QQuickItem>
 #include <QRegularExpression>
@@ -17,19 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A sign-in screen in a real window.
-struct Stage {
+struct Stage : ScreenStage {
     explicit Stage(const QSize &size = {390, 844}, const UIAppearance &appearance = {})
+        : ScreenStage("Login", {size, appearance})
     {
-        app.launch();
-        window.emplace(app, size, appearance);
-        window->settle();
-        login = app.top<WZTLoginViewController>();
     }
 
-    TestApp app;
-    std::optional<TestWindow> window;
-    WZTLoginViewController *login = nullptr;
+    WZTLoginViewController *login = top<WZTLoginViewController>();
 };
 
 using Fit = std::tuple<const char *, int, double>;
@@ -57,7 +49,7 @@ private Q_SLOTS:
         const auto &[name, width, textScale] = currentCase<Fit>();
         Stage stage({width, 844}, {.textScale = textScale});
         stage.login->activityIndicator()->startAnimating();
-        const auto rect = [&](const QObject *control) { return stage.window->rect(control); };
+        const auto rect = [&](const QObject *control) { return stage.rect(control); };
         const QRectF logo = rect(stage.login->logoImageView());
         const QRectF card = rect(stage.login->formContainer());
         const QRectF header = rect(stage.login->headerLabel());
@@ -87,62 +79,52 @@ private Q_SLOTS:
     void signInByKeyboard()
     {
         Stage stage;
-        stage.app.service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s},
-                                       u"secret"_s);
-        stage.window->type(u"jo@wzt.example"_s); // the keyboard is in the e-mail field
-        stage.window->key(Qt::Key_Return);
-        stage.window->type(u"secret"_s);
-        stage.window->key(Qt::Key_Return);
-        QTRY_VERIFY(stage.app.top<WZTTabBarController>());
-        QCOMPARE(stage.app.delegate().currentUser()->userName, u"Jo"_s);
+        stage.service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s}, u"secret"_s);
+        stage.type(u"jo@wzt.example"_s); // the keyboard is in the e-mail field
+        stage.key(Qt::Key_Return);
+        stage.type(u"secret"_s);
+        stage.key(Qt::Key_Return);
+        QTRY_VERIFY(stage.top<WZTTabBarController>());
+        QCOMPARE(stage.delegate().currentUser()->userName, u"Jo"_s);
     }
 
     void taps()
     {
         Stage stage;
-        TestWindow &window = *stage.window;
         const auto edits = [](const UITextField *field) { return field->isFirstResponder(); };
         for (int i = 0; i < 2; ++i) { // one in the field that is edited ends nothing
-            window.tap(stage.login->passwordTextField());
+            stage.tap(stage.login->passwordTextField());
             QTRY_VERIFY(edits(stage.login->passwordTextField()));
         }
-        window.tap(stage.login->logoImageView());
+        stage.tap(stage.login->logoImageView());
         QTRY_VERIFY(!edits(stage.login->passwordTextField()));
-        window.tap(stage.login->emailTextField());
+        stage.tap(stage.login->emailTextField());
         QTRY_VERIFY(edits(stage.login->emailTextField()));
-        window.tap(stage.login->registerButton()); // ends editing and still counts
-        QTRY_VERIFY(stage.app.top<UIAlertController>());
-        QCOMPARE(stage.app.host().taps, 1);
+        stage.tap(stage.login->registerButton()); // ends editing and still counts
+        QTRY_VERIFY(stage.top<UIAlertController>());
+        QCOMPARE(stage.host().taps, 1);
     }
 
     void aHeldReturnActsOnce()
     {
         Stage stage;
-        const auto hold = [&] {
-            QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-            QCoreApplication::sendEvent(&stage.window->view(), &repeat);
-        };
-        stage.window->key(Qt::Key_Tab);
-        stage.window->key(Qt::Key_Return); // nothing is typed: an alert
-        hold();
-        stage.window->settle();
-        hold();
-        QVERIFY(stage.app.top<UIAlertController>());
-        QCOMPARE(stage.app.host().taps, 1);
+        stage.key(Qt::Key_Tab);
+        stage.hold(Qt::Key_Return); // nothing is typed: an alert
+        QVERIFY(stage.top<UIAlertController>());
+        QCOMPARE(stage.host().taps, 1);
     }
 
     void closedScreensDieWithWhatDrewThem()
     {
         Stage stage({390, 844}, {.reduceMotion = true});
-        TestApp &app = stage.app;
-        WZTTabBarController &tabs = *app.delegate().tabController();
-        const QObject *root = stage.window->view().contentItem();
+        WZTTabBarController &tabs = *stage.delegate().tabController();
+        const QObject *root = stage.view().contentItem();
         std::vector<QPointer<QObject>> closed;
         qsizetype items = 0;
         for (int i = 0; i < 300; ++i) {
-            auto *login = app.top<WZTLoginViewController>();
+            auto *login = stage.top<WZTLoginViewController>();
             login->registerButton()->activate();
-            closed.insert(closed.end(), {login, app.top()});
+            closed.insert(closed.end(), {login, stage.top()});
             tabs.dismissViewControllerAnimated(false);
 
             const auto form =
@@ -150,7 +132,7 @@ private Q_SLOTS:
             const auto navigation = make<UINavigationController>(form);
             closed.insert(closed.end(), {navigation.get(), form.get()});
             tabs.presentViewController(navigation, false);
-            stage.window->type(u"x"_s);
+            stage.type(u"x"_s);
             if (i % 100 == 0) { // the reply finds the form gone
                 QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^Query Items: "_s));
                 form->submitPressed(nullptr);
@@ -168,7 +150,7 @@ private Q_SLOTS:
         };
         QTRY_COMPARE(alive(), 0);
         QCOMPARE(root->findChildren<QObject *>().size(), items);
-        QVERIFY2(app.top<WZTLoginViewController>(), "a late reply shows an alert");
+        QVERIFY2(stage.top<WZTLoginViewController>(), "a late reply shows an alert");
     }
 };
 

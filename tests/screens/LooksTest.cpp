@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
 #include "screens/issues/WZTRootIssueViewController.h"
 #include "screens/login/WZTLoginViewController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,8 +18,8 @@ using Content = UITextContentType;
 using Correction = UITextAutocorrectionType;
 using Keyboard = UIKeyboardType;
 
-// Fields that are asked for, and what they ask of the keyboard.
-struct Asking {
+// An alert, and its fields' keyboard traits.
+struct Alert {
     const char *name;
     bool signedIn;
     void (*ask)(TestApp &app);
@@ -40,12 +39,12 @@ bool isDrawnAs(const UIColor &color, const UIColor &expected)
 
 } // namespace
 
-/// What the screens and their fields are like.
+/// Colours of the screens, keyboards of their fields.
 class LooksTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void alertsAsk_data()
+    void alertFields_data()
     {
         const auto lines = Capitals::Sentences;
         const UITextInputTraits name{Keyboard::ASCIICapable, lines, Correction::Yes, Content::Name};
@@ -54,7 +53,7 @@ private Q_SLOTS:
         const auto secret = [](Correction correction, Content content) {
             return UITextInputTraits{Keyboard::Default, lines, correction, content, true};
         };
-        addCases<Asking>({
+        addCases<Alert>({
             {"reset",
              false,
              [](TestApp &app) { login(app).forgotPasswordButton()->activate(); },
@@ -74,9 +73,9 @@ private Q_SLOTS:
         });
     }
 
-    void alertsAsk()
+    void alertFields()
     {
-        const auto &[name, signedIn, ask, alert, traits] = currentCase<Asking>();
+        const auto &[name, signedIn, ask, alert, traits] = currentCase<Alert>();
         for (const double version : {11, 12}) {
             TestApp app;
             signedIn ? app.launchSignedIn() : app.launch();

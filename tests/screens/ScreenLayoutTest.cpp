@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/TestWindow.h"
 #include "tests/screens/ScreenStage.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/WindowDriver.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,44 +10,27 @@ namespace {
 
 constexpr QSize sizes[] = {{320, 568}, {390, 844}, {768, 1024}, {1280, 800}, {568, 320}};
 constexpr double textScales[] = {1, 1.5, 2};
-/// What keeps any text from an edge of the window, in points.
+/// The least distance of a text from an edge of the window, in points.
 constexpr double margin = 8;
 
 /// A text as it is drawn.
 struct Drawn {
     QString text;
     QRectF whole; // in the window
-    QRectF seen; // of that, what no item around it cuts off
+    QRectF seen; // the part that no item around it clips
     QQuickItem *item;
 };
-
-QRectF painted(QQuickItem *item)
-{
-    const double width = qMin(item->property("contentWidth").toDouble(), item->width());
-    const double height = item->property("contentHeight").toDouble();
-    const int alignment = item->property("effectiveHorizontalAlignment").toInt();
-    const int vertical = item->property("verticalAlignment").toInt();
-    const double x = item->width() - width;
-    const double y = item->height() - height;
-    return item->mapRectToScene({alignment == Qt::AlignLeft        ? 0
-                                     : alignment == Qt::AlignRight ? x
-                                                                   : x / 2,
-                                 vertical == Qt::AlignTop          ? 0
-                                     : vertical == Qt::AlignBottom ? y
-                                                                   : y / 2,
-                                 width, height});
-}
 
 void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
 {
     if (!item->isVisible() || item->opacity() == 0) {
         return;
     }
-    const QRectF clipped = item->clip() ? seen & WindowDriver::rect(item) : seen;
+    const QRectF clipped = item->clip() ? seen & TestWindow::rect(item) : seen;
     const QString text = item->property("text").toString();
     const bool edits = item->inherits("QQuickTextInput");
     if (!text.isEmpty() && (edits || item->inherits("QQuickText"))) {
-        const QRectF whole = edits ? WindowDriver::rect(item) : painted(item);
+        const QRectF whole = edits ? TestWindow::rect(item) : painted(item);
         texts.append({text, whole, whole & clipped, item});
     }
     for (QQuickItem *child : item->childItems()) {
@@ -56,10 +38,10 @@ void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
     }
 }
 
-/// The texts of what lies on top.
+/// The texts of the topmost entry.
 QList<Drawn> textsOf(QQuickView &view)
 {
-    QList<QQuickItem *> entries = WindowDriver::items(view, u"UITransitionEntryView"_s);
+    QList<QQuickItem *> entries = TestWindow(view).items(u"UITransitionEntryView"_s);
     entries.removeIf([](QQuickItem *entry) { return entry->property("page").toBool(); });
     QList<Drawn> texts;
     collect(entries.last(), QRectF(QPointF(), view.size()), texts);
@@ -131,7 +113,7 @@ QStringList complaints(QQuickView &view)
 QStringList hiddenMarks(QQuickView &view)
 {
     const double room = view.height() / 2.0;
-    WindowDriver::showKeyboard(view, room);
+    TestWindow(view).showKeyboard(room);
     QStringList found;
     for (int tabs = 0; tabs < 6; ++tabs) {
         view.grabWindow();
@@ -143,13 +125,13 @@ QStringList hiddenMarks(QQuickView &view)
         }
         QTest::keyClick(&view, Qt::Key_Tab);
     }
-    WindowDriver::showKeyboard(view, 0);
+    TestWindow(view).showKeyboard(0);
     return found;
 }
 
 } // namespace
 
-/// What holds for every screen, in every size and with every size of text.
+/// Rules for the texts of every screen, in every window size and text size.
 class ScreenLayoutTest : public QObject {
     Q_OBJECT
 
@@ -157,8 +139,8 @@ private Q_SLOTS:
     void everyTextHasItsPlace_data()
     {
         std::vector<Screen> screens = allScreens();
-        screens.push_back({"message", false, {u"Login"_s}, {}, {}, {}});
-        screens.push_back({"registration", false, {u"Need an Account?"_s}, {}, {}, {}});
+        screens.push_back({"message", false, "Login", "", "", ""});
+        screens.push_back({"registration", false, "Need an Account?", "", "", ""});
         addCases(screens);
     }
 
@@ -169,11 +151,11 @@ private Q_SLOTS:
                      u"Maximiliane Alexandra Featherstonehaugh-Cholmondeley"_s);
         user.joinDate = NSDate{0};
         ScreenStage stage(screen, {.user = user});
-        QQuickView &view = stage.window->view();
+        QQuickView &view = stage.view();
         for (const QSize &size : sizes) {
             for (const double textScale : textScales) {
                 // All at once, as a desktop changes under an application that runs.
-                stage.app.application().traits().setOverride(
+                stage.application().traits().setOverride(
                     UIAppearance{.textScale = textScale, .reduceMotion = true});
                 view.resize(size);
                 QTRY_COMPARE(view.contentItem()->size().toSize(), size);

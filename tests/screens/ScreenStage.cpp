@@ -2,79 +2,73 @@
 // SPDX-License-Identifier: MIT
 #include "tests/screens/ScreenStage.h"
 
+#include "harness/TestRunner.h"
 #include "sandbox/DemoIssues.h"
-#include "tests/support/WindowDriver.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 const std::vector<Screen> &allScreens()
 {
     static const std::vector<Screen> screens{
-        {"Login",
-         false,
-         {},
-         u"Email, Password, Login, Forgot Password?, Need an Account?"_s,
-         u"Login"_s,
-         u"Login"_s},
-        {"Home", true, {}, u"rows, Home, Account"_s, u"Bug Reporter"_s, u"Bug Reporter"_s},
-        {"projects",
-         true,
-         {u"Bug Reporter"_s},
-         u"rows, Home, Account, Back to Home"_s,
-         u"Bug Reporter"_s,
-         u"Bug Reporter"_s},
-        {"issues",
-         true,
-         {u"Bug Reporter"_s, u"Pintle"_s},
-         u"rows, Cancel, Add"_s,
-         u"Marrow!"_s,
-         u"Pintle Issues"_s},
-        {"new issue",
-         true,
-         {u"Bug Reporter"_s, u"Pintle"_s, u"Add"_s},
-         u"Title, Notes, Cancel, Submit"_s,
-         u"Pintle Issues"_s,
-         u"New Issue"_s},
-        {"Account",
-         true,
-         {u"Account"_s},
-         u"rows, Update, Logout, Home, Account"_s,
-         u"Logout"_s,
-         u"Logout"_s},
-        {"alert",
-         true,
-         {u"Account"_s, u"Update"_s},
-         u"Name, New Password, Current Password, Dismiss, Update"_s,
-         u"Logout"_s,
-         u"Update Account"_s},
+        {"Login", false, "", "Email, Password, Login, Forgot Password?, Need an Account?", "Login",
+         "Login"},
+        {"Home", true, "", "rows, Home, Account", "Bug Reporter", "Bug Reporter"},
+        {"projects", true, "Bug Reporter", "rows, Home, Account, Back to Home", "Bug Reporter",
+         "Bug Reporter"},
+        {"issues", true, "Bug Reporter|Pintle", "rows, Cancel, Add", "Marrow!", "Pintle Issues"},
+        {"new issue", true, "Bug Reporter|Pintle|Add", "Title, Notes, Cancel, Submit",
+         "Pintle Issues", "New Issue"},
+        {"Account", true, "Account", "rows, Update, Logout, Home, Account", "Logout", "Logout"},
+        {"alert", true, "Account|Update", "Name, New Password, Current Password, Dismiss, Update",
+         "Logout", "Update Account"},
     };
     return screens;
 }
 
+QRectF painted(const QQuickItem *item)
+{
+    QRectF area(0, 0, item->width(), item->height());
+    const auto number = [item](const char *name) { return item->property(name).toDouble(); };
+    const auto shrink = [](double whole, double part, bool atStart, bool atEnd) {
+        const double room = part > 0 ? qMax(0.0, whole - part) : 0;
+        return std::pair(atStart ? 0 : atEnd ? room : room / 2, whole - room);
+    };
+    const int across = item->property("effectiveHorizontalAlignment").toInt();
+    const int along = item->property("verticalAlignment").toInt();
+    const auto [x, width] = shrink(area.width(), number("contentWidth"), across == Qt::AlignLeft,
+                                   across == Qt::AlignRight);
+    const auto [y, height] = shrink(area.height(), number("contentHeight"), along == Qt::AlignTop,
+                                    along == Qt::AlignBottom);
+    return item->mapRectToScene({x, y, width, height});
+}
+
 ScreenStage::ScreenStage(const Screen &screen, const Options &options)
 {
-    if (screen.signedIn) {
-        app.keepUser(options.user);
-    }
-    if (!app.service().addIssues(sandbox::demoIssues())) {
+    if (!service().addIssues(sandbox::demoIssues())) {
         qFatal("no issues");
     }
-    app.launch();
-    window.emplace(app, options.size,
-                   UIAppearance{.textScale = options.textScale, .reduceMotion = true});
-    for (const QString &name : screen.path) {
-        window->settle();
-        accessible(name)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    screen.signedIn ? launchSignedIn(options.user) : launch();
+    open(*delegate().window(), options.size, options.appearance);
+    for (const QString &name : QString::fromLatin1(screen.path).split(u'|', Qt::SkipEmptyParts)) {
+        settle();
+        press(name);
     }
-    window->settle();
+    settle();
     if (accessible(u"Loading"_s)) { // or rows would come while they are looked at
         QTRY_VERIFY(!accessible(u"Loading"_s));
     }
+    host().taps = 0; // those on the way
 }
 
-QAccessibleInterface *ScreenStage::accessible(const QString &name)
+ScreenStage::ScreenStage(const char *screen, const Options &options)
+    : ScreenStage(
+        *std::ranges::find_if(allScreens(),
+                              [=](const Screen &each) { return !qstrcmp(each.name, screen); }),
+        options)
 {
-    return WindowDriver::accessible(window->view(), name);
+}
+
+ScreenStage::~ScreenStage()
+{
+    close();
 }

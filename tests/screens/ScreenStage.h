@@ -2,44 +2,44 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/support/TestApp.h"
-#include "tests/support/TestWindow.h"
+#include "harness/TestApp.h"
+#include "harness/TestWindow.h"
 
 #include <QAccessible>
 
-#include <optional>
 #include <vector>
 
-/// A screen or an alert, and what keys do there.
+/// A screen or an alert, and its keyboard behaviour.
 struct Screen {
     const char *name;
     bool signedIn;
-    /// What is pressed on the way.
-    QStringList path;
-    /// Where Tab comes to, from the first on.
-    QString walk;
-    /// What is there after Escape.
-    QString escaped;
-    /// What is there after Alt+Left.
-    QString back;
+    const char *path; // the items pressed on the way: "one|two"
+    const char *walk; // the stops of Tab
+    const char *escaped; // an item after Escape
+    const char *back; // an item after Alt+Left
 };
 
 /// Every screen, and an alert.
 [[nodiscard]] const std::vector<Screen> &allScreens();
 
-/// The application at one of its screens.
-struct ScreenStage {
+/// The rectangle of an item, or of the text in it, in the window.
+[[nodiscard]] QRectF painted(const QQuickItem *item);
+
+/// The application in its window, at one of its screens.
+class ScreenStage : public TestApp, public TestWindow {
+public:
     struct Options {
         QSize size = {320, 568};
-        double textScale = 1;
-        WZTUser user = {42, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
+        UIAppearance appearance = {.reduceMotion = true};
+        /// Who is signed in, with the password "secret".
+        WZTUser user = {1, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
     };
 
     explicit ScreenStage(const Screen &screen) : ScreenStage(screen, Options()) {}
     ScreenStage(const Screen &screen, const Options &options);
-
-    [[nodiscard]] QAccessibleInterface *accessible(const QString &name);
-
-    TestApp app;
-    std::optional<TestWindow> window;
+    /// At the screen of that name.
+    explicit ScreenStage(const char *screen) : ScreenStage(screen, Options()) {}
+    ScreenStage(const char *screen, const Options &options);
+    ~ScreenStage();
+    Q_DISABLE_COPY_MOVE(ScreenStage)
 };

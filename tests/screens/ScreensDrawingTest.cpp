@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/TestWindow.h"
 #include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QGuiApplication>
 
@@ -12,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What has the keyboard.
+/// The item with the keyboard focus.
 QString focused(QQuickView &view)
 {
     QQuickItem *item = view.activeFocusItem();
@@ -24,7 +23,7 @@ QString focused(QQuickView &view)
 
 qsizetype rings(QQuickView &view)
 {
-    const QList<QQuickItem *> all = WindowDriver::items(view, u"FocusRing"_s);
+    const QList<QQuickItem *> all = TestWindow(view).items(u"FocusRing"_s);
     return std::ranges::count_if(all, &QQuickItem::isVisible);
 }
 
@@ -41,30 +40,20 @@ QStringList walk(QQuickView &view, Qt::Key key, Qt::KeyboardModifiers modifiers 
 struct Seen {
     QString name;
     QRectF rect; // that it, or its text, takes in the window
-    double slope; // of what is rotated: above 0 when it falls as lines are read from the left
+    double slope; // of a rotated item: above 0 when its baseline falls
 };
 
-/// What is seen of `item` and below it.
+/// Collects `item` and its descendants, as far as they are visible.
 void collect(QQuickItem *item, QList<Seen> &seen)
 {
     const QString type = QString::fromLatin1(item->metaObject()->className()).section(u'_', 0, 0);
     if (!item->isVisible() || type == u"TextCursor"_s) {
         return;
     }
-    QRectF area(0, 0, item->width(), item->height());
-    const double width = item->property("contentWidth").toDouble();
-    if (width > 0 && width < area.width()) {
-        const int alignment = item->property("effectiveHorizontalAlignment").toInt();
-        const double room = area.width() - width;
-        area.setLeft(alignment == Qt::AlignLeft        ? 0
-                         : alignment == Qt::AlignRight ? room
-                                                       : room / 2);
-        area.setWidth(width);
-    }
     const QPointF along = item->mapToScene({1, 0}) - item->mapToScene({0, 0});
+    const QRectF area = painted(item);
     if (!area.isEmpty()) {
-        seen.append({type + u' ' + item->property("text").toString(), item->mapRectToScene(area),
-                     along.x() * along.y()});
+        seen.append({type + u' ' + item->property("text").toString(), area, along.x() * along.y()});
     }
     // Where a text begins that is edited is up to its letters.
     if (type == u"TextFieldInput"_s || type == u"UITextViewView"_s) {
@@ -79,7 +68,7 @@ using Wheel = std::tuple<const char *, std::size_t, QString>;
 
 } // namespace
 
-/// What holds for every screen.
+/// Keyboard, wheel and mirroring on every screen.
 class ScreensDrawingTest : public QObject {
     Q_OBJECT
 
@@ -92,10 +81,10 @@ private Q_SLOTS:
     {
         const Screen &screen = currentCase<Screen>();
         ScreenStage stage(screen);
-        QQuickView &view = stage.window->view();
+        QQuickView &view = stage.view();
         QCOMPARE(rings(view), 0);
         const QStringList forth = walk(view, Qt::Key_Tab);
-        QCOMPARE(forth.join(u", "_s), screen.walk);
+        QCOMPARE(forth.join(u", "_s), QLatin1String(screen.walk));
         QStringList back = walk(view, Qt::Key_Backtab, Qt::ShiftModifier);
         back.append(back.takeFirst());
         std::ranges::reverse(back);
@@ -104,12 +93,12 @@ private Q_SLOTS:
             const bool edits =
                 view.activeFocusItem()->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
             QCOMPARE(rings(view), edits ? 0 : 1);
-            stage.window->key(Qt::Key_Tab);
+            stage.key(Qt::Key_Tab);
         }
-        // Wherever the keyboard is, a finger anywhere hides that.
-        stage.window->key(Qt::Key_Backtab);
+        // A touch anywhere hides the focus ring.
+        stage.key(Qt::Key_Backtab);
         QCOMPARE(rings(view), 1);
-        WindowDriver::tap(view, {160, 5});
+        stage.tap(QPoint(160, 5));
         QCOMPARE(rings(view), 0);
     }
 
@@ -121,32 +110,31 @@ private Q_SLOTS:
         for (const int tabs : {0, 2, 3}) {
             ScreenStage stage(screen);
             for (int i = 0; i < tabs; ++i) {
-                stage.window->key(Qt::Key_Tab);
+                stage.key(Qt::Key_Tab);
             }
-            QTest::keyClick(&stage.window->view(), Qt::Key_Left, Qt::AltModifier);
-            stage.window->settle();
-            QVERIFY(stage.accessible(screen.back));
-            stage.window->key(Qt::Key_Escape);
-            stage.window->settle();
-            QVERIFY(stage.accessible(screen.escaped));
-            QVERIFY(screen.back == screen.escaped || !stage.accessible(screen.back));
-            QVERIFY(stage.window->view().activeFocusItem()->isVisible());
+            QTest::keyClick(&stage.view(), Qt::Key_Left, Qt::AltModifier);
+            stage.settle();
+            QVERIFY(stage.accessible(QLatin1String(screen.back)));
+            stage.key(Qt::Key_Escape);
+            stage.settle();
+            QVERIFY(stage.accessible(QLatin1String(screen.escaped)));
+            QVERIFY(QByteArray(screen.back) == screen.escaped
+                    || !stage.accessible(QLatin1String(screen.back)));
+            QVERIFY(stage.view().activeFocusItem()->isVisible());
         }
     }
 
     void aTouchThatOutlivesItsPageTakesNoKeyboard()
     {
-        ScreenStage stage(allScreens().front());
-        QQuickView &view = stage.window->view();
-        auto *login = stage.app.top<WZTLoginViewController>();
-        WindowDriver::Finger finger(
-            view, view.mapFromGlobal(stage.accessible(u"Email"_s)->rect().center()));
+        ScreenStage stage("Login");
+        auto *login = stage.top<WZTLoginViewController>();
+        Finger finger(stage.view(), stage.centre(u"Email"_s));
         login->displayErrorMessage(u"Meanwhile"_s);
-        stage.window->settle();
+        stage.settle();
         finger.lift();
-        stage.window->key(Qt::Key_Return);
-        stage.window->settle();
-        QCOMPARE(stage.app.top(), login);
+        stage.key(Qt::Key_Return);
+        stage.settle();
+        QCOMPARE(stage.top(), login);
     }
 
     void theWheelScrollsWhateverIsBelow_data()
@@ -161,13 +149,14 @@ private Q_SLOTS:
     void theWheelScrollsWhateverIsBelow()
     {
         const auto &[name, screen, over] = currentCase<Wheel>();
-        ScreenStage stage(allScreens().at(screen), {.textScale = 2});
+        ScreenStage stage(allScreens().at(screen),
+                          {.appearance = {.textScale = 2, .reduceMotion = true}});
         if (screen == 4) {
-            stage.window->key(Qt::Key_Tab);
-            stage.window->type(u"\r"_s.repeated(20));
+            stage.key(Qt::Key_Tab);
+            stage.type(u"\r"_s.repeated(20));
         }
-        QQuickView &view = stage.window->view();
-        view.grabWindow();
+        QQuickView &view = stage.view();
+        stage.grab();
         const QAccessibleInterface *item = stage.accessible(over);
         const auto place = [&] { return view.mapFromGlobal(item->rect().center()).y(); };
         const int direction = screen == 4 ? 1 : -1;
@@ -192,8 +181,8 @@ private Q_SLOTS:
             QGuiApplication::setLayoutDirection(direction);
             ScreenStage stage(screen);
             QTRY_VERIFY(!stage.accessible(u"Loading"_s));
-            stage.window->view().grabWindow();
-            collect(stage.window->view().contentItem(), seen[direction]);
+            stage.grab();
+            collect(stage.view().contentItem(), seen[direction]);
         }
         QCOMPARE(seen[1].size(), seen[0].size());
         for (int i = 0; i < seen[0].size(); ++i) {

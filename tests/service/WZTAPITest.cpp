@@ -1,20 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "service/WZTAPI.h"
+#include "harness/TestRunner.h"
 #include "model/WZTSession.h"
 #include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
 #include "service/TavloCategoryExtension.h"
-#include "tests/support/TestRunner.h"
-
-#include <QTest>
 
 #include <future>
 #include <map>
 #include <set>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using sandbox::Fault;
 
 namespace {
@@ -46,8 +43,7 @@ Outcome outcomeOf(Start start)
 {
     const Report report;
     start(report);
-    auto outcome = report.promise->get_future();
-    return outcome.wait_for(10s) == std::future_status::ready ? outcome.get() : Outcome();
+    return report.promise->get_future().get();
 }
 
 struct Operation {
@@ -77,7 +73,7 @@ const std::map<QByteArray, Operation> operations = {
       [](auto &report) { WZTAPI::submitIssueForPackage(u"p"_s, {}, u"😀\n"_s, report); }}},
 };
 
-/// What an operation's outcomes are reported as.
+/// The codes of an operation.
 struct Codes {
     NSUInteger transportError;
     std::optional<NSUInteger> user;
@@ -134,8 +130,9 @@ private Q_SLOTS:
     void init()
     {
         m_service.clear();
-        m_session = std::make_unique<NSURLSession>(NSURLSessionConfiguration{
-            m_service.caFile(), u"127.0.0.1:%1"_s.arg(m_service.port()), 10s});
+        m_session = std::make_unique<NSURLSession>(
+            NSURLSessionConfiguration{m_service.caFile(), u"127.0.0.1:%1"_s.arg(m_service.port()),
+                                      std::chrono::milliseconds(TestRunner::patience)});
         NSURLSession::setSharedSession(m_session.get());
     }
     void cleanup() { m_session.reset(); }

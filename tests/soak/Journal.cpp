@@ -13,7 +13,7 @@
 #include <malloc.h>
 #include <unistd.h>
 
-// What Qt offers to tools that follow its objects: it calls entries 3 and 4 for each that is made
+// Qt's hooks for tools that follow its objects: it calls entries 3 and 4 for each that is made
 // and destroyed.
 extern Q_DECL_IMPORT quintptr qtHookData[];
 
@@ -44,7 +44,7 @@ QByteArray nameOf(const std::optional<WZTUser> &user)
 
 void Journal::note(const QByteArray &line)
 {
-    // In one piece, whatever thread it comes from.
+    // In one piece, so that lines of several threads do not mix.
     const QByteArray whole = line + '\n';
     if (::write(STDOUT_FILENO, whole.constData(), static_cast<size_t>(whole.size())) < 0) {
         std::_Exit(EXIT_FAILURE);
@@ -64,7 +64,7 @@ void Journal::noteHome()
     if (!file.open(QFile::ReadOnly)) {
         return;
     }
-    // Without what is mapped from files: fonts come into sight one by one.
+    // Without mapped files: fonts are mapped one by one as they are used.
     const QByteArrayList sizes = file.readAll().split(' ');
     const qint64 pages = sizes.at(1).toLongLong() - sizes.at(2).toLongLong();
     note("home " + QByteArray::number(living) + ' '
@@ -79,7 +79,7 @@ Journal::Session::Session(WZTSession &session) : m_session(session)
 
 void Journal::Session::setCurrentUser(const WZTUser &user)
 {
-    // Whoever cannot be kept must not leave the user before in place either.
+    // A user who cannot be kept must not leave the previous one in place.
     const QByteArray kept = m_fullDisk ? "-" : nameOf(user);
     note("may " + kept);
     m_session.setCurrentUser(user);

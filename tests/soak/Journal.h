@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "harness/FullDisk.h"
 #include "model/WZTSession.h"
-#include "tests/support/FullDisk.h"
 
 #include <QByteArray>
 
 #include <optional>
 
-/// What a life of the application tells its ledger, one line each. What was noted is known even of
-/// a process that is killed right after.
+/// The lines that a life of the application writes for its ledger. A line is kept even if the
+/// process is killed right after it.
 namespace Journal {
 
 /// Any thread.

@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <numeric>
 
-// The lowest of some, for a reply that is still awaited holds its screen. In the first quarter is
-// made what is made once and kept.
+// The lowest of several values, because a pending reply holds its screen. The first quarter is left
+// out: caches fill in it.
 qint64 Ledger::Growth::begin() const
 {
     const auto first = values.begin() + values.size() / 4;

@@ -6,16 +6,16 @@
 #include <QSet>
 #include <QString>
 
-/// What the journals of many lives on one home folder come to. A line of a journal is one of
+/// The sum of the journals of many lives on one home folder. A line of a journal is one of
 ///
 ///     found USER          signed in at the start; "-" for nobody
 ///     may USER            about to be kept for the next start
-///     is USER             what the next start is to find
+///     is USER             kept: the next start must find it
 ///     submits TITLE       a report goes out
 ///     told TITLE          the user was told that it is sent
-///     missing             what became of something was awaited in vain
+///     missing             an awaited event has not come
 ///     asks N, answered N  a request, and its completion
-///     home OBJECTS KIB    what lives, and the memory, when nothing but Home is in sight
+///     home OBJECTS KIB    live objects, and the memory, while only Home is in sight
 class Ledger {
 public:
     enum class End { InOrder, Killed, Crashed };
@@ -48,7 +48,7 @@ private:
     int m_missing = 0;
     int m_crashes = 0;
     bool m_isTorn = false;
-    QSet<QByteArray> m_kept{"-"}; // one of these is what a start may find
+    QSet<QByteArray> m_kept{"-"}; // a start may find one of these
     QSet<QByteArray> m_pending;
     Counts m_submitted;
     Counts m_told;

@@ -7,7 +7,6 @@
 #include "app/WZTTabBarController.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/UIApplication.h"
-#include "platform/uikit/input/HitTest.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/uikit/presentation/UIWindow.h"
 #include "screens/home/WZTRootViewController.h"
@@ -18,7 +17,6 @@
 #include "service/WZTAPI.h"
 #include "tests/random/RandomRuns.h"
 #include "tests/soak/Journal.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QQuickView>
 #include <QRegularExpression>
@@ -45,7 +43,7 @@ std::atomic<int> pending = 0;
 QHash<QString, int> untold;
 QtMessageHandler otherMessages = nullptr;
 
-// The log has each report that goes out, whoever sends it.
+// The log names each report that is sent.
 void hearLog(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     static const QRegularExpression report(u"^Query Items: .*, title = (.*), reporterId = "_s);
@@ -58,7 +56,7 @@ void hearLog(QtMsgType type, const QMessageLogContext &context, const QString &m
     }
 }
 
-/// Waits for what must come. Once something has not, the verdict stands and no time is lost.
+/// Waits for an event. After a first event has failed to come, later waits are short.
 void await(const std::function<bool()> &hasCome)
 {
     static int patience = 60000;
@@ -101,28 +99,22 @@ private:
             change();
         }
         if (m_dice.once(3)) {
-            WindowDriver::settle(m_view);
+            m_window.settle();
         } else {
             QTest::qWait(m_dice.below(30));
         }
         m_next.start();
     }
 
-    // Where something takes presses, or anywhere.
-    QPoint place()
-    {
-        const QPoint any(m_dice.below(m_view.width()), m_dice.below(m_view.height()));
-        const QQuickItem *item = HitTest::itemAt(m_view.contentItem(), any);
-        return item && m_dice.below(4) > 0 ? WindowDriver::centre(item) : any;
-    }
-    void tap() { WindowDriver::tap(m_view, place()); }
+    QPoint place() { return RandomRuns::placeIn(m_view, m_dice); }
+    void tap() { m_window.tap(place()); }
     void drag()
     {
-        WindowDriver::Finger finger(m_view, m_dice.once(3) ? QPoint(2, place().y()) : place());
+        Finger finger(m_view, m_dice.once(3) ? QPoint(2, place().y()) : place());
         finger.move(place());
         finger.lift();
     }
-    void key() { QTest::keyClick(&m_view, m_dice.oneOf(std::span(keys))); }
+    void key() { m_window.key(m_dice.oneOf(std::span(keys))); }
     void fillDisk() { m_session.setDiskFull(m_dice.once(2)); }
 
     void signIn()
@@ -137,18 +129,16 @@ private:
         login->emailTextField()->setText(m_dice.oneOf(Life::addresses));
         login->passwordTextField()->setText(Life::password);
         login->login(nullptr);
-        const auto isAnswered = [&] { return m_shown.top() != login; };
         if (m_dice.below(4) > 0) {
-            await(isAnswered);
+            await([&] { return m_shown.top() != login; });
         }
     }
 
     // As replies do, at any moment; perhaps the last thing that this process does.
     void change()
     {
-        const int place = m_dice.below(static_cast<int>(Life::addresses.size()));
-        const QString &address = Life::addresses.at(place);
-        WZTUser user(place + 1, address, address);
+        const QString &address = m_dice.oneOf(Life::addresses);
+        WZTUser user(static_cast<int>(Life::addresses.indexOf(address)) + 1, address, address);
         user.redditUsername = QString(m_dice.below(20000), u'x');
         auto *login = qobject_cast<WZTLoginViewController *>(m_shown.top());
         ::ualarm(m_dice.once(3) ? m_alarm : 0, 0);
@@ -168,7 +158,6 @@ private:
             note("answered " + number);
             --pending;
         };
-        const QString address = m_dice.oneOf(Life::addresses);
         const QString package = m_dice.oneOf(WZTPackage::allPackages())->bundleIdentifier;
         note("asks " + number);
         ++pending;
@@ -177,7 +166,7 @@ private:
             WZTAPI::issuesForPackageIdentifier(package, [=](auto, const auto &) { answered(); });
             break;
         case 1:
-            WZTAPI::loginToAccount(address, SHA256(Life::password),
+            WZTAPI::loginToAccount(m_dice.oneOf(Life::addresses), SHA256(Life::password),
                                    [=](auto, const auto &) { answered(); });
             break;
         default:
@@ -251,9 +240,9 @@ private:
         const auto package = m_dice.oneOf(WZTPackage::allPackages());
         const auto issues = make<WZTPackageIssuesViewController>(package);
         m_tabs.presentViewController(make<UINavigationController>(issues), true);
-        WindowDriver::settle(m_view);
+        m_window.settle();
         issues->addNewIssue(nullptr);
-        WindowDriver::settle(m_view);
+        m_window.settle();
     }
 
     // By way of the other tab, and with nothing under way that the journal knows of.
@@ -266,11 +255,11 @@ private:
         m_tabs.dismissViewControllerAnimated(true);
         for (const int tab : {1, 0}) {
             m_tabs.setSelectedIndex(tab);
-            WindowDriver::settle(m_view);
+            m_window.settle();
         }
         m_delegate.rootVC()->navigationController()->popToRootViewControllerAnimated(true);
         await([] { return pending == 0; });
-        WindowDriver::settle(m_view);
+        m_window.settle();
         if (m_shown.top() == &m_tabs && m_titles > 0) {
             Journal::noteHome();
         }
@@ -284,6 +273,7 @@ private:
     int m_requests = 0;
     QQuickView &m_view =
         *qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
+    TestWindow m_window{m_view};
     AppDelegate &m_delegate =
         *dynamic_cast<AppDelegate *>(UIApplication::sharedApplication()->delegate());
     UITransitionStack &m_shown = *m_delegate.window()->presentation();

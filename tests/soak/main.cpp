@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 // Life after life of the application on one home folder, over a service that fails in every way.
-// Most are killed, the last one ends as it should. Prints what was lost.
+// Most are killed, the last one ends in good order. Prints the losses.
 
+#include "harness/TestProcess.h"
+#include "harness/TestSession.h"
 #include "model/BuildConstants.h"
 #include "sandbox/DemoIssues.h"
 #include "sandbox/Sandbox.h"
@@ -11,8 +13,6 @@
 #include "tests/random/RandomRuns.h"
 #include "tests/soak/Ledger.h"
 #include "tests/soak/Life.h"
-#include "tests/support/TestProcess.h"
-#include "tests/support/TestSession.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -57,10 +57,10 @@ class Soak {
 public:
     explicit Soak(quint32 seed) : m_dice(seed), m_life(seed * 10000)
     {
-        // Links have no handlers, whatever is installed here.
+        // Links have no handlers here.
         qputenv("XDG_DATA_DIRS", QFile::encodeName(m_session.home()));
         qputenv("XDG_CONFIG_DIRS", QFile::encodeName(m_session.home()));
-        // The memory is that of what lives.
+        // Freed memory is not counted.
         qputenv("ASAN_OPTIONS", qgetenv("ASAN_OPTIONS") + ":quarantine_size_mb=1");
         startService();
         m_port = m_service->port();
@@ -162,7 +162,7 @@ private:
         m_ledger.end(asWanted ? wanted : Ledger::End::Crashed, takeDamaged());
     }
 
-    // Whether a file was found damaged, which is told by what it was moved into.
+    // Whether a file was found damaged and so was moved aside.
     [[nodiscard]] bool takeDamaged() const
     {
         const QDir folder(m_session.home() + u"/.config/"_s
@@ -199,7 +199,7 @@ private:
 
 } // namespace
 
-// [SECONDS [SEED]], or what Life takes.
+// [SECONDS [SEED]], or the arguments of Life.
 int main(int argc, char *argv[])
 {
     if (argc == 5) {

@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "platform/uikit/base/Make.h"
-#include "tests/support/TestApp.h"
-#include "tests/support/TestRunner.h"
 #include "views/PressedColor.h"
 #include "views/WZTAccountTableViewCell.h"
 #include "views/WZTButtonTableViewCell.h"
 #include "views/WZTThanksTableViewCell.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +23,7 @@ const UIColor blue = UIColor::colorWithRed(0.106, 0.506, 0.906, 1);
 
 } // namespace
 
-/// The cells and the glossy button: what they show, their colours, touches and shine.
+/// The cells and the glossy button: texts, colours, touches and shine.
 class ViewsTest : public QObject {
     Q_OBJECT
 
@@ -112,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(pressedColor(blue).drawn(false).name(), u"#004eb4"_s); // clamped
     }
 
-    // What a finger does: down, out, in again, up, up outside, cancelled by the system.
+    // The letters: a finger goes down, out, in again and up, or the system cancels its touch.
     void aButtonIsTouched()
     {
         const std::tuple<const char *, bool, int> rows[] = {

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/WindowStage.h"
+#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/presentation/UINavigationController.h"
-#include "tests/support/Cases.h"
-#include "tests/support/TestRunner.h"
-#include "tests/support/WindowDriver.h"
-#include "tests/uikit/qml/WindowFixture.h"
 #include "tests/xlform/SampleForm.h"
 
 #include <QAccessible>
@@ -17,52 +16,37 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A form presented in a real window.
-struct Stage {
+/// A form that is presented in a window.
+struct Stage : WindowStage {
     explicit Stage(const QSize &size = {320, 568}, const UIAppearance &appearance = {},
                    bool slidesIn = false)
-        : fixture(appearance)
+        : WindowStage(appearance)
     {
         const auto root = make<UITableViewController>(UITableViewStyle::Grouped);
-        fixture.show(root, {}, size);
+        show(root, {}, size);
         root->presentViewController(make<UINavigationController>(form), slidesIn);
-        fixture.settle();
-        view().grabWindow();
+        settle();
+        grab();
     }
 
-    [[nodiscard]] QQuickView &view() { return fixture.host->view(); }
-    [[nodiscard]] QRectF rect(const QObject *control)
-    {
-        return WindowDriver::rect(WindowDriver::drawing(view(), control));
-    }
-    void tap(const QObject *control) { fixture.tap(WindowDriver::drawing(view(), control)); }
-    void type(const QString &text) { WindowDriver::type(view(), text); }
-    void keys(std::initializer_list<Qt::Key> keys)
-    {
-        for (const Qt::Key key : keys) {
-            fixture.key(key);
-        }
-    }
-    [[nodiscard]] QQuickItem *list() { return fixture.items(u"QQuickListView"_s).last(); }
+    [[nodiscard]] QQuickItem *list() { return items(u"QQuickListView"_s).last(); }
     [[nodiscard]] double scrolled() { return list()->property("contentY").toDouble(); }
     /// The insertion mark in the window, once everything stands.
     [[nodiscard]] QRectF mark()
     {
         QTest::qWait(0);
-        view().grabWindow();
+        grab();
         const QQuickItem *editor = view().activeFocusItem();
         return editor->mapRectToScene(editor->property("cursorRectangle").toRectF());
     }
-    void setKeyboardHeight(double height) { WindowDriver::showKeyboard(view(), height); }
 
     std::shared_ptr<SampleForm> form = make<SampleForm>();
     UITextField *name = form->nameField();
     UITextView *notes = form->notesView();
-    WindowFixture fixture;
 };
 
 using Place = std::tuple<const char *, int, double, QString>;
-using Happening = std::tuple<const char *, void (*)(Stage &)>;
+using Change = std::tuple<const char *, void (*)(Stage &)>;
 
 } // namespace
 
@@ -86,7 +70,7 @@ private Q_SLOTS:
         Stage stage({width, 844}, {.textScale = textScale});
         stage.form->cellOf(*stage.form->name)->textLabel()->setText(title);
         stage.name->edit(u"A name that is too long for its field, by far"_s);
-        stage.view().grabWindow();
+        stage.grab();
         for (XLFormRowDescriptor *row : {stage.form->name.get(), stage.form->notes.get()}) {
             XLFormCell *cell = stage.form->cellOf(*row).get();
             const QRectF bounds = stage.rect(cell);
@@ -105,54 +89,54 @@ private Q_SLOTS:
     void whatIsTypedStaysInSight()
     {
         Stage stage({320, 568}, {.textScale = 1.5});
-        stage.setKeyboardHeight(260);
+        stage.showKeyboard(260);
         const QRectF free(0, 44, 320, 568 - 44 - 260);
         QVERIFY(free.contains(stage.mark()));
         const double before = stage.rect(stage.notes).height();
-        stage.fixture.key(Qt::Key_Return); // on to the notes
+        stage.key(Qt::Key_Return); // on to the notes
         for (int i = 0; i < 30; ++i) {
             stage.type(u"Line\r"_s);
             QVERIFY2(free.contains(stage.mark()), qPrintable(QString::number(i)));
         }
         QVERIFY(stage.rect(stage.notes).height() > 3 * before);
         for (int i = 0; i < 30; ++i) {
-            stage.fixture.key(Qt::Key_Up);
+            stage.key(Qt::Key_Up);
         }
         QVERIFY(free.contains(stage.mark()));
 
         stage.notes->edit({}); // all is gone, and so is the keyboard
-        stage.setKeyboardHeight(0);
+        stage.showKeyboard(0);
         QTRY_COMPARE(stage.scrolled(), 0.0);
     }
 
     void noWordIsLost_data()
     {
-        addCases<Happening>({
+        addCases<Change>({
             {"scrolled away", [](Stage &stage) { stage.list()->setProperty("contentY", 700); }},
             {"turned", [](Stage &stage) { stage.view().resize(844, 390); }},
             {"larger text",
              [](Stage &stage) {
-                 stage.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});
+                 stage.application.traits().setOverride(UIAppearance{.textScale = 2});
              }},
             {"covered by an alert",
              [](Stage &stage) {
                  stage.form->presentViewController(make<UIAlertController>(u"A"_s, u"B"_s), true);
-                 stage.fixture.settle();
+                 stage.settle();
                  stage.form->dismissViewControllerAnimated(true);
-                 stage.fixture.settle();
+                 stage.settle();
              }},
         });
     }
 
     void noWordIsLost()
     {
-        const auto &[name, happening] = currentCase<Happening>();
+        const auto &[name, change] = currentCase<Change>();
         Stage stage;
         const QString notes = u"Notes\n"_s.repeated(40);
         stage.notes->edit(notes);
         stage.type(u"one "_s);
-        happening(stage);
-        stage.view().grabWindow();
+        change(stage);
+        stage.grab();
         stage.type(u"two"_s);
         QCOMPARE(stage.form->name->value(), u"one two"_s);
         QVERIFY(QRectF(QPointF(), stage.view().size()).contains(stage.mark()));
@@ -163,10 +147,11 @@ private Q_SLOTS:
     void keys()
     {
         Stage stage({320, 568}, {}, true);
-        QCOMPARE(stage.fixture.focused(), u"Name"_s);
-        stage.keys({Qt::Key_Down, Qt::Key_Escape}); // not to another row
+        QCOMPARE(stage.focused(), u"Name"_s);
+        stage.key(Qt::Key_Down); // not to another row
+        stage.hold(Qt::Key_Escape);
         QCOMPARE(stage.form->cancelled, 1);
-        stage.fixture.key(Qt::Key_Return);
+        stage.hold(Qt::Key_Return); // writes no line into the notes
         stage.type(u"a"_s);
         QTest::keyPress(&stage.view(), Qt::Key_C);
         QTest::keyPress(&stage.view(), Qt::Key_Return);
@@ -176,7 +161,7 @@ private Q_SLOTS:
         stage.keys({Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_End, Qt::Key_Left});
         stage.type(u"b"_s);
         QCOMPARE(stage.form->notes->value(), u"abc\n\n"_s);
-        stage.fixture.key(Qt::Key_Escape);
+        stage.key(Qt::Key_Escape);
         QCOMPARE(stage.form->cancelled, 1);
     }
 
@@ -184,16 +169,16 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.notes->edit(u"Some words on a line. "_s.repeated(60));
-        stage.view().grabWindow();
+        stage.grab();
         stage.tap(stage.form->cellOf(*stage.form->notes)->textLabel());
         QVERIFY(stage.notes->isFirstResponder());
         QTRY_VERIFY(stage.scrolled() == 0);
         stage.tap(stage.name);
         QVERIFY(stage.name->isFirstResponder());
 
-        // A finger that moves scrolls the form; what is typed goes on where it was.
+        // A moving finger scrolls the form and leaves the keyboard where it was.
         for (const int way : {-1, 1, -1}) {
-            WindowDriver::Finger finger(stage.view(), {160, 300 - way * 100});
+            Finger finger(stage.view(), {160, 300 - way * 100});
             finger.move({160, 300 + way * 100});
             finger.lift();
             QTRY_VERIFY(!stage.list()->property("moving").toBool());
@@ -202,7 +187,7 @@ private Q_SLOTS:
 
         // Where it taps, the text is edited, and the form stands still.
         const double before = stage.scrolled();
-        WindowDriver::tap(stage.view(), {160, 300});
+        stage.tap(QPoint(160, 300));
         QVERIFY(stage.notes->isFirstResponder());
         QVERIFY(QRectF(0, 270, 320, 60).contains(stage.mark()));
         stage.type(u"\r\r"_s);
@@ -214,13 +199,12 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.notes->edit(u"wwwwwwww and more"_s);
-        QVERIFY(WindowDriver::accessible(stage.view(), u"Notes"_s)->state().multiLine);
+        QVERIFY(stage.accessible(u"Notes"_s)->state().multiLine);
         const QPointF word = stage.rect(stage.notes).topLeft() + QPointF(30, 10);
-        WindowDriver::Finger finger(stage.view(), word.toPoint());
-        QTRY_VERIFY(stage.fixture.accessible().contains(u"MenuItem Cut"_s));
+        Finger finger(stage.view(), word.toPoint());
+        QTRY_VERIFY(stage.accessible().contains(u"MenuItem Cut"_s));
         finger.lift();
-        const QPoint cut = WindowDriver::accessible(stage.view(), u"Cut"_s)->rect().center();
-        WindowDriver::tap(stage.view(), stage.view().mapFromGlobal(cut));
+        stage.tap(u"Cut"_s);
         QCOMPARE(stage.form->notes->value(), u" and more"_s);
     }
 };

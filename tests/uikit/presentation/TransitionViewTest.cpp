@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "harness/TestRunner.h"
+#include "harness/WindowStage.h"
+#include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/bars/UINavigationItem.h"
+#include "platform/uikit/presentation/UINavigationController.h"
+#include "tests/uikit/TestPage.h"
+#include "tests/uikit/tables/SampleTable.h"
+
+#include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Swipe {
+    const char *name;
+    int from; // points from the edge
+    int to;
+    bool rests; // before it is lifted
+    bool leaves;
+    bool moves = true;
+    bool mirrored = false;
+    bool reduceMotion = false;
+};
+
+using Transition = std::tuple<const char *, bool, bool, bool>;
+
+/// The page "Root" within a navigation controller.
+struct Stage : WindowStage {
+    explicit Stage(const UIAppearance &appearance = {}) : WindowStage(appearance)
+    {
+        show(navigation);
+    }
+    /// Of the finger, as the way back has it.
+    [[nodiscard]] double speed() const
+    {
+        return items(u"UIBackSwipe"_s).constLast()->property("speed").toDouble();
+    }
+
+    std::shared_ptr<TestPage> root = make<TestPage>(u"Root"_s);
+    std::shared_ptr<UINavigationController> navigation = make<UINavigationController>(root);
+};
+
+} // namespace
+
+/// Transitions as they are drawn.
+class TransitionViewTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
+    void everyTransitionEndsOnce_data()
+    {
+        addCases<Transition>({
+            {"animated", true, false, true},
+            {"immediate", false, false, false},
+            {"reduced motion", true, true, false},
+        });
+    }
+
+    void everyTransitionEndsOnce()
+    {
+        const auto &[name, animated, reduceMotion, slides] = currentCase<Transition>();
+        WindowStage fixture({.reduceMotion = reduceMotion});
+        const auto root = make<TestPage>(u"Root"_s);
+        fixture.show(root);
+        const auto modal = make<TestPage>(u"Modal"_s);
+        root->presentViewController(modal, animated, modal->counted());
+        QCOMPARE(modal->completed, animated ? 0 : 1);
+        const QPointer<QQuickItem> entry = fixture.items(u"UITransitionEntryView"_s).value(1);
+        QCOMPARE(entry->y() > 0 && entry->isVisible(), slides);
+        fixture.settle();
+        QVERIFY(modal->completed == 1 && modal->appeared == 1 && entry->y() == 0);
+        QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
+
+        modal->dismissViewControllerAnimated(animated, modal->counted());
+        if (slides) {
+            QTRY_VERIFY(entry && entry->y() > 0);
+        }
+        fixture.settle();
+        QVERIFY(modal->completed == 2 && root->appeared == 2);
+        QCOMPARE(fixture.items(u"UITransitionEntryView"_s).size(), 1);
+    }
+
+    void pagesAreSwipedAway_data()
+    {
+        addCases<Swipe>({
+            {"past the middle", 10, 250, true, true},
+            {"not far enough", 10, 150, true, false},
+            {"a fling", 10, 130, false, true},
+            {"not from the edge", 30, 250, true, false, false},
+            {"mirrored", 10, 250, true, true, true, true},
+            {"reduced motion", 10, 250, true, true, true, false, true},
+        });
+    }
+
+    void pagesAreSwipedAway()
+    {
+        const Swipe &swipe = currentCase<Swipe>();
+        if (swipe.mirrored) {
+            QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        }
+        const int direction = swipe.mirrored ? -1 : 1;
+        const auto at = [&](int x) { return QPoint(swipe.mirrored ? 389 - x : x, 400); };
+        Stage stage({.reduceMotion = swipe.reduceMotion});
+        const auto page = make<TestPage>(u"Page"_s);
+        stage.navigation->pushViewController(page, false);
+        const QList<QQuickItem *> entries = stage.items(u"UITransitionEntryView"_s).mid(1);
+
+        Finger finger(stage.view(), at(swipe.from));
+        finger.move(at(swipe.to));
+        QCOMPARE(entries[1]->x() * direction > 100, swipe.moves);
+        QCOMPARE(entries[0]->isVisible(), swipe.moves);
+        QVERIFY(!swipe.moves || (entries[0]->x() * direction < 0) != swipe.reduceMotion);
+        QCOMPARE(stage.root->appearanceState(), UIAppearanceState::Disappeared);
+        if (swipe.rests) {
+            QTRY_COMPARE(stage.speed(), 0.0);
+        }
+        finger.lift();
+        // On a busy machine a fling may be too slow to be one.
+        for (int again = 0; again < 20 && !swipe.rests; ++again) {
+            if (stage.navigation->topViewController() == stage.root.get()) {
+                break;
+            }
+            QTRY_COMPARE(entries[1]->x(), 0);
+            Finger next(stage.view(), at(swipe.from));
+            next.move(at(swipe.to));
+            next.lift();
+        }
+        QCOMPARE(stage.navigation->topViewController() == stage.root.get(), swipe.leaves);
+        QTRY_COMPARE(entries[0]->isVisible(), swipe.leaves);
+        stage.settle();
+        QCOMPARE(stage.root->appeared, swipe.leaves ? 2 : 1);
+        QCOMPARE(page->appeared, 1);
+        QCOMPARE(entries[swipe.leaves ? 0 : 1]->x(), 0);
+        QCOMPARE(stage.focused(), swipe.leaves ? u"Root"_s : u"Page"_s);
+    }
+
+    // The root stays, and so does a page whose left button replaces the back button, or a page
+    // under an alert.
+    void someSwipesMoveNothing()
+    {
+        Stage stage;
+        const auto page = make<TestPage>(u"Page"_s);
+        const auto alert = make<UIAlertController>(u"Alert"_s, QString());
+        const auto swipe = [&](const std::function<void()> &meanwhile = [] {}) {
+            Finger finger(stage.view(), {10, 400});
+            finger.move({250, 400});
+            meanwhile();
+            finger.lift();
+            return stage.navigation->topViewController()->navigationItem()->title();
+        };
+        QCOMPARE(swipe(), u"Root"_s);
+        stage.navigation->pushViewController(page, true);
+        QCOMPARE(swipe(), u"Page"_s); // while it comes
+        stage.settle();
+        page->navigationItem()->setLeftBarButtonItem(make<UIBarButtonItem>(
+            u"Other"_s, UIBarButtonItemStyle::Plain, page.get(), &TestPage::loadViewIfNeeded));
+        QCOMPARE(swipe(), u"Page"_s);
+        page->navigationItem()->setLeftBarButtonItem({});
+        QCOMPARE(swipe([&] { page->presentViewController(alert, true); }), u"Page"_s);
+        stage.settle();
+        QCOMPARE(swipe(), u"Page"_s);
+        QTRY_COMPARE(TestWindow::rect(stage.named(u"Page"_s)), QRectF(0, 44, 390, 800));
+        QCOMPARE(stage.root->appeared, 1);
+        alert->dismissViewControllerAnimated(true);
+        stage.settle();
+        QCOMPARE(swipe(), u"Root"_s);
+    }
+
+    // Later movement does not change the decision.
+    void aScrollFromTheEdgeStaysOne_data()
+    {
+        addCases<std::tuple<const char *, QPoint, bool>>({
+            {"more along than across", {100, 150}, true},
+            {"hardly more along than across", {110, 120}, true},
+            {"more across than along", {150, 100}, false},
+        });
+    }
+
+    void aScrollFromTheEdgeStaysOne()
+    {
+        const auto &[name, way, scrolls] = currentCase<std::tuple<const char *, QPoint, bool>>();
+        Stage stage;
+        const auto table = make<SampleTable>(std::vector{100});
+        stage.navigation->pushViewController(table, false);
+        const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+        const auto offset = [&] { return stage.named(u"list"_s)->property("contentY").toInt(); };
+        for (int i = 0; i < 2; ++i) {
+            Finger finger(stage.view(), {10, 500});
+            finger.move(QPoint(10, 500) + QPoint(way.x(), -way.y()));
+            finger.move(finger.at() + QPoint(50, 0));
+            QTRY_COMPARE(page->x() > 50, !scrolls);
+            QTRY_COMPARE(offset() > 50, scrolls);
+            finger.move({0, 500});
+            QTRY_COMPARE(stage.speed(), 0.0);
+            finger.lift();
+            stage.settle();
+            QCOMPARE(stage.navigation->topViewController(), table.get());
+        }
+    }
+
+    void aSwipedPageStaysUnderTheFinger()
+    {
+        for (const bool mirrored : {false, true}) {
+            QGuiApplication::setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+            Stage stage;
+            stage.navigation->pushViewController(make<TestPage>(u"Page"_s), false);
+            const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+            QQuickView &view = stage.view();
+            const auto at = [&](int x) { return QPoint(mirrored ? view.width() - x : x, 400); };
+            const auto away = [&] { return qRound(qAbs(page->x())); };
+            Finger finger(view, at(10));
+            finger.move(at(150));
+            QTRY_COMPARE(away(), 140);
+            for (const int width : {800, 320}) {
+                view.resize(width, 600);
+                QTRY_COMPARE(page->width(), width);
+                if (!mirrored) { // the edge itself moves
+                    QCOMPARE(away(), 140);
+                }
+                finger.move(at(170));
+                QTRY_COMPARE(away(), 160);
+                finger.move(at(150));
+                QTRY_COMPARE(away(), 140);
+            }
+            finger.lift();
+        }
+    }
+
+    // A page goes while it comes; another follows; a modal comes over both and goes while it comes.
+    void interruptedTransitionsEnd()
+    {
+        Stage stage;
+        const auto page = make<TestPage>(u"Page"_s);
+        const auto modal = make<TestPage>(u"Modal"_s);
+        const auto second = make<TestPage>(u"Second"_s);
+        stage.navigation->pushViewController(page, true);
+        QTest::qWait(50);
+        stage.navigation->popViewControllerAnimated(true);
+        stage.navigation->pushViewController(second, true);
+        stage.root->presentViewController(modal, true, modal->counted());
+        QTest::qWait(50);
+        modal->dismissViewControllerAnimated(true, modal->counted());
+        stage.settle();
+        QCOMPARE(modal->completed, 2);
+        QVERIFY(modal->appeared == 0 && page->appeared == 0);
+        QCOMPARE(second->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(TestWindow::rect(stage.named(u"Second"_s)), QRectF(0, 44, 390, 800));
+        QVERIFY(!stage.named(u"Modal"_s) && !stage.named(u"Page"_s));
+    }
+
+    void closedWindowEndsTransitions()
+    {
+        Stage stage;
+        const auto modal = make<TestPage>(u"Modal"_s);
+        stage.root->presentViewController(modal, true, modal->counted());
+        stage.close();
+        QVERIFY(modal->completed == 1 && modal->appeared == 1);
+    }
+};
+
+WZT_TEST(TransitionViewTest)
+#include "TransitionViewTest.moc"
