@@ -7,7 +7,7 @@
 
 #include <QGuiApplication>
 
-class UIWindowHost;
+class DesktopWindow;
 
 /// The program from its start to its end: the application on this machine, in its window.
 class Launch {
@@ -32,5 +32,5 @@ private:
     LinuxHost m_host;
     Runtime::Settings m_settings;
     std::unique_ptr<Runtime> m_runtime;
-    std::unique_ptr<UIWindowHost> m_window;
+    std::unique_ptr<DesktopWindow> m_window;
 };

@@ -14,7 +14,7 @@ void destroyWhatWasLetGo()
 
 } // namespace
 
-Runtime::Runtime(UIHost &host, const Settings &settings)
+Runtime::Runtime(Host &host, const Settings &settings)
     : m_application(host),
       m_session(std::make_unique<NSURLSession>(settings.urlSession)),
       m_delegate(std::make_unique<AppDelegate>(settings.applicationId, settings.defaultsFolder))
@@ -22,7 +22,7 @@ Runtime::Runtime(UIHost &host, const Settings &settings)
     NSURLSession::setSharedSession(m_session.get());
     m_application.setDelegate(m_delegate.get());
     host.observeAppearance(
-        [application = QPointer(&m_application)](const UIAppearance &appearance) {
+        [application = QPointer(&m_application)](const DesktopAppearance &appearance) {
             if (application) {
                 application->traits().setDesktopAppearance(appearance);
             }

@@ -18,7 +18,7 @@ public:
     };
 
     /// `host` outlives the run. The delegate has not been told of the launch yet.
-    Runtime(UIHost &host, const Settings &settings);
+    Runtime(Host &host, const Settings &settings);
     ~Runtime();
     Q_DISABLE_COPY_MOVE(Runtime)
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/presentation/UIWindowHost.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 #include "tests/support/TestApp.h"
 
 #include <functional>
@@ -24,7 +24,7 @@ public:
 
 private:
     TestApp m_app;
-    std::unique_ptr<UIWindowHost> m_host;
+    std::unique_ptr<DesktopWindow> m_host;
 };
 
 /// Something that moves in the window.

@@ -86,7 +86,7 @@ rules() {
     never '\.qml$' '^import QtQuick\.Controls' 'Qt Quick Controls are not used'
     never '\.qml$' '\bproperty var\b' 'Properties have a type'
     never '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
-    local drawn='input/|\w+/(\w+(Area|Picture|Host)|EditActions|ReadingOrder|SecretTextFilter)\.'
+    local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|ReadingOrder|SecretTextFilter)\.'
     never "^(?!platform/uikit/($drawn)|tests/|bench/|app/).*\.(h|cpp)$" '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     never '^(?!platform/foundation/url/HTTP\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP loader's sources only"
     never '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'

@@ -6,7 +6,7 @@ import Views
 
 /// A glossy button: its fill, its border, its shine and, on top, its title. As large as it was
 /// made, or as its title needs.
-UIControlArea {
+ControlArea {
     id: root
 
     required property WZTGlossyButton control
@@ -30,7 +30,7 @@ UIControlArea {
         radius: root.control.layer.cornerRadius
         color: root.control.backgroundColor.drawn(Traits.dark)
     }
-    UISublayersPicture {
+    SublayersPicture {
         anchors.fill: parent
         visible: root.made.width > 0 && root.made.height > 0
         view: root.control

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -23,7 +23,7 @@ public:
     /// `changed` is called when the appearance may be another one.
     DesktopSettings(const QDBusConnection &bus, std::function<void()> changed);
 
-    [[nodiscard]] UIAppearance appearance() const;
+    [[nodiscard]] DesktopAppearance appearance() const;
 
     /// The keys this class follows, as the portal tells them.
     struct Values {

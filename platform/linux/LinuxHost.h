@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 #include <chrono>
 #include <memory>
@@ -15,7 +15,7 @@ class SingleInstance;
 /// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
 /// appearance and the one instance over the session bus. What the machine does not have is silently
 /// absent. Made after the application object, destroyed before it; main thread only.
-class LinuxHost final : public UIHost {
+class LinuxHost final : public Host {
 public:
     /// How long a start waits for the desktop, all in all.
     static constexpr std::chrono::milliseconds patience = std::chrono::seconds(1);
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] bool canOpenURL(const QString &url) override;
     void openURL(const QString &url) override;
     void impactOccurred(UIImpactFeedbackStyle style) override;
-    void observeAppearance(std::function<void(const UIAppearance &)> changed) override;
+    void observeAppearance(std::function<void(const DesktopAppearance &)> changed) override;
     [[nodiscard]] bool becomeOnlyInstance(const QStringList &urls,
                                           std::function<void(const QStringList &)> opened) override;
     /// A later start of the application is on its own from now on.
@@ -50,6 +50,6 @@ private:
     std::unique_ptr<DesktopSettings> m_settings;
     std::unique_ptr<DesktopPalette> m_palette;
     std::unique_ptr<SingleInstance> m_instance;
-    std::function<void(const UIAppearance &)> m_appearanceChanged;
-    UIAppearance m_told;
+    std::function<void(const DesktopAppearance &)> m_appearanceChanged;
+    DesktopAppearance m_told;
 };

@@ -52,8 +52,8 @@ struct Reloads {
 /// How the controller over the tabs was presented.
 bool presentedAnimated(TestApp &app)
 {
-    const UITransitionStack &stack = *app.delegate().window()->presentation();
-    return stack.index(1).data(UITransitionStack::AnimatedRole).toBool();
+    const TransitionStack &stack = *app.delegate().window()->presentation();
+    return stack.index(1).data(TransitionStack::AnimatedRole).toBool();
 }
 
 } // namespace
@@ -103,7 +103,7 @@ private Q_SLOTS:
         app.launch();
         QVERIFY(app.delegate().currentUser() == someUser());
         QCOMPARE(app.top(), app.delegate().tabController());
-        QCOMPARE(app.delegate().rootVC()->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(app.delegate().rootVC()->appearanceState(), AppearanceState::Appeared);
         QCOMPARE(app.keptData(), kept);
         const WZTUserViewController &account = *app.delegate().userVC();
         QVERIFY2(!account.isViewLoaded(), "nobody has looked at it");

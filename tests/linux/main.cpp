@@ -17,7 +17,7 @@ namespace {
 int startApplication(QStringList arguments, std::chrono::milliseconds patience)
 {
     LinuxHost host(arguments.takeFirst(), patience);
-    host.observeAppearance([](const UIAppearance &) {});
+    host.observeAppearance([](const DesktopAppearance &) {});
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
     return std::puts(host.becomeOnlyInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;

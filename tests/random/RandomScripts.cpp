@@ -21,7 +21,7 @@ constexpr quint32 runs = 8000;
 constexpr int stepsOfARun = 60;
 
 using Controller = std::shared_ptr<UIViewController>;
-using Cover = UITransitionStack::Cover;
+using Cover = TransitionStack::Cover;
 
 /// A window with two tabs, and what the rules say of it: which controllers are presented and
 /// pushed, whatever transitions are under way.
@@ -75,7 +75,7 @@ private:
         }
     }
 
-    void test(UITransitionStack &stack)
+    void test(TransitionStack &stack)
     {
         m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
             &stack, QAbstractItemModelTester::FailureReportingMode::QtTest));
@@ -200,31 +200,31 @@ private:
         }
     }
 
-    [[nodiscard]] std::vector<UITransitionStack *> stacks()
+    [[nodiscard]] std::vector<TransitionStack *> stacks()
     {
-        std::vector<UITransitionStack *> all{m_window->presentation()};
+        std::vector<TransitionStack *> all{m_window->presentation()};
         for (const Navigation &each : m_navigations) {
             all.push_back(each.controller->pages());
         }
         return all;
     }
 
-    static void end(UITransitionStack &stack, int row)
+    static void end(TransitionStack &stack, int row)
     {
-        const QVariant of = stack.index(row).data(UITransitionStack::ControllerRole);
+        const QVariant of = stack.index(row).data(TransitionStack::ControllerRole);
         const Controller kept = of.value<UIViewController *>()->shared_from_this();
         stack.transitionEnded(kept.get());
     }
     // Of any stack, and of a transition that has ended already as well.
     void endOne()
     {
-        UITransitionStack &stack = *m_dice.oneOf(stacks());
+        TransitionStack &stack = *m_dice.oneOf(stacks());
         end(stack, m_dice.below(stack.rowCount()));
     }
     void endAll()
     {
         for (int times = 0; times < 3; ++times) { // an end may begin another
-            for (UITransitionStack *stack : stacks()) {
+            for (TransitionStack *stack : stacks()) {
                 for (int row = stack->rowCount() - 1; row >= 0; --row) {
                     end(*stack, row);
                 }
@@ -261,8 +261,8 @@ private:
         }
         for (const Controller &each : m_pages) {
             const bool isSeen = std::ranges::find(seen, each) != seen.end();
-            const bool appeared = each->appearanceState() == UIAppearanceState::Appeared;
-            const bool gone = each->appearanceState() == UIAppearanceState::Disappeared;
+            const bool appeared = each->appearanceState() == AppearanceState::Appeared;
+            const bool gone = each->appearanceState() == AppearanceState::Disappeared;
             expect(isSeen ? appeared : gone, u"a page is not where it is seen"_s);
         }
         expect(std::ranges::count(m_completions, 1) == std::ssize(m_completions),

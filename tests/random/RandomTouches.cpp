@@ -66,7 +66,7 @@ private:
 
     [[nodiscard]] QQuickView &view() { return m_window->view(); }
 
-    UIAppearance appearance()
+    DesktopAppearance appearance()
     {
         const auto style =
             m_dice.once(2) ? UIUserInterfaceStyle::Light : UIUserInterfaceStyle::Dark;

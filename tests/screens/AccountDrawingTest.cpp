@@ -22,7 +22,7 @@ using sandbox::Fault;
 
 // The Account tab in a real window.
 struct Stage {
-    explicit Stage(const QSize &size = {390, 844}, const UIAppearance &appearance = {},
+    explicit Stage(const QSize &size = {390, 844}, const DesktopAppearance &appearance = {},
                    const QString &name = u"Jo"_s, const QString &email = u"jo@wzt.example"_s)
     {
         app.launchSignedIn(name, email);
@@ -35,7 +35,7 @@ struct Stage {
     template <class Cell>
     [[nodiscard]] Cell &cell(int entry)
     {
-        const auto shown = table()->entries()->index(entry).data(UITableViewEntries::CellRole);
+        const auto shown = table()->entries()->index(entry).data(TableEntries::CellRole);
         return *qobject_cast<Cell *>(shown.value<UITableViewCell *>());
     }
     [[nodiscard]] WZTAccountTableViewCell &card() { return cell<WZTAccountTableViewCell>(4); }

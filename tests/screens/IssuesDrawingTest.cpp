@@ -22,7 +22,7 @@ struct Stage {
     Stage()
     {
         app.launchSignedIn();
-        window.emplace(app, QSize(390, 844), UIAppearance{.reduceMotion = true});
+        window.emplace(app, QSize(390, 844), DesktopAppearance{.reduceMotion = true});
         window->settle();
     }
 

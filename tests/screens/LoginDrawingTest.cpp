@@ -19,7 +19,7 @@ namespace {
 
 // A sign-in screen in a real window.
 struct Stage {
-    explicit Stage(const QSize &size = {390, 844}, const UIAppearance &appearance = {})
+    explicit Stage(const QSize &size = {390, 844}, const DesktopAppearance &appearance = {})
     {
         app.launch();
         window.emplace(app, size, appearance);

@@ -63,7 +63,7 @@ ScreenStage::ScreenStage(const Screen &screen, const Options &options)
     }
     app.launch();
     window.emplace(app, options.size,
-                   UIAppearance{.textScale = options.textScale, .reduceMotion = true});
+                   DesktopAppearance{.textScale = options.textScale, .reduceMotion = true});
     for (const QString &name : screen.path) {
         window->settle();
         accessible(name)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());

@@ -78,9 +78,9 @@ public:
     Person(quint32 life, useconds_t alarm) : m_dice(life), m_life(life), m_alarm(alarm)
     {
         otherMessages = qInstallMessageHandler(hearLog);
-        connect(&m_shown, &UITransitionStack::topChanged, this, &Person::hearAlert);
+        connect(&m_shown, &TransitionStack::topChanged, this, &Person::hearAlert);
         UIApplication::sharedApplication()->traits().setOverride(
-            UIAppearance{.reduceMotion = m_dice.once(2)});
+            DesktopAppearance{.reduceMotion = m_dice.once(2)});
         m_next.setSingleShot(true);
         connect(&m_next, &QTimer::timeout, this, &Person::step);
         m_next.start();
@@ -286,7 +286,7 @@ private:
         *qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
     AppDelegate &m_delegate =
         *dynamic_cast<AppDelegate *>(UIApplication::sharedApplication()->delegate());
-    UITransitionStack &m_shown = *m_delegate.window()->presentation();
+    TransitionStack &m_shown = *m_delegate.window()->presentation();
     WZTTabBarController &m_tabs = *m_delegate.tabController();
     Journal::Session m_session{m_delegate};
 };

@@ -11,11 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-TestWindow::TestWindow(TestApp &app, const QSize &size, const UIAppearance &appearance)
+TestWindow::TestWindow(TestApp &app, const QSize &size, const DesktopAppearance &appearance)
 {
     WindowDriver::beStrict();
     app.application().traits().setOverride(appearance);
-    m_host = std::make_unique<UIWindowHost>(*app.delegate().window(), u"WZT Companion"_s, QIcon());
+    m_host = std::make_unique<DesktopWindow>(*app.delegate().window(), u"WZT Companion"_s, QIcon());
     view().resize(size);
     m_host->show();
     QVERIFY(QTest::qWaitForWindowActive(&view()));

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
-#include "platform/uikit/presentation/UIWindowHost.h"
+#include "platform/uikit/base/Host.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 
 #include <memory>
 
@@ -16,7 +16,7 @@ class TestWindow {
 public:
     /// Shows the window and waits until it has the keyboard.
     explicit TestWindow(TestApp &app, const QSize &size = {390, 844},
-                        const UIAppearance &appearance = {});
+                        const DesktopAppearance &appearance = {});
     ~TestWindow();
     Q_DISABLE_COPY_MOVE(TestWindow)
 
@@ -37,5 +37,5 @@ public:
     void type(const QString &text);
 
 private:
-    std::unique_ptr<UIWindowHost> m_host;
+    std::unique_ptr<DesktopWindow> m_host;
 };

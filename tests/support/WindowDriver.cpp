@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/WindowDriver.h"
 
-#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/presentation/TransitionStack.h"
 
 #include <QAccessible>
 #include <QPointingDevice>
@@ -62,7 +62,7 @@ void describe(QAccessibleInterface *parent, QStringList &found)
 
 bool isSettled(const QQuickItem *entry)
 {
-    return entry->property("phase").toInt() == static_cast<int>(UITransitionStack::Phase::Settled);
+    return entry->property("phase").toInt() == static_cast<int>(TransitionStack::Phase::Settled);
 }
 
 } // namespace
@@ -76,7 +76,7 @@ void WindowDriver::beStrict()
 void WindowDriver::settle(const QQuickWindow &window)
 {
     const auto settled = [&] {
-        const QList<QQuickItem *> entries = items(window, u"UITransitionEntryView"_s);
+        const QList<QQuickItem *> entries = items(window, u"TransitionEntryView"_s);
         return std::all_of(entries.begin(), entries.end(), isSettled);
     };
     QTRY_VERIFY(settled());

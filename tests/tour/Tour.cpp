@@ -21,7 +21,7 @@ namespace {
 struct Look {
     const char *name;
     QSize size;
-    UIAppearance appearance;
+    DesktopAppearance appearance;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 

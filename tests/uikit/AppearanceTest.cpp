@@ -37,13 +37,13 @@ class AppearanceTest : public QObject {
 
     RecordingHost m_host;
     UIApplication m_application{m_host};
-    UITraits &m_traits = m_application.traits();
+    Traits &m_traits = m_application.traits();
 
 private Q_SLOTS:
     void textsStandOut()
     {
         for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
-            m_traits.setOverride(UIAppearance{.style = style});
+            m_traits.setOverride(DesktopAppearance{.style = style});
             const QColor row =
                 UIColor::secondarySystemGroupedBackgroundColor().drawn(m_traits.isDark());
             const QColor pressed = m_traits.pressedAlertColor();
@@ -61,8 +61,8 @@ private Q_SLOTS:
 
     void overrideHoldsOverTheDesktop()
     {
-        m_traits.setOverride(UIAppearance{UIUserInterfaceStyle::Light, 1, false});
-        const QSignalSpy changed(&m_traits, &UITraits::changed);
+        m_traits.setOverride(DesktopAppearance{UIUserInterfaceStyle::Light, 1, false});
+        const QSignalSpy changed(&m_traits, &Traits::changed);
         m_traits.setDesktopAppearance({UIUserInterfaceStyle::Dark, 1.5, true});
         QVERIFY(!m_traits.isDark() && !m_traits.reduceMotion() && m_traits.textScale() < 1.5);
         m_traits.setOverride(std::nullopt);

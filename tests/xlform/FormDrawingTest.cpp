@@ -19,7 +19,7 @@ namespace {
 
 // A form presented in a real window.
 struct Stage {
-    explicit Stage(const QSize &size = {320, 568}, const UIAppearance &appearance = {},
+    explicit Stage(const QSize &size = {320, 568}, const DesktopAppearance &appearance = {},
                    bool slidesIn = false)
         : fixture(appearance)
     {
@@ -132,7 +132,7 @@ private Q_SLOTS:
             {"turned", [](Stage &stage) { stage.view().resize(844, 390); }},
             {"larger text",
              [](Stage &stage) {
-                 stage.fixture.application.traits().setOverride(UIAppearance{.textScale = 2});
+                 stage.fixture.application.traits().setOverride(DesktopAppearance{.textScale = 2});
              }},
             {"covered by an alert",
              [](Stage &stage) {

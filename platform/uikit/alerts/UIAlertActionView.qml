@@ -5,7 +5,7 @@ import UIKit
 
 /// One button of an alert, darker while a finger is on it; the corners that it shares with the
 /// alert are as round.
-UIPressArea {
+PressArea {
     id: root
 
     required property UIAlertAction action

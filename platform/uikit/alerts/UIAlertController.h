@@ -53,7 +53,7 @@ public:
     /// Escape: the action of the cancel style, if there is one.
     Q_INVOKABLE void triggerCancel();
 
-    [[nodiscard]] UITransitionStack::Cover cover() const override;
+    [[nodiscard]] TransitionStack::Cover cover() const override;
     void viewWillAppear(bool animated) override;
     void viewDidLeave() override;
 

@@ -39,7 +39,7 @@ FocusScope {
             height: Math.min(contentHeight, root.room - buttons.height)
             contentHeight: texts.height
 
-            UIAlertTextsView {
+            AlertTextsView {
                 id: texts
                 width: parent.width
                 controller: root.controller
@@ -52,7 +52,7 @@ FocusScope {
             height: Math.min(contentHeight, Math.max(root.room / 2, root.room - texts.height))
             contentHeight: actions.height
 
-            UIAlertActionsView {
+            AlertActionsView {
                 id: actions
                 width: parent.width
                 controller: root.controller

@@ -153,7 +153,7 @@ UIColor UIColor::resolvedColorWithTraitCollection(const UITraitCollection &trait
 
 UIColor UIColor::resolvedNow() const
 {
-    const UITraits &traits = UIApplication::sharedApplication()->traits();
+    const Traits &traits = UIApplication::sharedApplication()->traits();
     return resolvedColorWithTraitCollection({traits.userInterfaceStyle()});
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 /// The traits that a dynamic colour is resolved against.
 struct UITraitCollection {

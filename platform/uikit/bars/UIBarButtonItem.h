@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UITargetAction.h"
+#include "platform/uikit/base/TargetAction.h"
 
 #include <QtQmlIntegration>
 
@@ -32,8 +32,8 @@ public:
     UIBarButtonItem(const QString &title, UIBarButtonItemStyle style, Target *target, Method action)
         : m_title(title),
           m_style(style),
-          m_action(std::make_unique<const UIMethodAction<UIBarButtonItem, Target, Method>>(target,
-                                                                                           action))
+          m_action(
+              std::make_unique<const MethodAction<UIBarButtonItem, Target, Method>>(target, action))
     {
     }
 
@@ -55,5 +55,5 @@ private:
     QString m_title;
     UIBarButtonItemStyle m_style;
     std::optional<UIBarButtonSystemItem> m_systemItem;
-    std::unique_ptr<const UITargetAction<UIBarButtonItem>> m_action;
+    std::unique_ptr<const TargetAction<UIBarButtonItem>> m_action;
 };

@@ -5,7 +5,7 @@ import UIKit
 
 /// A button of a navigation bar: a text that becomes smaller where there is no room for it, or a
 /// plus. Without an item it takes no width.
-UIPressArea {
+PressArea {
     id: root
 
     required property UIBarButtonItem item

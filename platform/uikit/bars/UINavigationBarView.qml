@@ -18,7 +18,7 @@ Rectangle {
     implicitHeight: Metrics.navigationBar
     color: Traits.barColor
 
-    UIBackButtonView {
+    BackButton {
         anchors.left: parent.left
         height: parent.height
         visible: root.controller.canGoBack && !left.visible

@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 
 /// One tab: its picture, and its title below if it has one.
-UIPressArea {
+PressArea {
     id: root
 
     required property UITabBarItem item
@@ -22,7 +22,7 @@ UIPressArea {
     Accessible.ignored: !enabled
     Accessible.onPressAction: triggered()
 
-    UIImagePicture {
+    ImagePicture {
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.item.title ? 6 : (root.height - height) / 2
         width: 25

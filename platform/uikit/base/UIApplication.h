@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/appearance/UITraits.h"
+#include "platform/uikit/appearance/Traits.h"
 #include "platform/uikit/base/UIResponder.h"
 
 #include <QPointer>
@@ -17,14 +17,14 @@ class UIApplication : public QObject {
 
 public:
     /// `host` outlives the application.
-    explicit UIApplication(UIHost &host);
+    explicit UIApplication(Host &host);
     ~UIApplication() override;
 
     /// The one application; null before it is made and after its end.
     [[nodiscard]] static UIApplication *sharedApplication();
 
-    [[nodiscard]] UIHost &host() const { return m_host; }
-    [[nodiscard]] UITraits &traits() { return m_traits; }
+    [[nodiscard]] Host &host() const { return m_host; }
+    [[nodiscard]] Traits &traits() { return m_traits; }
 
     [[nodiscard]] UIApplicationDelegate *delegate() const { return m_delegate; }
     void setDelegate(UIApplicationDelegate *delegate) { m_delegate = delegate; }
@@ -39,8 +39,8 @@ public:
 private:
     friend class UIResponder;
 
-    UIHost &m_host;
-    UITraits m_traits;
+    Host &m_host;
+    Traits m_traits;
     UIApplicationDelegate *m_delegate = nullptr;
     QPointer<UIResponder> m_firstResponder;
 };

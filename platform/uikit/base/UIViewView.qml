@@ -18,5 +18,5 @@ Rectangle {
     border.color: control.layer.borderColor.drawn(Traits.dark)
     clip: control.layer.masksToBounds
 
-    UITapArea { receiver: root.control }
+    TapArea { receiver: root.control }
 }

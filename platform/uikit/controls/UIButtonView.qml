@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 
 /// A plain button: a title that dims while a finger is on it.
-UIControlArea {
+ControlArea {
     id: root
 
     required property UIButton control

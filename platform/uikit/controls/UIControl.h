@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UITargetAction.h"
+#include "platform/uikit/base/TargetAction.h"
 #include "platform/uikit/base/UIView.h"
 
 #include <memory>
@@ -35,7 +35,7 @@ class UIControl : public UIView {
     Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY changed FINAL)
 
 public:
-    using Action = UITargetAction<UIControl>;
+    using Action = TargetAction<UIControl>;
 
     UIControl();
     ~UIControl() override;
@@ -46,7 +46,7 @@ public:
     template <class Target, class Method>
     void addTarget(Target *target, Method action, UIControlEvents events)
     {
-        add(std::make_shared<const UIMethodAction<UIControl, Target, Method>>(target, action),
+        add(std::make_shared<const MethodAction<UIControl, Target, Method>>(target, action),
             events);
     }
 

@@ -32,7 +32,7 @@ FocusScope {
         anchors.right: parent.right
         controller: root.controller
     }
-    UITransitionStackView {
+    TransitionStackView {
         id: pageStack
         anchors.top: bar.bottom
         anchors.bottom: parent.bottom
@@ -41,7 +41,7 @@ FocusScope {
         stack: root.controller.pages
         pages: true
     }
-    UIBackSwipe {
+    BackSwipe {
         anchors.top: pageStack.top
         anchors.bottom: pageStack.bottom
         anchors.left: parent.left

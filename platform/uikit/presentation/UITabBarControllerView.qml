@@ -11,14 +11,14 @@ FocusScope {
 
     required property UITabBarController controller
 
-    property UIControllerLoader shown: null
+    property ControllerLoader shown: null
 
     focus: true
 
     Repeater {
         model: root.controller.viewControllers
 
-        UIControllerLoader {
+        ControllerLoader {
             id: tab
 
             required property UIViewController modelData

@@ -17,7 +17,7 @@ FocusScope {
         anchors.fill: parent
         color: Traits.backgroundColor
     }
-    UITransitionStackView {
+    TransitionStackView {
         anchors.fill: parent
         focus: true
         stack: root.control.presentation

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "platform/uikit/base/Make.h"
+#include "platform/uikit/tables/TableEntries.h"
 #include "platform/uikit/tables/UIRefreshControl.h"
 #include "platform/uikit/tables/UITableViewCell.h"
 #include "platform/uikit/tables/UITableViewDataSource.h"
 #include "platform/uikit/tables/UITableViewDelegate.h"
-#include "platform/uikit/tables/UITableViewEntries.h"
 
 #include <functional>
 #include <map>
@@ -21,7 +21,7 @@ class UITableView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to its controller")
-    Q_PROPERTY(UITableViewEntries *entries READ entries CONSTANT FINAL)
+    Q_PROPERTY(TableEntries *entries READ entries CONSTANT FINAL)
     Q_PROPERTY(bool drawsSeparators READ drawsSeparators NOTIFY changed FINAL)
     Q_PROPERTY(UIFont sectionFont READ sectionFont CONSTANT FINAL)
     Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed FINAL)
@@ -76,7 +76,7 @@ public:
     void chooseRowAtIndexPath(const NSIndexPath &indexPath);
 
     // For whoever draws the table.
-    [[nodiscard]] UITableViewEntries *entries() { return &m_entries; }
+    [[nodiscard]] TableEntries *entries() { return &m_entries; }
     Q_INVOKABLE void chooseEntry(int entry);
     Q_INVOKABLE void cellHidden(UITableViewCell *cell);
     [[nodiscard]] static UIFont sectionFont();
@@ -103,5 +103,5 @@ private:
     std::map<QString, std::vector<std::shared_ptr<UITableViewCell>>> m_pool;
     std::optional<NSIndexPath> m_selected;
     std::shared_ptr<UIRefreshControl> m_refreshControl;
-    UITableViewEntries m_entries;
+    TableEntries m_entries;
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/tables/UITableViewCell.h"
 
-#include "platform/uikit/presentation/UIViewUrl.h"
+#include "platform/uikit/presentation/ViewUrl.h"
 
 UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier)
     : m_style(style), m_reuseIdentifier(reuseIdentifier)

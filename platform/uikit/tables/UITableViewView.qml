@@ -30,13 +30,13 @@ Rectangle {
         if (!row)
             return;
         const before = list.contentY;
-        list.currentIndex = (row as UITableViewEntryView).index; // or it would go when out of sight
+        list.currentIndex = (row as TableEntryView).index; // or it would go when out of sight
         list.contentY = before;
         list.forceLayout(); // as high as what is typed has made it
         const place = focused.mapToItem(list.contentItem, mark);
         const bottom = place.bottom + Metrics.rowMargin - (list.height - list.bottomMargin);
         list.contentY = Math.min(place.top - Metrics.rowMargin, Math.max(list.contentY, bottom));
-        const inside = keyboard.firstControl(row as UITableViewEntryView);
+        const inside = keyboard.firstControl(row as TableEntryView);
         if (focused === row) // what had the keyboard in it went in a reload
             (inside ? inside : keyboard).forceActiveFocus(Qt.TabFocusReason);
         else if (!focused.activeFocusOnTab)
@@ -54,11 +54,11 @@ Rectangle {
     onFocusedChanged: revealSoon()
     onMarkChanged: revealSoon()
 
-    UITableViewKeyboard {
+    TableKeyboard {
         id: keyboard
 
         // What is disabled has no controls, until it is enabled again.
-        readonly property Item said: root.enabled ? spokenIn(list.currentItem as UITableViewEntryView) : null
+        readonly property Item said: root.enabled ? spokenIn(list.currentItem as TableEntryView) : null
 
         focus: true
         activeFocusOnTab: root.rowsHaveKeyboard
@@ -93,7 +93,7 @@ Rectangle {
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         model: root.control.entries
-        delegate: UITableViewEntryView {}
+        delegate: TableEntryView {}
         // What is drawn goes beyond its bounds, but the view does not: it would be thrown back
         // whenever a row leaves there and the heights of those not yet seen are estimated anew.
         boundsMovement: Flickable.StopAtBounds

@@ -7,7 +7,7 @@ import UIKit
 
 /// A menu over the whole window, of what can be done with a text. A press outside closes it, and
 /// so does any key that does not move through it.
-KeyTaker {
+KeyGrabber {
     id: root
 
     /// Opened the menu, closes it, and does what is chosen.

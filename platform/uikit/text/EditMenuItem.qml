@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 
 /// One line of a menu, darker while a finger or the keyboard is on it.
-UIPressArea {
+PressArea {
     id: root
 
     required property string title

@@ -124,9 +124,9 @@ private Q_SLOTS:
         Stage stage({}, reset);
         stage.settle();
         // The page below is dimmed and not touched.
-        stage.tap(stage.item(u"UITransitionStackView"_s)->childItems().value(0));
+        stage.tap(stage.item(u"TransitionStackView"_s)->childItems().value(0));
         QCOMPARE(stage.triggered, QString());
-        const UITraits &traits = stage.application.traits();
+        const Traits &traits = stage.application.traits();
         QQuickView &view = stage.host->view();
         const int dimmed = view.grabWindow().pixelColor(5, 5).lightness();
         QVERIFY(dimmed < traits.backgroundColor().lightness());

@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(window().grabWindow().pixelColor(22, 102).name(), u"#ff0000"_s); // no template
         QCOMPARE(separator(1)->y() + separator(1)->height(), 44);
 
-        m_fixture->application.traits().setOverride(UIAppearance{.textScale = 2});
+        m_fixture->application.traits().setOverride(DesktopAppearance{.textScale = 2});
         QTRY_VERIFY(item(1)->height() > 44);
         m_table->tableView()->setSeparatorStyle(UITableViewCellSeparatorStyle::None);
         QVERIFY(!separator(1)->isVisible());
@@ -117,7 +117,7 @@ private Q_SLOTS:
             QCOMPARE(label->width(), 390 - 2 * 16);
             QVERIFY(label->property("contentWidth").toDouble() <= label->width());
         }
-        m_fixture->application.traits().setOverride(UIAppearance{.textScale = 1.5});
+        m_fixture->application.traits().setOverride(DesktopAppearance{.textScale = 1.5});
         for (const QQuickItem *label : {upper, lower}) {
             QVERIFY2(!label->property("truncated").toBool(), "enlarged text is cut");
         }

@@ -24,7 +24,7 @@ void TestPage::viewDidAppear(bool animated)
     ++appeared;
 }
 
-WindowFixture::WindowFixture(const UIAppearance &appearance)
+WindowFixture::WindowFixture(const DesktopAppearance &appearance)
 {
     WindowDriver::beStrict();
     application.traits().setOverride(appearance);
@@ -51,7 +51,7 @@ void WindowFixture::show(const std::shared_ptr<UIViewController> &root,
     if (presented) {
         root->presentViewController(presented, false);
     }
-    host = std::make_unique<UIWindowHost>(*window, QStringLiteral("Test"), QIcon());
+    host = std::make_unique<DesktopWindow>(*window, QStringLiteral("Test"), QIcon());
     host->view().resize(size);
     host->show();
     QVERIFY(QTest::qWaitForWindowActive(&host->view()));

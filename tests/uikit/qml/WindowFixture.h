@@ -5,9 +5,9 @@
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "platform/uikit/base/UIApplication.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 #include "platform/uikit/presentation/UIViewController.h"
 #include "platform/uikit/presentation/UIWindow.h"
-#include "platform/uikit/presentation/UIWindowHost.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/WindowDriver.h"
 
@@ -30,13 +30,13 @@ public:
 /// An application with a shown window; anything that QML complains about fails the test.
 class WindowFixture {
 public:
-    explicit WindowFixture(const UIAppearance &appearance = {});
+    explicit WindowFixture(const DesktopAppearance &appearance = {});
     ~WindowFixture();
 
     RecordingHost machine;
     UIApplication application{machine};
     std::unique_ptr<UIWindow> window = std::make_unique<UIWindow>();
-    std::unique_ptr<UIWindowHost> host;
+    std::unique_ptr<DesktopWindow> host;
 
     /// Shows a window of that size: `root`, and over it, not animated, `presented` if there is one.
     void show(const std::shared_ptr<UIViewController> &root,
