@@ -63,7 +63,7 @@ int Launch::run(const QStringList &urls)
         openURLs(later);
         m_window->show();
     };
-    if (!m_host.becomeOnlyInstance(urls, opened)) {
+    if (!m_host.claimSingleInstance(urls, opened)) {
         return 0;
     }
 
@@ -108,7 +108,7 @@ void Launch::openURLs(const QStringList &urls)
 void Launch::end()
 {
     // A start from now on is not handed to an application that is about to go.
-    m_host.resignOnlyInstance();
+    m_host.releaseSingleInstance();
     m_runtime->delegate().applicationWillTerminate();
     m_runtime->finish();
     m_window.reset();

@@ -28,7 +28,7 @@ ControlArea {
     Rectangle {
         anchors.fill: parent
         radius: root.control.layer.cornerRadius
-        color: root.control.backgroundColor.drawn(Traits.dark)
+        color: root.control.backgroundColor.toQColor(Traits.dark)
     }
     SublayersPicture {
         anchors.fill: parent
@@ -41,7 +41,7 @@ ControlArea {
         color: "transparent"
         border.width: root.control.layer.borderWidth
         border.pixelAligned: false
-        border.color: root.control.layer.borderColor.drawn(Traits.dark)
+        border.color: root.control.layer.borderColor.toQColor(Traits.dark)
     }
     Text {
         id: title
@@ -50,8 +50,8 @@ ControlArea {
         anchors.rightMargin: Math.max(Metrics.margin / 2, root.insets.right)
         text: root.control.title
         textFormat: Text.PlainText
-        font: root.control.titleFont.drawn(Traits.textScale)
-        color: root.control.titleColor.drawn(Traits.dark)
+        font: root.control.titleFont.toQFont(Traits.textScale)
+        color: root.control.titleColor.toQColor(Traits.dark)
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

@@ -51,14 +51,14 @@ void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)>
     m_appearanceChanged = std::move(changed);
     m_told = {};
     if (!m_palette) {
-        m_palette = std::make_unique<DesktopPalette>([this] { tellAppearance(); });
+        m_palette = std::make_unique<DesktopPalette>([this] { announceAppearance(); });
         m_settings =
-            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { tellAppearance(); });
+            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { announceAppearance(); });
     }
-    tellAppearance();
+    announceAppearance();
 }
 
-void LinuxHost::tellAppearance()
+void LinuxHost::announceAppearance()
 {
     DesktopAppearance appearance = m_settings->appearance();
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {
@@ -71,8 +71,8 @@ void LinuxHost::tellAppearance()
     m_appearanceChanged(appearance);
 }
 
-bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
-                                   std::function<void(const QStringList &)> opened)
+bool LinuxHost::claimSingleInstance(const QStringList &urls,
+                                    std::function<void(const QStringList &)> opened)
 {
     if (!m_bus->isConnected()) {
         if (!SessionBus::isDisabled()) {
@@ -85,7 +85,7 @@ bool LinuxHost::becomeOnlyInstance(const QStringList &urls,
     return m_instance->claimOrHandOver(urls, QDeadlineTimer(m_patienceLeft));
 }
 
-void LinuxHost::resignOnlyInstance()
+void LinuxHost::releaseSingleInstance()
 {
     m_instance.reset();
 }

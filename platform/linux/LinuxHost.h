@@ -36,13 +36,14 @@ public:
     void openURL(const QString &url) override;
     void impactOccurred(UIImpactFeedbackStyle style) override;
     void observeAppearance(std::function<void(const DesktopAppearance &)> changed) override;
-    [[nodiscard]] bool becomeOnlyInstance(const QStringList &urls,
-                                          std::function<void(const QStringList &)> opened) override;
+    [[nodiscard]] bool
+    claimSingleInstance(const QStringList &urls,
+                        std::function<void(const QStringList &)> opened) override;
     /// A later start of the application is on its own from now on.
-    void resignOnlyInstance();
+    void releaseSingleInstance();
 
 private:
-    void tellAppearance();
+    void announceAppearance();
 
     QString m_applicationId;
     std::chrono::milliseconds m_patienceLeft;

@@ -221,14 +221,14 @@ private Q_SLOTS:
         TestApp app;
         app.launch();
         const UIColor &bar = app.delegate().tabController()->tabBar()->tintColor();
-        QVERIFY(bar.drawn(true) == UIColor::systemTealColor().drawn(true));
+        QVERIFY(bar.toQColor(true) == UIColor::systemTealColor().toQColor(true));
         for (const double version : {12.5, 13.0}) {
             app.application().traits().setSystemVersion(version);
             const UIColor dark =
                 version < 13 ? UIColor::systemBlueColor() : UIColor::systemTealColor();
             const UIColor tint = UIColorEx::tintColor();
-            QVERIFY(tint.drawn(false) == UIColor::systemBlueColor().drawn(false));
-            QVERIFY(tint.drawn(true) == dark.drawn(true));
+            QVERIFY(tint.toQColor(false) == UIColor::systemBlueColor().toQColor(false));
+            QVERIFY(tint.toQColor(true) == dark.toQColor(true));
         }
     }
 

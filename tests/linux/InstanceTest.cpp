@@ -65,7 +65,7 @@ private Q_SLOTS:
                     opened.append(QStringList(list)
                                   << qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
                 };
-                QVERIFY(host.becomeOnlyInstance({u"own"_s}, append));
+                QVERIFY(host.claimSingleInstance({u"own"_s}, append));
                 QCOMPARE(start(urls, environment), "second\n");
                 QCOMPARE(opened, QList<QStringList>{QStringList(urls) << token});
                 QVERIFY(qEnvironmentVariableIsEmpty("XDG_ACTIVATION_TOKEN"));
@@ -81,11 +81,11 @@ private Q_SLOTS:
         LinuxHost first(applicationId);
         LinuxHost second(applicationId);
         const QStringList urls{u"wzt://x"_s};
-        QVERIFY(first.becomeOnlyInstance({}, append));
+        QVERIFY(first.claimSingleInstance({}, append));
         // The first cannot answer: its thread stands in this very call.
         QTest::ignoreMessage(
             QtInfoMsg, "The application that runs does not answer: this start is on its own.");
-        QVERIFY(second.becomeOnlyInstance(urls, {}));
+        QVERIFY(second.claimSingleInstance(urls, {}));
         QVERIFY(opened.isEmpty());
         QTRY_COMPARE(opened, QList<QStringList>{urls});
 
@@ -134,7 +134,7 @@ private Q_SLOTS:
         qsizetype opened = 0;
         LinuxHost host(applicationId);
         QVERIFY(
-            host.becomeOnlyInstance({}, [&](const QStringList &urls) { opened = urls.size(); }));
+            host.claimSingleInstance({}, [&](const QStringList &urls) { opened = urls.size(); }));
         const qint64 before = residentPages();
         constexpr qsizetype many = 300000;
         {
@@ -172,7 +172,7 @@ private Q_SLOTS:
     void noBus()
     {
         LinuxHost host(applicationId);
-        QVERIFY(host.becomeOnlyInstance({}, [](const QStringList &) {}));
+        QVERIFY(host.claimSingleInstance({}, [](const QStringList &) {}));
         const QString home = QDir::homePath();
         QFile launcher(home + "/dbus-launch"_L1);
         QVERIFY(launcher.open(QFile::WriteOnly)

@@ -20,7 +20,7 @@ int startApplication(QStringList arguments, std::chrono::milliseconds patience)
     host.observeAppearance([](const DesktopAppearance &) {});
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
-    return std::puts(host.becomeOnlyInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
+    return std::puts(host.claimSingleInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
 }
 
 } // namespace

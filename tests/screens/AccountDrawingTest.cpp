@@ -184,7 +184,7 @@ private Q_SLOTS:
         WindowDriver::Finger pressing(stage.window->view(), at);
         QTRY_VERIFY(stage.isPressed());
         const QColor drawn = stage.window->view().grabWindow().pixelColor(at - QPoint(150, 0));
-        QCOMPARE(drawn, pressedColor(UIColor::redColor()).drawn(false));
+        QCOMPARE(drawn, pressedColor(UIColor::redColor()).toQColor(false));
         pressing.move(at + QPoint(0, 150)); // the touch stays the button's
         QTRY_VERIFY(!stage.isPressed());
         QCOMPARE(stage.scrolled(), 0);

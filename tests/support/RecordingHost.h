@@ -25,8 +25,8 @@ public:
     void openURL(const QString &url) override { openedURLs.append(url); }
     void impactOccurred(UIImpactFeedbackStyle) override { ++taps; }
     void observeAppearance(std::function<void(const DesktopAppearance &)>) override {}
-    [[nodiscard]] bool becomeOnlyInstance(const QStringList &,
-                                          std::function<void(const QStringList &)>) override
+    [[nodiscard]] bool claimSingleInstance(const QStringList &,
+                                           std::function<void(const QStringList &)>) override
     {
         return true;
     }

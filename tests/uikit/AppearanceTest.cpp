@@ -45,7 +45,7 @@ private Q_SLOTS:
         for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
             m_traits.setOverride(DesktopAppearance{.style = style});
             const QColor row =
-                UIColor::secondarySystemGroupedBackgroundColor().drawn(m_traits.isDark());
+                UIColor::secondarySystemGroupedBackgroundColor().toQColor(m_traits.isDark());
             const QColor pressed = m_traits.pressedAlertColor();
             for (const QColor &ground : {row, m_traits.backgroundColor(), m_traits.barColor(),
                                          m_traits.alertColor(), pressed}) {

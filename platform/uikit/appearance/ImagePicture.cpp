@@ -41,7 +41,7 @@ void ImagePicture::setTint(const QColor &tint)
     update();
 }
 
-QImage ImagePicture::drawn(double pixelRatio) const
+QImage ImagePicture::render(double pixelRatio) const
 {
     QImage image((size() * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull() || !m_svg || !m_svg->isValid()) {
@@ -60,7 +60,7 @@ QImage ImagePicture::drawn(double pixelRatio) const
 QSGNode *ImagePicture::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
     const double pixelRatio = window()->effectiveDevicePixelRatio();
-    const QImage image = drawn(pixelRatio);
+    const QImage image = render(pixelRatio);
     if (image.isNull()) {
         delete old;
         return nullptr;

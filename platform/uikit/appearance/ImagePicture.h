@@ -37,7 +37,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    [[nodiscard]] QImage drawn(double pixelRatio) const;
+    [[nodiscard]] QImage render(double pixelRatio) const;
 
     QString m_name;
     QColor m_tint = Qt::transparent;

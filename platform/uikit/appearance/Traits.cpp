@@ -15,7 +15,7 @@ Traits *Traits::create(QQmlEngine *, QJSEngine *)
 
 QColor Traits::labelColor() const
 {
-    return UIColor::labelColor().drawn(isDark());
+    return UIColor::labelColor().toQColor(isDark());
 }
 
 QColor Traits::secondaryLabelColor() const
@@ -30,7 +30,7 @@ QColor Traits::placeholderColor() const
 
 QColor Traits::separatorColor() const
 {
-    return UIColor::separatorColor().drawn(isDark());
+    return UIColor::separatorColor().toQColor(isDark());
 }
 
 QColor Traits::accentColor() const
@@ -40,7 +40,7 @@ QColor Traits::accentColor() const
 
 QColor Traits::backgroundColor() const
 {
-    return UIColor::systemGroupedBackgroundColor().drawn(isDark());
+    return UIColor::systemGroupedBackgroundColor().toQColor(isDark());
 }
 
 QColor Traits::barColor() const

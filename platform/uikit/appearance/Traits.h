@@ -88,7 +88,7 @@ private:
 
     [[nodiscard]] QFont font(UIFontTextStyle style) const
     {
-        return UIFont::preferredFontForTextStyle(style).drawn(textScale());
+        return UIFont::preferredFontForTextStyle(style).toQFont(textScale());
     }
 
     [[nodiscard]] const DesktopAppearance &effective() const

@@ -206,7 +206,7 @@ std::optional<UIColor::HSB> UIColor::getHue() const
     return HSB{(sixth < 0 ? sixth + 6 : sixth) / 6, most > 0 ? range / most : 0, most, rgb->alpha};
 }
 
-QColor UIColor::drawn(bool dark) const
+QColor UIColor::toQColor(bool dark) const
 {
     const auto style = dark ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
     const std::vector<double> c = resolvedColorWithTraitCollection({style}).components();

@@ -80,7 +80,7 @@ public:
 
     /// What is drawn in the dark or the light style: components clamped to 0...1, transparent for
     /// no colour.
-    Q_INVOKABLE [[nodiscard]] QColor drawn(bool dark) const;
+    Q_INVOKABLE [[nodiscard]] QColor toQColor(bool dark) const;
 
     /// Equal components, or the same provider.
     bool operator==(const UIColor &) const = default;

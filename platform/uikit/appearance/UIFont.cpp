@@ -39,7 +39,7 @@ UIFont UIFont::systemFontOfSize(double points, QFont::Weight weight)
     return {points, weight};
 }
 
-QFont UIFont::drawn(double textScale) const
+QFont UIFont::toQFont(double textScale) const
 {
     QFont font;
     font.setPixelSize(qMax(1, qRound(m_pointSize * textScale)));

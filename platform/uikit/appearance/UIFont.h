@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QFont::Weight weight() const { return m_weight; }
 
     /// What is drawn: one point is one pixel at a text scale of 1.
-    Q_INVOKABLE [[nodiscard]] QFont drawn(double textScale) const;
+    Q_INVOKABLE [[nodiscard]] QFont toQFont(double textScale) const;
 
     bool operator==(const UIFont &) const = default;
 

@@ -45,7 +45,7 @@ FocusScope {
 
                 item: modelData
                 selected: index === root.control.selectedIndex
-                tint: root.control.tintColor.drawn(Traits.dark)
+                tint: root.control.tintColor.toQColor(Traits.dark)
                 width: Math.min(Metrics.widestTab, root.width / items.count)
                 height: tabs.height
                 onTriggered: root.control.choose(index)

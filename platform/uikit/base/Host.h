@@ -49,6 +49,6 @@ public:
     /// `opened` is called for every list of URLs that a later start hands over, empty for
     /// a mere activation.
     [[nodiscard]] virtual bool
-    becomeOnlyInstance(const QStringList &urls,
-                       std::function<void(const QStringList &)> opened) = 0;
+    claimSingleInstance(const QStringList &urls,
+                        std::function<void(const QStringList &)> opened) = 0;
 };

@@ -18,7 +18,7 @@ QLinearGradient drawn(const CAGradientLayer &layer)
     double last = -1;
     for (size_t i = 0; i < std::min(layer.colors.size(), layer.locations.size()); ++i) {
         last = layer.locations[i] > last ? layer.locations[i] : last + edge;
-        gradient.setColorAt(std::clamp(last, 0.0, 1.0), layer.colors[i].drawn(false));
+        gradient.setColorAt(std::clamp(last, 0.0, 1.0), layer.colors[i].toQColor(false));
     }
     return gradient;
 }

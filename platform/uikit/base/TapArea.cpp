@@ -11,7 +11,7 @@
 namespace {
 
 // Whether `item` edits text, or lies in what does.
-bool edits(const QQuickItem *item)
+bool isEditor(const QQuickItem *item)
 {
     while (item && !item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod)) {
         item = item->parentItem();
@@ -21,7 +21,7 @@ bool edits(const QQuickItem *item)
 
 // Whether it is of the left button, and not what the system makes of a touch that nobody took: that
 // was seen as the touch.
-bool taps(const QMouseEvent &event)
+bool isTap(const QMouseEvent &event)
 {
     const bool other = event.button() != Qt::LeftButton && event.button() != Qt::NoButton;
     return !other && event.source() == Qt::MouseEventNotSynthesized;
@@ -47,7 +47,7 @@ bool TapArea::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::TouchCancel) {
         m_press.reset();
     }
-    if (touch || (mouse && taps(*static_cast<QMouseEvent *>(event)))) {
+    if (touch || (mouse && isTap(*static_cast<QMouseEvent *>(event)))) {
         watch(*static_cast<QPointerEvent *>(event));
     }
     return WindowWatcher::eventFilter(watched, event);
@@ -82,5 +82,5 @@ bool TapArea::takes(const QPointF &scene) const
     }
     const QQuickItem *hit = HitTest::itemAt(window()->contentItem(), scene);
     const bool own = !hit || hit->isAncestorOf(this) || parentItem()->isAncestorOf(hit);
-    return own && !edits(hit);
+    return own && !isEditor(hit);
 }

@@ -11,11 +11,11 @@ Rectangle {
 
     required property UIView control
 
-    color: control.backgroundColor.drawn(Traits.dark)
+    color: control.backgroundColor.toQColor(Traits.dark)
     radius: control.layer.cornerRadius
     border.width: control.layer.borderWidth
     border.pixelAligned: false
-    border.color: control.layer.borderColor.drawn(Traits.dark)
+    border.color: control.layer.borderColor.toQColor(Traits.dark)
     clip: control.layer.masksToBounds
 
     TapArea { receiver: root.control }

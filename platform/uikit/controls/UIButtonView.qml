@@ -29,8 +29,8 @@ ControlArea {
         anchors.rightMargin: root.insets.right
         text: root.control.title
         textFormat: Text.PlainText
-        font: root.control.titleFont.drawn(Traits.textScale)
-        color: root.control.titleColor.drawn(Traits.dark)
+        font: root.control.titleFont.toQFont(Traits.textScale)
+        color: root.control.titleColor.toQColor(Traits.dark)
         opacity: root.control.highlighted ? Metrics.highlightedOpacity : 1
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter

@@ -18,6 +18,6 @@ Item {
     ImagePicture {
         anchors.fill: parent
         name: root.control.image.name
-        tint: root.control.image.isTemplate ? root.control.tintColor.drawn(Traits.dark) : "transparent"
+        tint: root.control.image.isTemplate ? root.control.tintColor.toQColor(Traits.dark) : "transparent"
     }
 }

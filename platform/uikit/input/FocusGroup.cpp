@@ -14,10 +14,10 @@ void FocusGroup::setCurrent(QQuickItem *current)
     }
     m_current = current;
     Q_EMIT currentChanged();
-    tellCurrent();
+    announceCurrent();
 }
 
-void FocusGroup::tellCurrent()
+void FocusGroup::announceCurrent()
 {
     m_spoken.set(hasActiveFocus() ? m_current.get() : nullptr);
 }
@@ -36,12 +36,12 @@ void FocusGroup::focusInEvent(QFocusEvent *event)
 {
     QQuickItem::focusInEvent(event);
     m_keyFocus.follow(event->reason());
-    tellCurrent();
+    announceCurrent();
 }
 
 void FocusGroup::focusOutEvent(QFocusEvent *event)
 {
     QQuickItem::focusOutEvent(event);
     m_keyFocus.follow(Qt::OtherFocusReason);
-    tellCurrent();
+    announceCurrent();
 }

@@ -34,7 +34,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void tellCurrent();
+    void announceCurrent();
 
     QPointer<QQuickItem> m_current;
     ScreenReaderFocus m_spoken;

@@ -9,7 +9,7 @@
 
 namespace {
 
-bool takesLines(QObject *focused)
+bool isMultiLine(QObject *focused)
 {
     if (!focused) {
         return false;
@@ -43,7 +43,7 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
     if (!press->isAutoRepeat()) {
         if (event->type() == QEvent::KeyPress) {
             m_key = press->key();
-            m_beganInLines = takesLines(QGuiApplication::focusObject());
+            m_beganInLines = isMultiLine(QGuiApplication::focusObject());
         } else if (press->key() == m_key) {
             m_key = 0;
         }
@@ -58,7 +58,7 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return !m_beganInLines || !takesLines(QGuiApplication::focusObject());
+        return !m_beganInLines || !isMultiLine(QGuiApplication::focusObject());
     default:
         return false;
     }

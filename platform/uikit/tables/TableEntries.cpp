@@ -165,7 +165,7 @@ void TableEntries::hide(const UITableViewCell *cell)
     }
 }
 
-int TableEntries::rowBeside(int entry, int step) const
+int TableEntries::adjacentRow(int entry, int step) const
 {
     // After a reload the table may end before what was the current row.
     for (int next = std::clamp(entry, -1, rowCount()) + step; sectionOf(next); next += step) {

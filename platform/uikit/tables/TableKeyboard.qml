@@ -15,15 +15,15 @@ FocusGroup {
 
     /// The next row that way that is not known to have nothing to say; -1 for none.
     function beside(entry: int, step: int): int {
-        const next = control.entries.rowBeside(entry, step)
+        const next = control.entries.adjacentRow(entry, step)
         const drawn = list.itemAtIndex(next) as TableEntryView
-        return drawn && !spokenIn(drawn) ? beside(next, step) : next
+        return drawn && !accessibleItem(drawn) ? beside(next, step) : next
     }
     function topEntry(): int {
         return list.indexAt(0, Math.max(list.originY, list.contentY))
     }
     /// What a row is to screen readers: itself, or else its first control; null for neither.
-    function spokenIn(entry: TableEntryView): Item {
+    function accessibleItem(entry: TableEntryView): Item {
         return entry?.cell?.accessibilityLabel ? entry.item as Item : firstControl(entry)
     }
     /// What Tab comes to first in a row that says nothing itself; null for nothing.
@@ -58,7 +58,7 @@ FocusGroup {
         list.contentY += step * Math.min(rest, by)
         return true
     }
-    function turnLine(step: int) {
+    function moveByLine(step: int) {
         const next = beside(list.currentIndex, step)
         if (scrollWithin(step, 2 * Metrics.row))
             return
@@ -69,7 +69,7 @@ FocusGroup {
         else
             list.positionViewAtBeginning()
     }
-    function turnPage(step: int) {
+    function moveByPage(step: int) {
         if (tallInSight()) {
             if (!scrollWithin(step, list.height - Metrics.row))
                 goTo(beside(list.currentIndex, step))
@@ -87,14 +87,14 @@ FocusGroup {
         if (inside)
             inside.forceActiveFocus(Qt.TabFocusReason)
         else
-            control.chooseEntry(list.currentIndex)
+            control.activateEntry(list.currentIndex)
     }
 
     onFocusVisibleChanged: if (focusVisible && list.currentIndex < 0)
         goTo(beside(topEntry() - 1, 1))
 
-    Keys.onUpPressed: turnLine(-1)
-    Keys.onDownPressed: turnLine(1)
+    Keys.onUpPressed: moveByLine(-1)
+    Keys.onDownPressed: moveByLine(1)
     Keys.onReturnPressed: choose()
     Keys.onEnterPressed: choose()
     Keys.onSpacePressed: event => {
@@ -113,10 +113,10 @@ FocusGroup {
             list.positionViewAtEnd()
             break
         case Qt.Key_PageUp:
-            turnPage(-1)
+            moveByPage(-1)
             break
         case Qt.Key_PageDown:
-            turnPage(1)
+            moveByPage(1)
             break
         default:
             event.accepted = false

@@ -37,19 +37,19 @@ Item {
     }
     Connections {
         // A handler that is only disabled would still be offered.
-        target: root.cell.selects ? root.Accessible : null
+        target: root.cell.selectable ? root.Accessible : null
         function onPressAction() {
-            root.entry.table.chooseEntry(root.entry.index)
+            root.entry.table.activateEntry(root.entry.index)
         }
     }
     Rectangle {
         anchors.fill: parent
-        color: root.cell.backgroundColor.drawn(Traits.dark)
+        color: root.cell.backgroundColor.toQColor(Traits.dark)
     }
     Rectangle {
         objectName: "selection"
         anchors.fill: parent
-        color: root.cell.selectionColor.drawn(Traits.dark)
+        color: root.cell.selectionColor.toQColor(Traits.dark)
         opacity: root.cell.drawsSelection ? 1 : 0
 
         Behavior on opacity {
@@ -63,12 +63,12 @@ Item {
         activeFocusOnTab: false
         yields: true
         onHighlightedChanged: root.cell.setHighlighted(highlighted)
-        onTriggered: root.entry.table.chooseEntry(root.entry.index)
+        onTriggered: root.entry.table.activateEntry(root.entry.index)
 
         // In here, so that a touch beside a small control is the control's.
         Rectangle {
             anchors.fill: parent
-            color: root.cell.contentView.backgroundColor.drawn(Traits.dark)
+            color: root.cell.contentView.backgroundColor.toQColor(Traits.dark)
         }
         Loader {
             id: content

@@ -26,7 +26,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignLeft
-        font: root.entry.table.sectionFont.drawn(Traits.textScale)
+        font: root.entry.table.sectionFont.toQFont(Traits.textScale)
         color: Traits.secondaryLabelColor
 
         Accessible.role: root.isHeader ? Accessible.Heading : Accessible.StaticText

@@ -56,7 +56,7 @@ void UITableView::deselectRowAtIndexPath(const NSIndexPath &indexPath, bool anim
     }
 }
 
-void UITableView::chooseRowAtIndexPath(const NSIndexPath &indexPath)
+void UITableView::activateRow(const NSIndexPath &indexPath)
 {
     if (m_selected && m_selected != indexPath) {
         deselectRowAtIndexPath(*m_selected, false);
@@ -70,10 +70,10 @@ void UITableView::chooseRowAtIndexPath(const NSIndexPath &indexPath)
     }
 }
 
-void UITableView::chooseEntry(int entry)
+void UITableView::activateEntry(int entry)
 {
     if (const auto indexPath = m_entries.indexPathOf(entry)) {
-        chooseRowAtIndexPath(*indexPath);
+        activateRow(*indexPath);
     }
 }
 

@@ -73,11 +73,11 @@ public:
     void deselectRowAtIndexPath(const NSIndexPath &indexPath, bool animated);
 
     /// What a tap on a row does: selects it, and tells the delegate.
-    void chooseRowAtIndexPath(const NSIndexPath &indexPath);
+    void activateRow(const NSIndexPath &indexPath);
 
     // For whoever draws the table.
     [[nodiscard]] TableEntries *entries() { return &m_entries; }
-    Q_INVOKABLE void chooseEntry(int entry);
+    Q_INVOKABLE void activateEntry(int entry);
     Q_INVOKABLE void cellHidden(UITableViewCell *cell);
     [[nodiscard]] static UIFont sectionFont();
 

@@ -44,7 +44,7 @@ void UITableViewCell::setHighlighted(bool highlighted)
 
 bool UITableViewCell::drawsSelection() const
 {
-    return selects() && (m_selected || m_highlighted);
+    return isSelectable() && (m_selected || m_highlighted);
 }
 
 UIColor UITableViewCell::selectionColor()

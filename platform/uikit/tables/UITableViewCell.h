@@ -28,7 +28,7 @@ class UITableViewCell : public UIView {
     Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT FINAL)
     Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT FINAL)
     Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed FINAL)
-    Q_PROPERTY(bool selects READ selects NOTIFY changed FINAL)
+    Q_PROPERTY(bool selectable READ isSelectable NOTIFY changed FINAL)
     Q_PROPERTY(bool animatesSelection READ animatesSelection NOTIFY changed FINAL)
 
 public:
@@ -52,7 +52,7 @@ public:
     [[nodiscard]] UITableViewCellSelectionStyle selectionStyle() const { return m_selectionStyle; }
     void setSelectionStyle(UITableViewCellSelectionStyle style) { assign(m_selectionStyle, style); }
     /// Whether choosing the row is of any use.
-    [[nodiscard]] bool selects() const
+    [[nodiscard]] bool isSelectable() const
     {
         return m_selectionStyle != UITableViewCellSelectionStyle::None;
     }

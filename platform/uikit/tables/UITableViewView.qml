@@ -43,7 +43,7 @@ Rectangle {
             keyboard.forceActiveFocus(); // by screen reader; keys are heard here
     }
 
-    color: control.backgroundColor.drawn(Traits.dark)
+    color: control.backgroundColor.toQColor(Traits.dark)
     clip: true
 
     // Its name is whose table it is.
@@ -58,13 +58,13 @@ Rectangle {
         id: keyboard
 
         // What is disabled has no controls, until it is enabled again.
-        readonly property Item said: root.enabled ? spokenIn(list.currentItem as TableEntryView) : null
+        readonly property Item accessible: root.enabled ? accessibleItem(list.currentItem as TableEntryView) : null
 
         focus: true
         activeFocusOnTab: root.rowsHaveKeyboard
         control: root.control
         list: list
-        current: said ? said : root
+        current: accessible ? accessible : root
     }
     Loader {
         readonly property UIRefreshControl refreshControl: root.control.refreshControl

@@ -18,8 +18,8 @@ public:
     /// Does what has that title.
     Q_INVOKABLE void perform(const QString &title);
     /// Gives the editor the keyboard, with the insertion mark at `position`, unless that is
-    /// selected already. The word there is selected if `selects`, or all of a secret.
-    Q_INVOKABLE void point(int position, bool selects);
+    /// selected already. The word there is selected if `select`, or all of a secret.
+    Q_INVOKABLE void point(int position, bool select);
 
 private:
     QPointer<QQuickItem> m_editor;

@@ -16,8 +16,8 @@ Item {
     readonly property TextEdit lines: parent as TextEdit
     readonly property rect mark: line?.cursorRectangle ?? lines?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
 
-    function point(at: point, selects: bool) {
-        actions.point(line?.positionAt(at.x, at.y) ?? lines?.positionAt(at.x, at.y) ?? 0, selects)
+    function point(at: point, select: bool) {
+        actions.point(line?.positionAt(at.x, at.y) ?? lines?.positionAt(at.x, at.y) ?? 0, select)
     }
     function open(place: rect) {
         const titles = actions.offered()

@@ -19,8 +19,8 @@ TextInput {
 
     verticalAlignment: TextInput.AlignVCenter
     clip: true
-    font: control.font.drawn(textScale)
-    color: control.textColor.drawn(Traits.dark)
+    font: control.font.toQFont(textScale)
+    color: control.textColor.toQColor(Traits.dark)
     selectionColor: Qt.alpha(Traits.accentColor, 0.3)
     selectedTextColor: color
     selectByMouse: !menu.touched

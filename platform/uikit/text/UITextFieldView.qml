@@ -14,15 +14,15 @@ Rectangle {
 
     implicitWidth: input.implicitWidth + 2 * inset
     implicitHeight: Math.ceil(line.height) + 12
-    color: control.fillColor.drawn(Traits.dark)
+    color: control.fillColor.toQColor(Traits.dark)
     radius: rounded ? Metrics.fieldRadius : control.layer.cornerRadius
     border.width: rounded ? Metrics.hairline : control.layer.borderWidth
     border.pixelAligned: false
-    border.color: rounded ? Traits.separatorColor : control.layer.borderColor.drawn(Traits.dark)
+    border.color: rounded ? Traits.separatorColor : control.layer.borderColor.toQColor(Traits.dark)
 
     FontMetrics {
         id: line
-        font: root.control.font.drawn(Traits.textScale)
+        font: root.control.font.toQFont(Traits.textScale)
     }
     TextFieldInput {
         id: input
@@ -50,7 +50,7 @@ Rectangle {
             textFormat: Text.PlainText
             font: input.font
             color: root.control.placeholderColor.isNil() ? Traits.placeholderColor
-                                                         : root.control.placeholderColor.drawn(Traits.dark)
+                                                         : root.control.placeholderColor.toQColor(Traits.dark)
             elide: Text.ElideRight
             horizontalAlignment: input.effectiveHorizontalAlignment
             LayoutMirroring.enabled: false // mirrored it is already

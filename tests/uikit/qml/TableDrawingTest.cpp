@@ -219,7 +219,7 @@ private Q_SLOTS:
         QTRY_VERIFY(marked().isEmpty());
         QVERIFY(m_table->chosen.empty());
         for (const int entry : {1, 2}) {
-            m_table->tableView()->chooseEntry(entry);
+            m_table->tableView()->activateEntry(entry);
         }
         m_table->tableView()->deselectRowAtIndexPath({0, 0}, true); // which is not any more
         for (const double offset : {3000, 0}) { // out of sight and back
