@@ -10,7 +10,7 @@
 
 namespace {
 
-// Whether `item` edits text, or lies in what does.
+// Whether `item` edits text, or lies in an item that does.
 bool isEditor(const QQuickItem *item)
 {
     while (item && !item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod)) {
@@ -19,8 +19,7 @@ bool isEditor(const QQuickItem *item)
     return item;
 }
 
-// Whether it is of the left button, and not what the system makes of a touch that nobody took: that
-// was seen as the touch.
+// Whether it is of the left button, and not synthesised from a touch: that was seen as the touch.
 bool isTap(const QMouseEvent &event)
 {
     const bool other = event.button() != Qt::LeftButton && event.button() != Qt::NoButton;
@@ -34,8 +33,20 @@ void TapArea::setReceiver(UIView *receiver)
     if (m_receiver == receiver) {
         return;
     }
+    if (m_receiver) {
+        m_receiver->disconnect(this);
+    }
     m_receiver = receiver;
+    if (m_receiver) {
+        connect(m_receiver, &UIView::changed, this, &TapArea::followReceiver);
+    }
+    followReceiver();
     Q_EMIT receiverChanged();
+}
+
+void TapArea::followReceiver()
+{
+    setWatching(m_receiver && m_receiver->recognizesTaps());
 }
 
 bool TapArea::eventFilter(QObject *watched, QEvent *event)
@@ -76,7 +87,7 @@ void TapArea::watch(const QPointerEvent &event)
 
 bool TapArea::takes(const QPointF &scene) const
 {
-    if (!m_receiver || !m_receiver->recognizesTaps() || !isVisible() || !isEnabled()
+    if (!m_receiver || !isVisible() || !isEnabled()
         || !parentItem()->contains(parentItem()->mapFromScene(scene))) {
         return false;
     }

@@ -7,9 +7,10 @@
 
 #include <optional>
 
-/// Tells a view of the taps on it: put into the item that draws the view, it sees the taps on all
-/// of that item, without taking them from the controls there. A tap on a text field is left to the
-/// field, which would lose the keyboard again at once.
+/// Tells a view of the taps on it: put into the drawing of the view, it sees the taps on all of it,
+/// without taking them from the controls there. A tap on a text field is left to the field, which
+/// would lose the keyboard again at once. It watches the window, where no grab hides a touch, and
+/// only for a view that has a recogniser.
 class TapArea : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
@@ -20,13 +21,13 @@ public:
     [[nodiscard]] UIView *receiver() const { return m_receiver; }
     void setReceiver(UIView *receiver);
 
-    /// Watches the window, where no grab hides a touch.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void receiverChanged();
 
 private:
+    void followReceiver();
     void watch(const QPointerEvent &event);
     [[nodiscard]] bool takes(const QPointF &scene) const;
 
