@@ -20,7 +20,6 @@ Runtime::Runtime(Host &host, const Settings &settings)
       m_delegate(std::make_unique<AppDelegate>(settings.applicationId, settings.defaultsFolder))
 {
     NSURLSession::setSharedSession(m_session.get());
-    m_application.setDelegate(m_delegate.get());
     host.observeAppearance(
         [application = QPointer(&m_application)](const DesktopAppearance &appearance) {
             if (application) {
@@ -32,7 +31,6 @@ Runtime::Runtime(Host &host, const Settings &settings)
 Runtime::~Runtime()
 {
     finish();
-    m_application.setDelegate(nullptr);
     m_delegate.reset();
     // The screens that the delegate kept are to be gone before the application is.
     destroyWhatWasLetGo();

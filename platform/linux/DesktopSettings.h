@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/Host.h"
+#include "platform/uikit/appearance/DesktopAppearance.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>

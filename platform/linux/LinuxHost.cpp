@@ -51,14 +51,14 @@ void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)>
     m_appearanceChanged = std::move(changed);
     m_told = {};
     if (!m_palette) {
-        m_palette = std::make_unique<DesktopPalette>([this] { announceAppearance(); });
+        m_palette = std::make_unique<DesktopPalette>([this] { reportAppearance(); });
         m_settings =
-            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { announceAppearance(); });
+            std::make_unique<DesktopSettings>(m_bus->connection(), [this] { reportAppearance(); });
     }
-    announceAppearance();
+    reportAppearance();
 }
 
-void LinuxHost::announceAppearance()
+void LinuxHost::reportAppearance()
 {
     DesktopAppearance appearance = m_settings->appearance();
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {

@@ -43,7 +43,7 @@ public:
     void releaseSingleInstance();
 
 private:
-    void announceAppearance();
+    void reportAppearance();
 
     QString m_applicationId;
     std::chrono::milliseconds m_patienceLeft;

@@ -105,8 +105,8 @@ private Q_SLOTS:
         QCOMPARE(app.top(), app.delegate().tabController());
         QCOMPARE(app.delegate().rootVC()->appearanceState(), AppearanceState::Appeared);
         QCOMPARE(app.keptData(), kept);
-        const WZTUserViewController &account = *app.delegate().userVC();
-        QVERIFY2(!account.isViewLoaded(), "nobody has looked at it");
+        QVERIFY2(!app.delegate().userVC()->tableView()->refreshControl(),
+                 "nobody has looked at it");
 
         // A page above Home: the screen at the bottom is the one to reload.
         app.delegate().rootVC()->navigationController()->pushViewController(
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QVERIFY(app.delegate().currentUser() == someUser(u"Joanna"_s));
 
         app.delegate().tabController()->setSelectedIndex(1);
-        QVERIFY(app.delegate().userVC()->isViewLoaded());
+        QVERIFY(app.delegate().userVC()->tableView()->refreshControl());
         const Reloads forgotten(app);
         WZTSession::shared()->logout();
         QVERIFY(forgotten.were(1));

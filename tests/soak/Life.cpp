@@ -284,8 +284,7 @@ private:
     int m_requests = 0;
     QQuickView &m_view =
         *qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
-    AppDelegate &m_delegate =
-        *dynamic_cast<AppDelegate *>(UIApplication::sharedApplication()->delegate());
+    AppDelegate &m_delegate = *dynamic_cast<AppDelegate *>(WZTSession::shared());
     TransitionStack &m_shown = *m_delegate.window()->presentation();
     WZTTabBarController &m_tabs = *m_delegate.tabController();
     Journal::Session m_session{m_delegate};

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "platform/uikit/appearance/Theme.h"
+#include "platform/uikit/appearance/UIColor.h"
 #include "platform/uikit/base/UIApplication.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TestRunner.h"
@@ -42,20 +44,20 @@ class AppearanceTest : public QObject {
 private Q_SLOTS:
     void textsStandOut()
     {
+        const Theme theme;
         for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
             m_traits.setOverride(DesktopAppearance{.style = style});
             const QColor row =
                 UIColor::secondarySystemGroupedBackgroundColor().toQColor(m_traits.isDark());
-            const QColor pressed = m_traits.pressedAlertColor();
-            for (const QColor &ground : {row, m_traits.backgroundColor(), m_traits.barColor(),
-                                         m_traits.alertColor(), pressed}) {
-                QVERIFY(contrast(m_traits.labelColor(), ground) >= 4.5);
-                QVERIFY(contrast(m_traits.accentColor(), ground) >= 4.5);
-                QVERIFY(ground == pressed
-                        || contrast(m_traits.secondaryLabelColor(), ground) >= 4.5);
+            const QColor pressed = theme.pressedAlertColor();
+            for (const QColor &ground :
+                 {row, theme.backgroundColor(), theme.barColor(), theme.alertColor(), pressed}) {
+                QVERIFY(contrast(theme.labelColor(), ground) >= 4.5);
+                QVERIFY(contrast(theme.accentColor(), ground) >= 4.5);
+                QVERIFY(ground == pressed || contrast(theme.secondaryLabelColor(), ground) >= 4.5);
             }
             // A picture, which the eye needs less for.
-            QVERIFY(contrast(m_traits.unselectedTabColor(), m_traits.barColor()) >= 3);
+            QVERIFY(contrast(theme.unselectedTabColor(), theme.barColor()) >= 3);
         }
     }
 

@@ -18,7 +18,7 @@ Item {
         && fits(controller.actions[1].title, metrics.font)
     readonly property int moved: !sideBySide && actions.count > 1
         && controller.actions[0].style === UIAlertAction.Cancel ? 1 : 0
-    readonly property real actionHeight: Math.max(Metrics.row, Math.ceil(metrics.height) + 16)
+    readonly property real actionHeight: Math.max(Metrics.row, Math.ceil(metrics.height) + Metrics.buttonPadding)
 
     function fits(title: string, font: font): bool {
         return metrics.advanceWidth(title) <= titleRoom
@@ -28,7 +28,7 @@ Item {
 
     FontMetrics {
         id: metrics
-        font: Traits.headlineFont
+        font: Theme.headlineFont
     }
     Repeater {
         id: actions

@@ -7,7 +7,7 @@ import UIKit
 Text {
     visible: text
     textFormat: Text.PlainText
-    color: Traits.labelColor
+    color: Theme.labelColor
     horizontalAlignment: Text.AlignHCenter
     wrapMode: Text.Wrap
 

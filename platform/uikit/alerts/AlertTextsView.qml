@@ -12,24 +12,24 @@ Column {
     required property UIAlertController controller
 
     padding: Metrics.margin
-    topPadding: 19
-    bottomPadding: 19
-    spacing: 3
+    topPadding: Metrics.alertPadding
+    bottomPadding: Metrics.alertPadding
+    spacing: Metrics.lineSpacing
 
     AlertTextView {
         width: root.width - 2 * root.padding
         text: root.controller.title
-        font: Traits.headlineFont
+        font: Theme.headlineFont
     }
     AlertTextView {
         width: root.width - 2 * root.padding
         text: root.controller.message
-        font: Traits.footnoteFont
+        font: Theme.footnoteFont
     }
     Column {
-        topPadding: 13
+        topPadding: Metrics.alertFieldSpace
         visible: fields.count > 0
-        spacing: 8
+        spacing: Metrics.alertFieldSpacing
 
         Repeater {
             id: fields

@@ -2,65 +2,33 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/appearance/Traits.h"
 
-#include "platform/uikit/base/UIApplication.h"
-
 #include <QJSEngine>
+
+namespace {
+Traits *shared = nullptr;
+}
+
+Traits::Traits(const DesktopAppearance &desktop) : m_desktop(desktop)
+{
+    Q_ASSERT(!shared);
+    shared = this;
+}
+
+Traits::~Traits()
+{
+    shared = nullptr;
+}
+
+Traits &Traits::current()
+{
+    Q_ASSERT(shared);
+    return *shared;
+}
 
 Traits *Traits::create(QQmlEngine *, QJSEngine *)
 {
-    Traits &traits = UIApplication::sharedApplication()->traits();
-    QJSEngine::setObjectOwnership(&traits, QJSEngine::CppOwnership);
-    return &traits;
-}
-
-QColor Traits::labelColor() const
-{
-    return UIColor::labelColor().toQColor(isDark());
-}
-
-QColor Traits::secondaryLabelColor() const
-{
-    return isDark() ? QColor(235, 235, 245, 153) : QColor(60, 60, 67, 199);
-}
-
-QColor Traits::placeholderColor() const
-{
-    return secondaryLabelColor();
-}
-
-QColor Traits::separatorColor() const
-{
-    return UIColor::separatorColor().toQColor(isDark());
-}
-
-QColor Traits::accentColor() const
-{
-    return isDark() ? QColor(90, 170, 255) : QColor(0, 95, 204);
-}
-
-QColor Traits::backgroundColor() const
-{
-    return UIColor::systemGroupedBackgroundColor().toQColor(isDark());
-}
-
-QColor Traits::barColor() const
-{
-    return isDark() ? QColor(22, 22, 23) : QColor(249, 249, 249);
-}
-
-QColor Traits::alertColor() const
-{
-    return isDark() ? QColor(44, 44, 46) : QColor(245, 245, 247);
-}
-
-QColor Traits::pressedAlertColor() const
-{
-    return isDark() ? QColor(56, 56, 59) : QColor(224, 224, 229);
-}
-
-QColor Traits::unselectedTabColor() const
-{
-    return isDark() ? QColor(128, 128, 130) : QColor(112, 112, 116);
+    QJSEngine::setObjectOwnership(shared, QJSEngine::CppOwnership);
+    return shared;
 }
 
 void Traits::setDesktopAppearance(const DesktopAppearance &appearance)

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/appearance/UIColor.h"
-#include "platform/uikit/appearance/UIFont.h"
-#include "platform/uikit/base/Host.h"
+#include "platform/uikit/appearance/DesktopAppearance.h"
 
+#include <QObject>
 #include <QtQmlIntegration>
 
 #include <optional>
@@ -13,8 +12,8 @@
 class QJSEngine;
 class QQmlEngine;
 
-/// The traits that everything drawn follows, live. What is overridden holds; the rest is what the
-/// desktop says.
+/// The style, the text scale and the motion that everything drawn follows, live, and the version of
+/// the platform that screens ask for. An override holds; the rest is what the desktop says.
 class Traits : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -22,25 +21,15 @@ class Traits : public QObject {
     Q_PROPERTY(bool dark READ isDark NOTIFY changed FINAL)
     Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed FINAL)
-    // Colours of what the platform itself draws, in the current style: texts stand out from all
-    // that they are drawn on by 4.5 to 1 at least.
-    Q_PROPERTY(QColor labelColor READ labelColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor secondaryLabelColor READ secondaryLabelColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor placeholderColor READ placeholderColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor separatorColor READ separatorColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor accentColor READ accentColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor barColor READ barColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor alertColor READ alertColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor pressedAlertColor READ pressedAlertColor NOTIFY changed FINAL)
-    Q_PROPERTY(QColor unselectedTabColor READ unselectedTabColor NOTIFY changed FINAL)
-    // Fonts of the same, in the current text scale.
-    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed FINAL)
-    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed FINAL)
-    Q_PROPERTY(QFont footnoteFont READ footnoteFont NOTIFY changed FINAL)
-    Q_PROPERTY(QFont tabTitleFont READ tabTitleFont NOTIFY changed FINAL)
 
 public:
+    /// The application's traits from now on, until they are destroyed. There is one object at a
+    /// time; without a default constructor QML makes no second one.
+    explicit Traits(const DesktopAppearance &desktop);
+    ~Traits() override;
+
+    /// The application's traits, which must exist.
+    [[nodiscard]] static Traits &current();
     static Traits *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
     [[nodiscard]] UIUserInterfaceStyle userInterfaceStyle() const { return effective().style; }
@@ -49,30 +38,13 @@ public:
     [[nodiscard]] double textScale() const { return effective().textScale; }
     [[nodiscard]] bool reduceMotion() const { return effective().reduceMotion; }
 
-    [[nodiscard]] QColor labelColor() const;
-    [[nodiscard]] QColor secondaryLabelColor() const;
-    [[nodiscard]] QColor placeholderColor() const;
-    [[nodiscard]] QColor separatorColor() const;
-    [[nodiscard]] QColor accentColor() const;
-    [[nodiscard]] QColor backgroundColor() const;
-    [[nodiscard]] QColor barColor() const;
-    [[nodiscard]] QColor alertColor() const;
-    [[nodiscard]] QColor pressedAlertColor() const;
-    [[nodiscard]] QColor unselectedTabColor() const;
-
-    [[nodiscard]] QFont headlineFont() const { return font(UIFontTextStyle::Headline); }
-    [[nodiscard]] QFont bodyFont() const { return font(UIFontTextStyle::Body); }
-    [[nodiscard]] QFont footnoteFont() const { return font(UIFontTextStyle::Footnote); }
-    [[nodiscard]] QFont tabTitleFont() const { return font(UIFontTextStyle::TabTitle); }
-
-    /// What the desktop says.
+    /// Sets what the desktop says.
     void setDesktopAppearance(const DesktopAppearance &appearance);
     /// Holds over the desktop until it is taken back with nullopt.
     void setOverride(const std::optional<DesktopAppearance> &appearance);
 
-    /// The platform's version that the application behaves as on. Screens ask it at the gates
-    /// 11, 12 and 13, at run time.
-    [[nodiscard]] double systemVersion() const { return m_systemVersion; }
+    /// Whether the application behaves as on that version of the platform or a later one. Screens
+    /// ask it at the gates 11, 12 and 13, at run time.
     [[nodiscard]] bool systemVersionIsAtLeast(double version) const
     {
         return m_systemVersion >= version;
@@ -83,14 +55,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    friend class UIApplication;
-    Traits() = default; // private, or QML would make a second object
-
-    [[nodiscard]] QFont font(UIFontTextStyle style) const
-    {
-        return UIFont::preferredFontForTextStyle(style).toQFont(textScale());
-    }
-
     [[nodiscard]] const DesktopAppearance &effective() const
     {
         return m_override ? *m_override : m_desktop;

@@ -39,7 +39,7 @@ PressArea {
             radius: height / 2
             antialiasing: true
             rotation: Metrics.direction * modelData
-            color: Traits.accentColor
+            color: Theme.accentColor
         }
     }
     Text {
@@ -50,8 +50,8 @@ PressArea {
         visible: root.inset + implicitWidth <= root.room
         text: root.title
         textFormat: Text.PlainText
-        font: Traits.bodyFont
-        color: Traits.accentColor
+        font: Theme.bodyFont
+        color: Theme.accentColor
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }

@@ -11,7 +11,7 @@ PressArea {
     required property bool selected
     required property color tint
 
-    readonly property color shown: selected ? tint : Traits.unselectedTabColor
+    readonly property color shown: selected ? tint : Theme.unselectedTabColor
 
     Accessible.role: Accessible.PageTab
     Accessible.name: item.accessibilityLabel || item.title
@@ -37,7 +37,7 @@ PressArea {
         height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
-        font: Traits.tabTitleFont
+        font: Theme.tabTitleFont
         fontSizeMode: Text.VerticalFit
         minimumPixelSize: 9
         color: root.shown

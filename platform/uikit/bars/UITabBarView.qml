@@ -26,7 +26,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Traits.barColor
+        color: Theme.barColor
     }
     Row {
         id: tabs

@@ -2,28 +2,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/uikit/appearance/DesktopAppearance.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 
-enum class UIUserInterfaceStyle { Unspecified = 0, Light = 1, Dark = 2 };
-
 enum class UIImpactFeedbackStyle { Light = 0 };
 
-/// How the desktop wishes applications to look. Every field has the value that stands for
-/// "the desktop says nothing".
-struct DesktopAppearance {
-    UIUserInterfaceStyle style = UIUserInterfaceStyle::Unspecified;
-    /// Factor on every text size, 1.0 when the desktop sets none; never 0 or less.
-    double textScale = 1.0;
-    /// True when the desktop has its animations switched off.
-    bool reduceMotion = false;
-
-    bool operator==(const DesktopAppearance &) const = default;
-};
-
-/// The one port to the machine: what the application needs of the system beyond a window.
+/// The one port to the machine: the services of the system that the application needs beside a
+/// window.
 /// Every call and every callback is on the main thread, and no call waits for another process.
 class Host {
 public:

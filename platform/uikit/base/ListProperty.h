@@ -8,7 +8,7 @@
 
 /// A read-only list of objects for QML: the member `Member` of `owner`, a vector of plain or smart
 /// pointers to `Item`.
-template <class Item, auto Member, class Owner>
+template <typename Item, auto Member, typename Owner>
 [[nodiscard]] QQmlListProperty<Item> listProperty(Owner *owner)
 {
     using List = QQmlListProperty<Item>;

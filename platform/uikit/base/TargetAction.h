@@ -7,9 +7,9 @@
 
 #include <memory>
 
-/// An action of a target, as controls and recognisers keep it: it can be sent, compared, and does
-/// nothing once its target is gone. `Sender` is what the action is told.
-template <class Sender>
+/// An action of a target, as controls and recognisers keep it: it can be sent and compared, and
+/// does nothing once its target is gone. `Sender` is the type of the action's argument.
+template <typename Sender>
 class TargetAction {
 public:
     virtual ~TargetAction() = default;
@@ -20,7 +20,7 @@ public:
 };
 
 /// The action `method` of `target`; it takes the sender or nothing.
-template <class Sender, class Target, class Method>
+template <typename Sender, typename Target, typename Method>
 class MethodAction final : public TargetAction<Sender> {
 public:
     MethodAction(Target *target, Method method) : m_target(target), m_method(method) {}

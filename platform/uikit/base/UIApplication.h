@@ -3,15 +3,13 @@
 #pragma once
 
 #include "platform/uikit/appearance/Traits.h"
+#include "platform/uikit/base/Host.h"
 #include "platform/uikit/base/UIResponder.h"
 
 #include <QPointer>
 
-class UIApplicationDelegate;
-class UIWindow;
-
-/// The application: its machine, its traits, its delegate and who has the keyboard. There is one
-/// at a time, made before any screen and destroyed after all of them.
+/// The application: its host, its traits and its first responder. There is one at
+/// a time, made before any screen and destroyed after all of them.
 class UIApplication : public QObject {
     Q_OBJECT
 
@@ -26,9 +24,6 @@ public:
     [[nodiscard]] Host &host() const { return m_host; }
     [[nodiscard]] Traits &traits() { return m_traits; }
 
-    [[nodiscard]] UIApplicationDelegate *delegate() const { return m_delegate; }
-    void setDelegate(UIApplicationDelegate *delegate) { m_delegate = delegate; }
-
     [[nodiscard]] UIResponder *firstResponder() const { return m_firstResponder; }
 
     /// Whether an application is registered for the scheme of `url`.
@@ -40,7 +35,6 @@ private:
     friend class UIResponder;
 
     Host &m_host;
-    Traits m_traits;
-    UIApplicationDelegate *m_delegate = nullptr;
+    Traits m_traits{DesktopAppearance{}};
     QPointer<UIResponder> m_firstResponder;
 };

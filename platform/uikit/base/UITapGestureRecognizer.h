@@ -8,7 +8,7 @@
 /// controls inside the view, and leaves taps on text fields to them.
 class UITapGestureRecognizer {
 public:
-    template <class Target, class Method>
+    template <typename Target, typename Method>
     UITapGestureRecognizer(Target *target, Method action)
         : m_action(
             std::make_unique<MethodAction<UITapGestureRecognizer, Target, Method>>(target, action))

@@ -86,7 +86,7 @@ void ControlArea::press()
 {
     m_press.stop();
     if (!m_yields) {
-        keepGrab(true); // from what scrolls: the touch is the control's from now on
+        keepGrab(true); // no page scrolls by this touch from now on
         QGuiApplication::inputMethod()->commit(); // as in activate()
     }
     if (m_receiver) {
@@ -182,7 +182,7 @@ void ControlArea::touchUngrabEvent()
 
 void ControlArea::activate()
 {
-    QGuiApplication::inputMethod()->commit(); // what is being composed counts for what is pressed
+    QGuiApplication::inputMethod()->commit(); // the action reads the text that is being composed
     if (m_receiver) {
         m_receiver->activate();
     }

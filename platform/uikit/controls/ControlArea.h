@@ -9,14 +9,14 @@
 #include <QQuickItem>
 #include <QTimer>
 
-/// Where a control is touched, with a finger or with the mouse, or pressed with the keyboard. It
-/// reaches beyond its rectangle to at least 44 x 44 points, save where something else lies. In what
-/// scrolls it waits a moment, so that a finger that comes to scroll presses nothing.
+/// Takes the touches of a control, by finger and by mouse, and its keys. It reaches beyond its
+/// rectangle to at least 44 x 44 points, except where another item lies. In a page that scrolls it
+/// waits a moment, so that a finger that comes to scroll presses nothing.
 class ControlArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(UIControl *receiver READ receiver WRITE setReceiver NOTIFY receiverChanged FINAL)
-    /// Whether what scrolls may still take a touch that has pressed.
+    /// Whether a page that scrolls may still take a touch that has pressed.
     Q_PROPERTY(bool yields MEMBER m_yields FINAL)
     /// Whether to show that the control has the keyboard.
     Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
@@ -29,9 +29,9 @@ public:
     void setReceiver(UIControl *receiver);
     [[nodiscard]] bool isFocusVisible() const { return m_keyFocus.isVisible(); }
 
-    /// What a key and a screen reader's press do.
+    /// Acts as a key or a screen reader's press.
     Q_INVOKABLE void activate();
-    /// What is pressed is let go of: to lift the finger does nothing any more.
+    /// Ends the touch: lifting the finger does nothing any more.
     Q_INVOKABLE void cancel();
     /// Whether a press at `point` is the control's.
     [[nodiscard]] bool contains(const QPointF &point) const override;

@@ -39,7 +39,7 @@ ControlArea {
 
         Behavior on opacity {
             enabled: !root.control.highlighted && !Traits.reduceMotion
-            NumberAnimation { duration: 250 }
+            NumberAnimation { duration: Durations.release }
         }
     }
     FocusRing { shown: root.focusVisible }

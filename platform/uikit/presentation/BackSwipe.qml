@@ -3,8 +3,8 @@
 import QtQuick
 import UIKit
 
-/// The way back by finger: drags from the leading edge move the top page, and the page is left
-/// where it is let go of past the middle or with a fling.
+/// The way back by finger: a drag from the leading edge moves the top page. Lifted past the middle
+/// or with a fling, the finger leaves the page; otherwise the page returns.
 Item {
     id: root
 
@@ -24,7 +24,7 @@ Item {
 
     Timer {
         id: rest
-        interval: 100 // a finger that stood still for that long has no speed
+        interval: Durations.fingerRest
         onTriggered: root.speed = 0
     }
     Connections {

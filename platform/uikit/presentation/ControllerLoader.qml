@@ -13,7 +13,7 @@ Loader {
     function load() {
         if (!wanted || !controller || status !== Loader.Null)
             return
-        controller.loadViewIfNeeded() // what draws it binds to a finished view
+        controller.loadViewIfNeeded() // the drawing binds to a finished view
         setSource(controller.viewUrl, {controller: controller})
     }
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What a desktop needs at most for a window's title, in points.
+/// The height that a desktop needs at most for a window's title, in points.
 constexpr int frame = 48;
 
 } // namespace

@@ -3,16 +3,16 @@
 import QtQuick
 import UIKit
 
-/// One controller of a stack and its motion: a page comes from the side and moves what it covers
+/// One controller of a stack and its motion: a page comes from the side and moves the page below it
 /// a little away, a modal comes from below, an alert appears over a dimmed window.
 FocusScope {
     id: root
 
     required property TransitionStack stack
     required property bool page
-    /// How far what is above has come, from 0 to 1.
+    /// How far the controller above has come, from 0 to 1.
     required property real covered
-    /// Whether a finger moves what is above away.
+    /// Whether a finger moves the controller above away.
     required property bool uncovered
 
     required property int index
@@ -25,7 +25,7 @@ FocusScope {
     /// How far the controller has come: from 0, away, to 1, in place.
     property real presence: 0
     property bool placed: false
-    /// Whether a finger moves the page away, or has and it is on its way since.
+    /// Whether a finger moves the page away, or has lifted and the page is still on its way.
     property bool swiped: false
     readonly property bool leaving: phase === TransitionStack.Leaving
     readonly property bool arriving: phase === TransitionStack.Entering && !overlay
@@ -45,8 +45,8 @@ FocusScope {
         const drawn = visible && content.status === Loader.Ready
         if (settled || !drawn)
             presence = transition.to
-        const whole = overlay || Traits.reduceMotion ? 220 : page ? 350 : 420
-        transition.duration = !drawn ? 1 : swiped ? rest(presence) : whole
+        const whole = overlay || Traits.reduceMotion ? Durations.fade : page ? Durations.page : Durations.modal
+        transition.duration = !drawn ? 1 : swiped ? Durations.restOfPage(presence) : whole
         if (!settled)
             transition.start()
     }
@@ -60,12 +60,8 @@ FocusScope {
         if (!swiped || leaving)
             return
         transition.to = 1
-        transition.duration = rest(1 - presence)
+        transition.duration = Durations.restOfPage(1 - presence)
         transition.start()
-    }
-    // What a finger has begun goes on at the pace of a whole transition.
-    function rest(part: real): int {
-        return Traits.reduceMotion ? 1 : Math.max(120, 350 * part)
     }
 
     x: page && slides ? Metrics.direction * width * (1 - presence - 0.3 * covered) : 0
@@ -97,12 +93,12 @@ FocusScope {
         id: dimming
         anchors.fill: parent
         visible: root.overlay
-        color: "black"
-        opacity: root.presence * (Traits.dark ? 0.48 : 0.3)
+        color: Theme.dimmingColor
+        opacity: root.presence * Theme.alertDimming
     }
     MouseArea {
-        // What lies below an alert or moves away below a finger is not touched, nor what is not yet
-        // in place, by a finger that comes down twice.
+        // Keeps touches from the controllers below an alert, from a controller that leaves, and from
+        // one that arrives, which a finger that comes down twice would hit.
         anchors.fill: parent
         z: root.arriving ? 1 : 0
         enabled: root.overlay || root.leaving || root.arriving
@@ -121,7 +117,7 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         visible: root.page && root.covered > 0
-        color: "black"
-        opacity: 0.1 * root.covered
+        color: Theme.dimmingColor
+        opacity: root.covered * Theme.pageDimming
     }
 }

@@ -15,7 +15,7 @@ FocusScope {
     /// Whether no controller is in a transition.
     readonly property bool still: entries.count > 0 && topEntry()?.phase === TransitionStack.Settled
 
-    /// What draws the topmost controller.
+    /// The drawing of the topmost controller.
     function topEntry(): TransitionEntryView {
         return entries.itemAt(entries.count - 1) as TransitionEntryView
     }

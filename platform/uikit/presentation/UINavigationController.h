@@ -35,10 +35,10 @@ public:
     [[nodiscard]] bool canGoBack() const;
     /// The title of the page below the top one; empty on the root.
     [[nodiscard]] QString backTitle() const;
-    /// What the back button does. Returns whether there is a way back.
+    /// Acts as the back button. Returns whether there is a way back.
     Q_INVOKABLE bool goBack();
-    /// What Escape does: the way back, or a Cancel button in its place, unless the page is not to
-    /// be left lightly (`isModalInPresentation`). Returns whether it did anything.
+    /// Acts as Escape: goes back, or triggers a Cancel button in place of the back button, unless
+    /// the page is not to be left lightly (`isModalInPresentation`). Returns whether it did either.
     Q_INVOKABLE bool escape();
 
 Q_SIGNALS:

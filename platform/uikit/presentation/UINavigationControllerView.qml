@@ -14,7 +14,7 @@ FocusScope {
     // A page that has a use for these keys takes them first.
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Escape)
-            InputMethod.commit() // what is being composed is text as well
+            InputMethod.commit() // text that is being composed counts
         event.accepted = event.key === Qt.Key_Escape ? controller.escape()
             : event.matches(StandardKey.Back) && controller.goBack()
     }

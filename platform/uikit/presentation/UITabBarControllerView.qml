@@ -26,7 +26,7 @@ FocusScope {
 
             readonly property bool selected: index === root.controller.tabBar.selectedIndex
 
-            // Who chooses tabs by keyboard stays in the bar.
+            // The bar keeps the keyboard while tabs are chosen with it.
             function takeFocus() {
                 if (selected)
                     root.shown = tab

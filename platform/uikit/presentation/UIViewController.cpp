@@ -4,8 +4,8 @@
 
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/bars/UITabBarItem.h"
+#include "platform/uikit/base/ViewUrl.h"
 #include "platform/uikit/presentation/UINavigationController.h"
-#include "platform/uikit/presentation/ViewUrl.h"
 
 namespace {
 
@@ -52,7 +52,7 @@ const UIViewController *UIViewController::presentedEntry() const
 {
     const UIViewController *controller = this;
     while (controller->m_parent) {
-        // A page that is on its way out takes what is inside it along.
+        // A page that leaves takes the controllers inside it along.
         if (controller->m_stack && !controller->m_stack->contains(controller)) {
             return nullptr;
         }

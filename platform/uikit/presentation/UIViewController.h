@@ -42,7 +42,6 @@ public:
 
     /// Runs `viewDidLoad`, unless it has run.
     Q_INVOKABLE void loadViewIfNeeded();
-    [[nodiscard]] bool isViewLoaded() const { return m_viewLoaded; }
 
     // The life cycle; an override calls the base implementation first.
     /// Once, before the controller is first drawn or appears.
@@ -57,7 +56,7 @@ public:
 
     /// True if the user must not dismiss the presented controller by a gesture.
     [[nodiscard]] virtual bool isModalInPresentation() const { return false; }
-    /// Whether the controller hides what it is presented over.
+    /// Whether the controller hides those that it is presented over.
     [[nodiscard]] virtual TransitionStack::Cover cover() const;
 
     /// Presents `controller` on top of the window, over alerts too. When this controller is

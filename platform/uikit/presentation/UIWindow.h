@@ -4,7 +4,7 @@
 
 #include "platform/uikit/presentation/TransitionStack.h"
 
-/// The one window: a root controller and what is presented over it.
+/// The one window: a root controller and the controllers presented over it.
 class UIWindow : public QObject {
     Q_OBJECT
     QML_ELEMENT

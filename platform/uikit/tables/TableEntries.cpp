@@ -9,7 +9,7 @@
 TableEntries::TableEntries(UITableView &table) : m_table(table) {}
 TableEntries::~TableEntries() = default;
 
-// What draws a row stays for the row that comes to stand there, and so does the table's place.
+// The drawing of a row stays for the next row in its place, and the table stays scrolled as it is.
 void TableEntries::reload()
 {
     if (!m_loaded) {
@@ -31,7 +31,7 @@ void TableEntries::reload()
     }
 }
 
-// Before the first is handed out again.
+// Before the first of them is handed out again.
 void TableEntries::takeBackCells(const std::vector<Section> &sections)
 {
     for (auto &[entry, cell] : std::exchange(m_shown, {})) {
@@ -81,7 +81,7 @@ void TableEntries::reset(const std::function<void()> &change)
         m_leaving.push_back(std::move(cell));
     }
     change();
-    endResetModel(); // every drawing says here that it goes; what is left was not drawn
+    endResetModel(); // every drawing calls hide() here; cells that are left were not drawn
     for (auto &cell : std::exchange(m_leaving, {})) {
         m_table.recycle(std::move(cell));
     }
@@ -107,7 +107,6 @@ std::vector<TableEntries::Section> TableEntries::ask() const
         Section section;
         section.header = next;
         section.rows = std::max(0, source->numberOfRowsInSection(i));
-        section.headerText = source->titleForHeaderInSection(i).value_or(QString());
         section.footerText = source->titleForFooterInSection(i).value_or(QString());
         const double height = delegate ? delegate->heightForFooterInSection(i) : 0;
         section.footerHeight = height > 0 ? height : UITableViewAutomaticDimension;
@@ -167,7 +166,7 @@ void TableEntries::hide(const UITableViewCell *cell)
 
 int TableEntries::adjacentRow(int entry, int step) const
 {
-    // After a reload the table may end before what was the current row.
+    // After a reload the table may end before the row that was current.
     for (int next = std::clamp(entry, -1, rowCount()) + step; sectionOf(next); next += step) {
         if (indexPathOf(next)) {
             return next;
@@ -205,9 +204,6 @@ double TableEntries::heightOf(int entry) const
 QString TableEntries::textOf(int entry) const
 {
     const Section &section = *sectionOf(entry);
-    if (entry == section.header) {
-        return section.headerText;
-    }
     return entry == section.footer() ? section.footerText : QString();
 }
 

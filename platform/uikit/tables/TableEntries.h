@@ -16,9 +16,9 @@
 class UITableView;
 class UITableViewCell;
 
-/// A table laid out as one list for whoever draws it: of each section its header, its rows and its
-/// footer. A cell is made when its row is first drawn, and goes back to the table when the row is
-/// no longer drawn.
+/// A table laid out as one list, as a model for drawing: of each section its header, its rows and
+/// its footer. A cell is made when its row is first drawn, and goes back to the table when the row
+/// is no longer drawn.
 class TableEntries : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -27,7 +27,7 @@ class TableEntries : public QAbstractListModel {
     Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)
 
 public:
-    /// `cell`: null for a header or footer. `text`: of a header or footer, empty for none.
+    /// `cell`: null for a header or footer. `text`: of a footer, empty for none.
     /// `fixedHeight`: in points, negative where the drawing decides. `position`: 0 for a header,
     /// 1 and up for a row, one more than `rows` for the footer. `rows`: of the section.
     enum Role {
@@ -42,12 +42,12 @@ public:
     explicit TableEntries(UITableView &table);
     ~TableEntries() override;
 
-    /// Asks the table anew for everything. Nothing is asked before somebody draws.
+    /// Asks the table anew for everything. Nothing is asked before the table is drawn.
     void reload();
     /// Lets go of everything, for good.
     void clear();
 
-    /// The row at an entry; empty for a header, a footer and what is out of range.
+    /// The row at an entry; empty for a header, for a footer and out of range.
     [[nodiscard]] std::optional<NSIndexPath> indexPathOf(int entry) const;
     /// The cell that a row is drawn with; null for a row that is not drawn.
     [[nodiscard]] UITableViewCell *shownCell(const NSIndexPath &indexPath) const;
@@ -71,7 +71,6 @@ private:
     struct Section {
         int header = 0; // the entry of the section's header
         int rows = 0;
-        QString headerText;
         QString footerText;
         double footerHeight = 0;
 
@@ -92,7 +91,7 @@ private:
     [[nodiscard]] QString textOf(int entry) const;
 
     UITableView &m_table;
-    // What is shown is asked for lazily, when somebody looks.
+    // Filled by const functions, when the table is first looked at.
     mutable std::vector<Section> m_sections;
     mutable bool m_loaded = false;
     mutable int m_count = 0;

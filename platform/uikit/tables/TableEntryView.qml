@@ -18,7 +18,7 @@ Loader {
     width: ListView.view?.width ?? 0
     height: fixedHeight >= 0 ? fixedHeight : implicitHeight
 
-    Component.onCompleted: setSource(cell ? "TableRowView.qml" : "TableTextView.qml", {"entry": root})
+    Component.onCompleted: setSource(cell ? "TableRowView.qml" : "TableSpaceView.qml", {"entry": root})
     Component.onDestruction: if (cell)
         table?.cellHidden(cell)
 

@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// A row of a table: its cell, what shows that it is pressed, selected or current, and separators.
+/// A row of a table: its cell, the ground of a pressed or selected row, and separators.
 Item {
     id: root
 
@@ -32,7 +32,7 @@ Item {
     Connections {
         target: root.entry.table
         function onReloaded() {
-            touch.cancel() // what the finger came down on may be another row now
+            touch.cancel() // another row may be under the finger now
         }
     }
     Connections {
@@ -49,12 +49,12 @@ Item {
     Rectangle {
         objectName: "selection"
         anchors.fill: parent
-        color: root.cell.selectionColor.toQColor(Traits.dark)
+        color: Theme.selectedRowColor
         opacity: root.cell.drawsSelection ? 1 : 0
 
         Behavior on opacity {
             enabled: root.cell.animatesSelection && !Traits.reduceMotion
-            NumberAnimation { duration: 350 }
+            NumberAnimation { duration: Durations.deselection }
         }
     }
     PressArea {

@@ -82,11 +82,6 @@ void UITableView::cellHidden(UITableViewCell *cell)
     m_entries.hide(cell);
 }
 
-UIFont UITableView::sectionFont()
-{
-    return UIFont::preferredFontForTextStyle(UIFontTextStyle::Footnote);
-}
-
 std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &indexPath)
 {
     auto cell = m_dataSource->cellForRowAtIndexPath(indexPath);
@@ -105,7 +100,7 @@ void UITableView::recycle(std::shared_ptr<UITableViewCell> cell)
         pooled->second.push_back(std::move(cell));
         return;
     }
-    // What drew the cell goes by a deferred delete that is still to be posted.
+    // The drawing of the cell goes by a deferred delete that is still to be posted.
     auto release = [cell = std::move(cell)] {};
     QMetaObject::invokeMethod(this, std::move(release), Qt::QueuedConnection);
 }

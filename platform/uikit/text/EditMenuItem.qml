@@ -12,7 +12,7 @@ PressArea {
     required property bool current
 
     implicitWidth: label.implicitWidth + 2 * Metrics.margin
-    implicitHeight: Math.max(Metrics.row, Math.ceil(label.implicitHeight) + 16)
+    implicitHeight: Math.max(Metrics.row, Math.ceil(label.implicitHeight) + Metrics.buttonPadding)
     activeFocusOnTab: false
 
     Accessible.role: Accessible.MenuItem
@@ -22,10 +22,10 @@ PressArea {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: 4
+        anchors.margins: Metrics.focusRingMargin
         visible: root.highlighted || root.current
-        radius: Metrics.alertRadius - 4
-        color: Traits.pressedAlertColor
+        radius: Metrics.alertRadius - Metrics.focusRingMargin
+        color: Theme.pressedAlertColor
     }
     Text {
         id: label
@@ -34,8 +34,8 @@ PressArea {
         anchors.rightMargin: Metrics.margin
         text: root.title
         textFormat: Text.PlainText
-        font: Traits.bodyFont
-        color: Traits.labelColor
+        font: Theme.bodyFont
+        color: Theme.labelColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter

@@ -4,8 +4,8 @@ import QtQuick
 import UIKit
 
 /// Put into a TextInput or TextEdit: a long press, the right mouse button and the menu key open
-/// its menu. A finger gives it the keyboard by a tap, which no scrolling is, and selects by a long
-/// press or a double tap.
+/// its menu. A tap gives it the keyboard, a finger that scrolls does not; a long press and a double
+/// tap select.
 Item {
     id: root
 
@@ -48,7 +48,7 @@ Item {
     Connections {
         target: root.parent
         function onTextChanged() {
-            root.close() // what it offers is no longer what can be done
+            root.close() // other actions are possible now
         }
     }
     PointHandler {
@@ -57,7 +57,7 @@ Item {
     }
     TapHandler {
         acceptedDevices: PointerDevice.TouchScreen
-        // A touch may outlive its page: what covers that has the keyboard.
+        // A touch may outlive its page: the controller that covers the page has the keyboard.
         onTapped: {
             if (!root.enabled)
                 return

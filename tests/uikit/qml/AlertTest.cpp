@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "platform/uikit/appearance/Theme.h"
 #include "tests/support/Cases.h"
 #include "tests/support/TestRunner.h"
 #include "tests/uikit/qml/WindowFixture.h"
@@ -124,18 +125,20 @@ private Q_SLOTS:
         Stage stage({}, reset);
         stage.settle();
         // The page below is dimmed and not touched.
-        stage.tap(stage.item(u"TransitionStackView"_s)->childItems().value(0));
+        QQuickItem *page = stage.item(u"TransitionStackView"_s)->childItems().value(0);
+        QVERIFY2(page->isVisible(), "an alert hides the page below");
+        stage.tap(page);
         QCOMPARE(stage.triggered, QString());
-        const Traits &traits = stage.application.traits();
+        const Theme theme;
         QQuickView &view = stage.host->view();
         const int dimmed = view.grabWindow().pixelColor(5, 5).lightness();
-        QVERIFY(dimmed < traits.backgroundColor().lightness());
+        QVERIFY(dimmed < theme.backgroundColor().lightness());
 
         QQuickItem *button = stage.items(u"UIAlertActionView"_s).value(1);
         const QRect area = WindowFixture::rect(button).toRect();
         QTest::mousePress(&view, Qt::LeftButton, {}, area.center());
         const QImage pressed = view.grabWindow();
-        const QColor highlight = traits.pressedAlertColor();
+        const QColor highlight = theme.pressedAlertColor();
         QCOMPARE(pressed.pixelColor(area.left() + 2, area.bottom() - 1), highlight);
         QVERIFY(pressed.pixelColor(area.right() - 1, area.bottom() - 1) != highlight); // round
         QTest::mouseRelease(&view, Qt::LeftButton, {}, area.center());

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-/// Scrolls, where it is not high enough, to what has the keyboard inside it.
+/// Scrolls, where it is not high enough, to the item in it that has the keyboard.
 Flickable {
     id: root
 

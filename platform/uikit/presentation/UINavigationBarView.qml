@@ -12,11 +12,11 @@ Rectangle {
 
     readonly property UIViewController page: controller.topViewController
     readonly property real buttonRoom: width * Metrics.barButtonShare
-    /// What the centred title leaves at either side.
+    /// The room beside the centred title.
     readonly property real side: (width - title.width) / 2 - Metrics.margin
 
     implicitHeight: Metrics.navigationBar
-    color: Traits.barColor
+    color: Theme.barColor
 
     BackButton {
         anchors.left: parent.left
@@ -45,10 +45,10 @@ Rectangle {
         height: parent.height
         text: root.page ? root.page.navigationItem.title : ""
         textFormat: Text.PlainText
-        font: Traits.headlineFont
+        font: Theme.headlineFont
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: font.pixelSize / Traits.textScale
-        color: Traits.labelColor
+        color: Theme.labelColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -62,7 +62,7 @@ Rectangle {
             running: false
             from: 0
             to: 1
-            duration: 300
+            duration: Durations.title
         }
     }
     UIBarButtonItemView {

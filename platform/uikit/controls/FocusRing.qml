@@ -10,11 +10,11 @@ Rectangle {
     required property bool shown
 
     anchors.fill: parent
-    anchors.leftMargin: -4
-    anchors.rightMargin: -4
+    anchors.leftMargin: -Metrics.focusRingMargin
+    anchors.rightMargin: -Metrics.focusRingMargin
     visible: shown
     color: "transparent"
     radius: 6
     border.width: Metrics.focusRing
-    border.color: Traits.accentColor
+    border.color: Theme.accentColor
 }
