@@ -13,7 +13,6 @@ void FocusGroup::setCurrent(QQuickItem *current)
         return;
     }
     m_current = current;
-    Q_EMIT currentChanged();
     announceCurrent();
 }
 
@@ -24,7 +23,7 @@ void FocusGroup::announceCurrent()
 
 bool FocusGroup::event(QEvent *event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress; // the key may change what is current
+    const bool isKey = event->type() == QEvent::KeyPress; // which may change the current item
     const bool isHandled = QQuickItem::event(event);
     if (isKey) {
         m_keyFocus.begin();

@@ -8,24 +8,22 @@
 #include <QPointer>
 #include <QQuickItem>
 
-/// Has the keyboard for what draws several things of which one is current, tells screen readers
-/// which, and knows whether to show that.
+/// An item that has the keyboard for several things, one of which is current: it tells screen
+/// readers which, and knows whether to show it.
 class FocusGroup : public QQuickItem {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged FINAL)
+    QML_ANONYMOUS
     Q_PROPERTY(bool focusVisible READ isFocusVisible NOTIFY focusVisibleChanged FINAL)
 
 public:
     explicit FocusGroup(QQuickItem *parent = nullptr);
 
-    /// What screen readers are told to have the keyboard; null for nothing.
+    /// The item that screen readers are told to have the keyboard; null for none.
     [[nodiscard]] QQuickItem *current() const { return m_current; }
     void setCurrent(QQuickItem *current);
     [[nodiscard]] bool isFocusVisible() const { return m_keyFocus.isVisible(); }
 
 Q_SIGNALS:
-    void currentChanged();
     void focusVisibleChanged();
 
 protected:
