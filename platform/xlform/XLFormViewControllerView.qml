@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 import XLForm
 
-/// A screen that is a form: the keyboard goes through what its rows edit.
+/// A screen that is a form: Tab goes through the editors in its rows.
 UITableViewView {
     required property XLFormViewController controller
 
