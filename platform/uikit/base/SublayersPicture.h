@@ -7,8 +7,8 @@
 #include <QPointer>
 #include <QQuickPaintedItem>
 
-/// The layers that lie over a view, cut off at the view's rounded corners where the view masks
-/// them. To be as large as what draws the view.
+/// The layers over a view, cut off at its rounded corners where the view masks them. It fills the
+/// drawing of the view.
 class SublayersPicture : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// A view's background, border and taps; what it holds is put inside:
+/// A view's background, border and taps; its contents are put inside:
 ///
 ///     UIViewView { control: root.controller.view; anchors.fill: parent; UILabelView { ... } }
 Rectangle {

@@ -5,15 +5,15 @@
 #include "platform/uikit/input/ScreenReaderFocus.h"
 #include "platform/uikit/input/WindowWatcher.h"
 
-/// Has every key of its window while it is there. What has the keyboard keeps it, and with it the
-/// on-screen keyboard, but hears nothing of the keys; screen readers are told of something else.
+/// Takes every key of its window while it is there. The item that has the keyboard keeps it, and
+/// with it the on-screen keyboard, but gets no keys; screen readers are told of another item.
 class KeyGrabber : public WindowWatcher {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQuickItem *current READ current WRITE setCurrent NOTIFY currentChanged FINAL)
 
 public:
-    /// What screen readers are told to have the keyboard.
+    /// The item that screen readers are told to have the keyboard.
     [[nodiscard]] QQuickItem *current() const { return m_current; }
     void setCurrent(QQuickItem *current);
 

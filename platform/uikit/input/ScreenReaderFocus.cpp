@@ -6,7 +6,7 @@
 
 namespace {
 
-// Some screen readers do not believe what they are told of an item that does not say so itself.
+// Some screen readers ignore a focus event of an item that is not focused by its own state.
 void claim(const QQuickItem *item, bool isFocused)
 {
     if (!item) {

@@ -5,13 +5,13 @@
 #include <QPointer>
 #include <QQuickItem>
 
-/// What screen readers are told to have the keyboard in place of the item that has it.
+/// The focus of screen readers, where it is not at the item that has the keyboard.
 class ScreenReaderFocus {
 public:
-    /// Tells of `item`, once more if it is the same; null for nothing any more.
+    /// Announces the focus of `item`, again if it is the same; null for none any more.
     void set(QQuickItem *item);
 
-    /// Tells of an item that has the keyboard itself.
+    /// Announces the focus of an item that has the keyboard itself.
     static void tell(QQuickItem &item);
 
 private:
