@@ -5,8 +5,8 @@
 #include "app/Renderer.h"
 #include "app/TerminationSignals.h"
 #include "model/BuildConstants.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 #include "platform/uikit/presentation/UIWindow.h"
-#include "platform/uikit/presentation/UIWindowHost.h"
 
 #include <QFont>
 #include <QIcon>
@@ -86,8 +86,8 @@ void Program::start()
 
 void Program::showWindow()
 {
-    m_window = std::make_unique<UIWindowHost>(*m_shared->delegate().window(), displayName(),
-                                              QIcon(u":/icon.svg"_s));
+    m_window = std::make_unique<DesktopWindow>(*m_shared->delegate().window(), displayName(),
+                                               QIcon(u":/icon.svg"_s));
     QObject::connect(&m_window->view(), &QQuickWindow::sceneGraphError,
                      [](QQuickWindow::SceneGraphError, const QString &message) {
                          Renderer::fallBack();

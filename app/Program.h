@@ -7,7 +7,7 @@
 
 #include <QGuiApplication>
 
-class UIWindowHost;
+class DesktopWindow;
 
 /// The process from its start to its end: the application on this machine, in its window.
 class Program {
@@ -32,5 +32,5 @@ private:
     LinuxHost m_host;
     SharedObjects::Settings m_settings;
     std::unique_ptr<SharedObjects> m_shared;
-    std::unique_ptr<UIWindowHost> m_window;
+    std::unique_ptr<DesktopWindow> m_window;
 };

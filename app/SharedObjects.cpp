@@ -14,15 +14,14 @@ void drainDeferredDeletes()
 
 } // namespace
 
-SharedObjects::SharedObjects(UIHost &host, const Settings &settings)
+SharedObjects::SharedObjects(Host &host, const Settings &settings)
     : m_application(host),
       m_session(std::make_unique<NSURLSession>(settings.urlSession)),
       m_delegate(std::make_unique<AppDelegate>(settings.applicationId, settings.defaultsFolder))
 {
     NSURLSession::setSharedSession(m_session.get());
-    m_application.setDelegate(m_delegate.get());
     host.observeAppearance(
-        [application = QPointer(&m_application)](const UIAppearance &appearance) {
+        [application = QPointer(&m_application)](const DesktopAppearance &appearance) {
             if (application) {
                 application->traits().setDesktopAppearance(appearance);
             }
@@ -32,7 +31,6 @@ SharedObjects::SharedObjects(UIHost &host, const Settings &settings)
 SharedObjects::~SharedObjects()
 {
     finish();
-    m_application.setDelegate(nullptr);
     m_delegate.reset();
     // The delegate's screens must be destroyed before the application.
     drainDeferredDeletes();

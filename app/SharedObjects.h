@@ -19,7 +19,7 @@ public:
     };
 
     /// `host` outlives the objects. The delegate's launch is left to the caller.
-    SharedObjects(UIHost &host, const Settings &settings);
+    SharedObjects(Host &host, const Settings &settings);
     ~SharedObjects();
     Q_DISABLE_COPY_MOVE(SharedObjects)
 

@@ -113,7 +113,7 @@ Stage::Stage()
     m_app.service().addIssues(sandbox::demoIssues());
     m_app.keepUser(WZTUser(1, email, u"Jo"_s));
     m_app.launch();
-    m_host = std::make_unique<UIWindowHost>(*m_app.delegate().window(), QString(), QIcon());
+    m_host = std::make_unique<DesktopWindow>(*m_app.delegate().window(), QString(), QIcon());
     m_host->show();
     wait(moment);
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "harness/TestApp.h"
-#include "platform/uikit/presentation/UIWindowHost.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 
 #include <functional>
 #include <memory>
@@ -24,7 +24,7 @@ public:
 
 private:
     TestApp m_app;
-    std::unique_ptr<UIWindowHost> m_host;
+    std::unique_ptr<DesktopWindow> m_host;
 };
 
 /// Something that moves in the window.

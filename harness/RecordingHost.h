@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 #include <algorithm>
 
 /// A machine that records requests and carries none of them out.
-class RecordingHost : public UIHost {
+class RecordingHost : public Host {
 public:
     /// The schemes that an application is registered for ("zbra").
     QStringList schemes;
@@ -24,7 +24,7 @@ public:
     }
     void openURL(const QString &url) override { openedURLs.append(url); }
     void impactOccurred(UIImpactFeedbackStyle) override { ++taps; }
-    void observeAppearance(std::function<void(const UIAppearance &)>) override {}
+    void observeAppearance(std::function<void(const DesktopAppearance &)>) override {}
     [[nodiscard]] bool claimSingleInstance(const QStringList &,
                                            std::function<void(const QStringList &)>) override
     {

@@ -4,9 +4,9 @@
 
 #include "harness/TestRunner.h"
 #include "platform/uikit/base/UIApplication.h"
-#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
+#include "platform/uikit/presentation/TransitionStack.h"
 #include "platform/uikit/presentation/UIWindow.h"
-#include "platform/uikit/presentation/UIWindowHost.h"
 
 #include <QAccessible>
 #include <QIcon>
@@ -64,7 +64,7 @@ void describe(QAccessibleInterface *parent, QStringList &found)
 
 bool isSettled(const QQuickItem *entry)
 {
-    return entry->property("phase").toInt() == static_cast<int>(UITransitionStack::Phase::Settled);
+    return entry->property("phase").toInt() == static_cast<int>(TransitionStack::Phase::Settled);
 }
 
 } // namespace
@@ -84,11 +84,11 @@ void TestWindow::beStrict()
     QAccessible::setActive(true);
 }
 
-void TestWindow::open(UIWindow &window, const QSize &size, const UIAppearance &appearance)
+void TestWindow::open(UIWindow &window, const QSize &size, const DesktopAppearance &appearance)
 {
     beStrict();
     UIApplication::sharedApplication()->traits().setOverride(appearance);
-    m_host = std::make_unique<UIWindowHost>(window, u"Test"_s, QIcon());
+    m_host = std::make_unique<DesktopWindow>(window, u"Test"_s, QIcon());
     m_view = &m_host->view();
     m_view->resize(size);
     m_host->show();
@@ -109,7 +109,7 @@ void TestWindow::close()
 void TestWindow::settle() const
 {
     const auto settled = [this] {
-        return std::ranges::all_of(items(u"UITransitionEntryView"_s), isSettled);
+        return std::ranges::all_of(items(u"TransitionEntryView"_s), isSettled);
     };
     QTRY_VERIFY(settled());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

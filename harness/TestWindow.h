@@ -3,7 +3,7 @@
 #pragma once
 
 #include "harness/Finger.h"
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 #include <QQuickItem>
 #include <QQuickView>
@@ -12,7 +12,7 @@
 
 class QAccessibleInterface;
 class UIWindow;
-class UIWindowHost;
+class DesktopWindow;
 
 /// A window and its user: finds items by type, object name, control or accessible name, and touches
 /// and types. Items made by Repeaters and Loaders are found too.
@@ -29,7 +29,7 @@ public:
     /// Opens an application's window, strictly, and waits until it has the keyboard. Closed before
     /// the application ends.
     void open(UIWindow &window, const QSize &size = {390, 844},
-              const UIAppearance &appearance = {});
+              const DesktopAppearance &appearance = {});
     void close();
     [[nodiscard]] QQuickView &view() const { return *m_view; }
     /// Waits until no controller is in a transition and no deferred delete is left.
@@ -83,6 +83,6 @@ public:
     void showKeyboard(double height) const;
 
 private:
-    std::unique_ptr<UIWindowHost> m_host;
+    std::unique_ptr<DesktopWindow> m_host;
     QQuickView *m_view = nullptr;
 };

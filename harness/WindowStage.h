@@ -11,7 +11,7 @@
 /// An application whose window shows any controllers.
 class WindowStage : public TestWindow {
 public:
-    explicit WindowStage(const UIAppearance &appearance = {}) : m_appearance(appearance) {}
+    explicit WindowStage(const DesktopAppearance &appearance = {}) : m_appearance(appearance) {}
     ~WindowStage();
     Q_DISABLE_COPY_MOVE(WindowStage)
 
@@ -25,5 +25,5 @@ public:
     std::unique_ptr<UIWindow> window = std::make_unique<UIWindow>();
 
 private:
-    UIAppearance m_appearance;
+    DesktopAppearance m_appearance;
 };

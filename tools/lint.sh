@@ -47,6 +47,22 @@ knows() {
     never "^$1/.*\.(h|cpp)$" "^#include \"(?!($folders)/|\w+\.moc\")" "$1 may know no more than $folders"
 }
 
+# rooms FOLDER ROOM...: each room of the folder uses itself, the rooms before it, and in its drawings nothing
+# else either. Rooms of one level stand in one word, apart by commas, and do not know each other.
+rooms() {
+    local folder=$1 level room below=() beyond
+    shift
+    for level; do
+        for room in ${level//,/ }; do
+            knows "$folder/$room" "${below[@]}"
+            beyond=$(ours "^$folder/" | grep -vP "^($(IFS='|' && printf '%s' "$folder/$room|${below[*]}"))/" |
+                sed -nE 's#.*/(\w+)\.(h|qml)$#\1#p' | sort -u | paste -sd '|')
+            never "^$folder/$room/.*\.qml$" "^(?!\s*//).*\b($beyond)\b" "$folder/$room draws with too much"
+        done
+        for room in ${level//,/ }; do below+=("$folder/$room"); done
+    done
+}
+
 rules() {
     local rules_broken=0
     local signed='\.(h|cpp|qml|cmake|in|svg)$|(^|/)CMakeLists\.txt$|^dev$|^tools/.*\.sh$|^\.ci/run$'
@@ -58,7 +74,7 @@ rules() {
     never '\.qml$' '^import QtQuick\.Controls' 'Qt Quick Controls are not used'
     never '\.qml$' '\bproperty var\b' 'Properties have a type'
     never '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
-    local drawn='input/|\w+/(\w+(Area|Picture|Host)|EditActions|ReadingOrder|SecretTextFilter)\.'
+    local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|FocusFollower|ReadingOrder|SecretTextFilter|TableKeyboard|TableList)\.'
     never "^(?!platform/uikit/($drawn)|harness/|tests/|bench/|tools/|app/).*\.(h|cpp)$" '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     never '^(?!platform/foundation/url/HTTP\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP loader's sources only"
     never '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
@@ -75,6 +91,7 @@ rules() {
     knows platform/foundation/storage platform/foundation/coding platform/files
     knows platform/foundation/url platform/foundation/base
     knows platform/uikit
+    rooms platform/uikit input,appearance base controls text,bars presentation tables,alerts
     knows platform/xlform platform/uikit
     knows platform/linux platform/uikit platform/files
     knows model platform/foundation

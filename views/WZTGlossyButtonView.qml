@@ -6,7 +6,7 @@ import Views
 
 /// A glossy button: its fill, shine and border below its title. Its implicit size is the size of its
 /// frame, or fits the title if the frame is empty.
-UIControlArea {
+ControlArea {
     id: root
 
     required property WZTGlossyButton control
@@ -28,9 +28,9 @@ UIControlArea {
     Rectangle {
         anchors.fill: parent
         radius: root.control.layer.cornerRadius
-        color: root.control.backgroundColor.drawn(Traits.dark)
+        color: root.control.backgroundColor.toQColor(Traits.dark)
     }
-    UISublayersPicture {
+    SublayersPicture {
         anchors.fill: parent
         visible: root.frame.width > 0 && root.frame.height > 0
         view: root.control
@@ -41,7 +41,7 @@ UIControlArea {
         color: "transparent"
         border.width: root.control.layer.borderWidth
         border.pixelAligned: false
-        border.color: root.control.layer.borderColor.drawn(Traits.dark)
+        border.color: root.control.layer.borderColor.toQColor(Traits.dark)
     }
     Text {
         id: title
@@ -50,8 +50,8 @@ UIControlArea {
         anchors.rightMargin: Math.max(Metrics.margin / 2, root.insets.right)
         text: root.control.title
         textFormat: Text.PlainText
-        font: root.control.titleFont.drawn(Traits.textScale)
-        color: root.control.titleColor.drawn(Traits.dark)
+        font: root.control.titleFont.toQFont(Traits.textScale)
+        color: root.control.titleColor.toQColor(Traits.dark)
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

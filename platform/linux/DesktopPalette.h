@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/appearance/DesktopAppearance.h"
 
 #include <QObject>
 

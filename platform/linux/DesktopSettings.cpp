@@ -101,7 +101,7 @@ DesktopSettings::DesktopSettings(const QDBusConnection &bus, std::function<void(
     readAll();
 }
 
-UIAppearance DesktopSettings::appearance() const
+DesktopAppearance DesktopSettings::appearance() const
 {
     return {.style = m_values.style,
             .textScale = m_values.textScale,

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/appearance/DesktopAppearance.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -23,7 +23,7 @@ public:
     /// `changed` is called after the appearance may have changed.
     DesktopSettings(const QDBusConnection &bus, std::function<void()> changed);
 
-    [[nodiscard]] UIAppearance appearance() const;
+    [[nodiscard]] DesktopAppearance appearance() const;
 
     /// The values of the keys that this class follows.
     struct Values {

@@ -47,7 +47,7 @@ void LinuxHost::impactOccurred(UIImpactFeedbackStyle /*style*/)
     triggerButtonFeedback(m_bus->connection(), m_applicationId);
 }
 
-void LinuxHost::observeAppearance(std::function<void(const UIAppearance &)> changed)
+void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)> changed)
 {
     m_appearanceChanged = std::move(changed);
     m_reportedAppearance = {};
@@ -61,7 +61,7 @@ void LinuxHost::observeAppearance(std::function<void(const UIAppearance &)> chan
 
 void LinuxHost::reportAppearance()
 {
-    UIAppearance appearance = m_settings->appearance();
+    DesktopAppearance appearance = m_settings->appearance();
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {
         appearance.style = m_palette->style();
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 #include <chrono>
 #include <memory>
@@ -15,7 +15,7 @@ class SingleInstance;
 /// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
 /// appearance and the single instance over the session bus. Features that the machine lacks do
 /// nothing. Made after the application object, destroyed before it; main thread only.
-class LinuxHost final : public UIHost {
+class LinuxHost final : public Host {
 public:
     /// The total time that a start waits for the desktop.
     static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool canOpenURL(const QString &url) override;
     void openURL(const QString &url) override;
     void impactOccurred(UIImpactFeedbackStyle style) override;
-    void observeAppearance(std::function<void(const UIAppearance &)> changed) override;
+    void observeAppearance(std::function<void(const DesktopAppearance &)> changed) override;
     [[nodiscard]] bool
     claimSingleInstance(const QStringList &urls,
                         std::function<void(const QStringList &)> opened) override;
@@ -50,6 +50,6 @@ private:
     std::unique_ptr<DesktopSettings> m_settings;
     std::unique_ptr<DesktopPalette> m_palette;
     std::unique_ptr<SingleInstance> m_instance;
-    std::function<void(const UIAppearance &)> m_appearanceChanged;
-    UIAppearance m_reportedAppearance;
+    std::function<void(const DesktopAppearance &)> m_appearanceChanged;
+    DesktopAppearance m_reportedAppearance;
 };

@@ -7,8 +7,8 @@
 
 #include <QPointer>
 
-/// A row's title and what edits its value. A row keeps its cell: it is not reused for another, and
-/// what is typed in it outlives its drawing.
+/// A row's title and the editor of its value. A row keeps its cell: it is not reused for another,
+/// and the text in it outlives its drawing.
 class XLFormCell : public UITableViewCell {
     Q_OBJECT
     QML_ELEMENT
@@ -18,7 +18,7 @@ public:
     /// The cell of the class that the type of `row` asks for, configured.
     [[nodiscard]] static std::shared_ptr<XLFormCell> cellForRow(XLFormRowDescriptor &row);
 
-    /// What has the keyboard while the row is edited.
+    /// The view that has the keyboard while the row is edited.
     [[nodiscard]] virtual UIView *editor() = 0;
     /// Nothing: the editor says it all.
     [[nodiscard]] QString accessibilityLabel() const override { return {}; }
@@ -31,7 +31,7 @@ protected:
     explicit XLFormCell(XLFormRowDescriptor &row);
     [[nodiscard]] virtual QString shownText() const = 0;
     virtual void showText(const QString &text) = 0;
-    /// The user changed what is shown.
+    /// The user changed the text.
     void edited();
 
 private:

@@ -4,7 +4,7 @@
 
 #include "platform/xlform/XLFormSectionDescriptor.h"
 
-/// What a form asks for, section by section.
+/// The sections of a form, and its title.
 class XLFormDescriptor {
 public:
     using Sections = std::vector<std::shared_ptr<XLFormSectionDescriptor>>;

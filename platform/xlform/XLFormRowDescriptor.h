@@ -11,7 +11,7 @@
 /// One line of text, or as many as are typed.
 enum class XLFormRowDescriptorType { Text, TextView };
 
-/// A row of a form: what it is called and what is entered in it.
+/// A row of a form: its name, its title and its value.
 class XLFormRowDescriptor : public QObject {
     Q_OBJECT
 
@@ -29,11 +29,11 @@ public:
     [[nodiscard]] bool isRequired() const { return m_required; }
     void setRequired(bool required) { m_required = required; }
 
-    /// What is entered, to the letter; nil for nothing at all. Blanks are something.
+    /// The text as it was entered; nil for an empty one. Blanks are text.
     [[nodiscard]] std::optional<QString> value() const { return m_value; }
     void setValue(const std::optional<QString> &value);
 
-    /// What the row's cell is given when it is made, by key path ("textView.placeholder").
+    /// Properties that the row's cell gets when it is made, by key path ("textView.placeholder").
     [[nodiscard]] QVariantMap &cellConfigAtConfigure() { return m_cellConfigAtConfigure; }
 
 Q_SIGNALS:

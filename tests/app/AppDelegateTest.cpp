@@ -50,8 +50,8 @@ struct Reloads {
 /// How the controller over the tabs was presented.
 bool presentedAnimated(TestApp &app)
 {
-    const UITransitionStack &stack = *app.delegate().window()->presentation();
-    return stack.index(1).data(UITransitionStack::AnimatedRole).toBool();
+    const TransitionStack &stack = *app.delegate().window()->presentation();
+    return stack.index(1).data(TransitionStack::AnimatedRole).toBool();
 }
 
 } // namespace
@@ -101,10 +101,10 @@ private Q_SLOTS:
         app.launch();
         QVERIFY(app.delegate().currentUser() == someUser());
         QCOMPARE(app.top(), app.delegate().tabController());
-        QCOMPARE(app.delegate().rootVC()->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(app.delegate().rootVC()->appearanceState(), AppearanceState::Appeared);
         QCOMPARE(app.keptData(), kept);
-        const WZTUserViewController &account = *app.delegate().userVC();
-        QVERIFY2(!account.isViewLoaded(), "nobody has looked at it");
+        QVERIFY2(!app.delegate().userVC()->tableView()->refreshControl(),
+                 "nobody has looked at it");
 
         // A page above Home: the screen at the bottom is the one to reload.
         app.delegate().rootVC()->navigationController()->pushViewController(
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(app.delegate().currentUser() == someUser(u"Joanna"_s));
 
         app.delegate().tabController()->setSelectedIndex(1);
-        QVERIFY(app.delegate().userVC()->isViewLoaded());
+        QVERIFY(app.delegate().userVC()->tableView()->refreshControl());
         const Reloads forgotten(app);
         WZTSession::shared()->logout();
         QVERIFY(forgotten.were(1));
@@ -219,14 +219,14 @@ private Q_SLOTS:
         TestApp app;
         app.launch();
         const UIColor &bar = app.delegate().tabController()->tabBar()->tintColor();
-        QVERIFY(bar.drawn(true) == UIColor::systemTealColor().drawn(true));
+        QVERIFY(bar.toQColor(true) == UIColor::systemTealColor().toQColor(true));
         for (const double version : {12.5, 13.0}) {
             app.application().traits().setSystemVersion(version);
             const UIColor dark =
                 version < 13 ? UIColor::systemBlueColor() : UIColor::systemTealColor();
             const UIColor tint = UIColorEx::tintColor();
-            QVERIFY(tint.drawn(false) == UIColor::systemBlueColor().drawn(false));
-            QVERIFY(tint.drawn(true) == dark.drawn(true));
+            QVERIFY(tint.toQColor(false) == UIColor::systemBlueColor().toQColor(false));
+            QVERIFY(tint.toQColor(true) == dark.toQColor(true));
         }
     }
 

@@ -49,14 +49,14 @@ struct ObservedHost {
     ObservedHost()
     {
         host.observeAppearance(
-            [this](const UIAppearance &appearance) { told.prepend(appearance); });
+            [this](const DesktopAppearance &appearance) { told.prepend(appearance); });
     }
-    [[nodiscard]] UIAppearance last() const { return told.value(0); }
+    [[nodiscard]] DesktopAppearance last() const { return told.value(0); }
     LinuxHost host{u"example.wzt.Test"_s};
-    QList<UIAppearance> told;
+    QList<DesktopAppearance> told;
 };
 
-using Setting = std::tuple<const char *, QString, const char *, QVariant, UIAppearance>;
+using Setting = std::tuple<const char *, QString, const char *, QVariant, DesktopAppearance>;
 
 } // namespace
 
@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         const auto &[name, group, keyName, value, expected] = currentCase<Setting>();
         const QString key = QString::fromLatin1(keyName);
-        UIAppearance after = expected;
+        DesktopAppearance after = expected;
         after.reduceMotion = true;
         for (const bool live : {false, true}) {
             const Portal portal(live ? SettingGroups() : SettingGroups{{group, {{key, value}}}});
@@ -106,7 +106,7 @@ private Q_SLOTS:
             // The last signal: when it has arrived, no other is pending.
             portal.change(looks, u"reduced-motion"_s, 1U);
             QTRY_COMPARE(host.last(), after);
-            QList<UIAppearance> told{after, expected, UIAppearance()};
+            QList<DesktopAppearance> told{after, expected, DesktopAppearance()};
             told.erase(std::unique(told.begin(), told.end()), told.end());
             told.removeLast(); // what it begins with is told to nobody
             QCOMPARE(host.told, told);
@@ -136,7 +136,7 @@ private Q_SLOTS:
         portal.change(looks, scheme, 0U);
         QTRY_COMPARE(host.last().style, dark);
         QGuiApplication::setPalette(before);
-        QTRY_COMPARE(host.last(), UIAppearance());
+        QTRY_COMPARE(host.last(), DesktopAppearance());
     }
 };
 

@@ -18,7 +18,7 @@ namespace {
 int startApplication(QStringList arguments, std::chrono::milliseconds remainingTime)
 {
     LinuxHost host(arguments.takeFirst(), remainingTime);
-    host.observeAppearance([](const UIAppearance &) {});
+    host.observeAppearance([](const DesktopAppearance &) {});
     host.impactOccurred(UIImpactFeedbackStyle::Light);
     host.openURL(u"start://"_s);
     return std::puts(host.claimSingleInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;

@@ -21,7 +21,7 @@ constexpr quint32 runs = 8000;
 constexpr int stepsOfARun = 60;
 
 using Controller = std::shared_ptr<UIViewController>;
-using Cover = UITransitionStack::Cover;
+using Cover = TransitionStack::Cover;
 
 /// A window with two tabs, and a model of its controllers that knows no transitions.
 class Script {
@@ -70,7 +70,7 @@ private:
         m_world.faults.append(isRight ? QStringList() : QStringList(fault));
     }
 
-    void test(UITransitionStack &stack)
+    void test(TransitionStack &stack)
     {
         m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
             &stack, QAbstractItemModelTester::FailureReportingMode::QtTest));
@@ -185,18 +185,18 @@ private:
                : controller->popViewControllerAnimated(animated);
     }
 
-    std::vector<UITransitionStack *> stacks()
+    std::vector<TransitionStack *> stacks()
     {
-        std::vector<UITransitionStack *> all{m_window->presentation()};
+        std::vector<TransitionStack *> all{m_window->presentation()};
         for (const Navigation &each : m_navigations) {
             all.push_back(each.controller->pages());
         }
         return all;
     }
 
-    static void end(UITransitionStack &stack, int row)
+    static void end(TransitionStack &stack, int row)
     {
-        const QVariant of = stack.index(row).data(UITransitionStack::ControllerRole);
+        const QVariant of = stack.index(row).data(TransitionStack::ControllerRole);
         const Controller kept = of.value<UIViewController *>()->shared_from_this();
         stack.transitionEnded(kept.get());
     }
@@ -204,13 +204,13 @@ private:
     void endOne(bool)
     {
         m_log.append(u"ended"_s);
-        UITransitionStack &stack = *m_dice.oneOf(stacks());
+        TransitionStack &stack = *m_dice.oneOf(stacks());
         end(stack, m_dice.below(stack.rowCount()));
     }
     void endAll()
     {
         for (int times = 0; times < 3; ++times) { // an end may begin another
-            for (UITransitionStack *stack : stacks()) {
+            for (TransitionStack *stack : stacks()) {
                 for (int row = stack->rowCount() - 1; row >= 0; --row) {
                     end(*stack, row);
                 }
@@ -247,8 +247,7 @@ private:
         }
         for (const Controller &each : m_pages) {
             const bool isSeen = std::ranges::find(seen, each) != seen.end();
-            const auto state =
-                isSeen ? UIAppearanceState::Appeared : UIAppearanceState::Disappeared;
+            const auto state = isSeen ? AppearanceState::Appeared : AppearanceState::Disappeared;
             expect(each->appearanceState() == state, u"a page is in the wrong state"_s);
         }
         expect(std::ranges::count(m_completions, 1) == std::ssize(m_completions),

@@ -60,7 +60,7 @@ public:
 private:
     using Row = WindowRules::Row;
 
-    UIAppearance appearance()
+    DesktopAppearance appearance()
     {
         using enum UIUserInterfaceStyle;
         return {m_dice.once(2) ? Light : Dark, m_dice.once(3) ? 1.6 : 1, m_dice.once(3)};

@@ -19,7 +19,7 @@ struct ScriptWorld {
 /// Is told of its life in the right order, or writes a fault down.
 class ScriptPage : public UIViewController {
 public:
-    ScriptPage(ScriptWorld &world, UITransitionStack::Cover cover) : m_world(world), m_cover(cover)
+    ScriptPage(ScriptWorld &world, TransitionStack::Cover cover) : m_world(world), m_cover(cover)
     {
         ++m_world.living;
     }
@@ -28,23 +28,23 @@ public:
     void viewDidLoad() override { expect(m_loads++ == 0, u"loads twice"); }
     void viewWillAppear(bool) override
     {
-        expect(m_loads == 1 && m_state == UIAppearanceState::Disappeared, u"will appear");
-        m_state = UIAppearanceState::Appearing;
+        expect(m_loads == 1 && m_state == AppearanceState::Disappeared, u"will appear");
+        m_state = AppearanceState::Appearing;
         m_world.meanwhile();
     }
     void viewDidAppear(bool) override
     {
-        expect(m_state == UIAppearanceState::Appearing, u"did appear");
-        m_state = UIAppearanceState::Appeared;
+        expect(m_state == AppearanceState::Appearing, u"did appear");
+        m_state = AppearanceState::Appeared;
         m_world.meanwhile();
     }
-    [[nodiscard]] UITransitionStack::Cover cover() const override { return m_cover; }
+    [[nodiscard]] TransitionStack::Cover cover() const override { return m_cover; }
 
 protected:
-    void appearanceStateDidChange(UITransitionStack::Motion) override
+    void appearanceStateDidChange(TransitionStack::Motion) override
     {
-        if (appearanceState() == UIAppearanceState::Disappeared) {
-            m_state = UIAppearanceState::Disappeared;
+        if (appearanceState() == AppearanceState::Disappeared) {
+            m_state = AppearanceState::Disappeared;
         }
     }
 
@@ -57,7 +57,7 @@ private:
     }
 
     ScriptWorld &m_world;
-    UITransitionStack::Cover m_cover;
+    TransitionStack::Cover m_cover;
     int m_loads = 0;
-    UIAppearanceState m_state = UIAppearanceState::Disappeared;
+    AppearanceState m_state = AppearanceState::Disappeared;
 };

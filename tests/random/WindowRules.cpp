@@ -83,7 +83,7 @@ UITableView *WindowRules::tableOf(const QQuickItem &list)
     return list.parentItem()->property("control").value<UITableView *>();
 }
 
-WindowRules::WindowRules(QQuickView &window, UITransitionStack &presentation)
+WindowRules::WindowRules(QQuickView &window, TransitionStack &presentation)
     : m_window(window), m_presentation(presentation)
 {
 }
@@ -103,7 +103,7 @@ WindowRules::Row WindowRules::rowAt(const QPoint &point) const
     const QQuickItem *row = hit ? hit->parentItem() : nullptr;
     const auto *entry = row ? row->property("entry").value<QQuickItem *>() : nullptr;
     auto *table = entry ? entry->property("table").value<UITableView *>() : nullptr;
-    if (!table || !hit->inherits("UIPressArea")) {
+    if (!table || !hit->inherits("PressArea")) {
         return {};
     }
     return {table, table->entries()->indexPathOf(entry->property("index").toInt())};
@@ -118,7 +118,7 @@ QQuickItem *WindowRules::list() const
 
 bool WindowRules::isStill() const
 {
-    return std::ranges::all_of(items("UITransitionEntryView"), isInPlace)
+    return std::ranges::all_of(items("TransitionEntryView"), isInPlace)
         && items("EditMenu").isEmpty() && (!list() || !list()->property("moving").toBool());
 }
 
@@ -136,7 +136,7 @@ int WindowRules::pageCount() const
 {
     int pages = 0;
     for (const auto &controller : m_presentation.controllers()) {
-        if (controller->cover() == UITransitionStack::Cover::Covers) {
+        if (controller->cover() == TransitionStack::Cover::Covers) {
             pages += pagesIn(*controller);
         }
     }
@@ -163,7 +163,7 @@ QString WindowRules::acted(QList<Row> mayBeChosen, int pages)
 QString WindowRules::tables() const
 {
     QSet<QObject *> cells;
-    for (const QQuickItem *entry : items("UITableViewEntryView")) {
+    for (const QQuickItem *entry : items("TableEntryView")) {
         auto *cell = entry->property("cell").value<UITableViewCell *>();
         if (!cell) {
             continue;
@@ -200,7 +200,7 @@ QString WindowRules::focus() const
 QString WindowRules::settled() const
 {
     const auto arePagesInPlace = [this] {
-        return std::ranges::all_of(items("UITransitionEntryView"), isInPlace);
+        return std::ranges::all_of(items("TransitionEntryView"), isInPlace);
     };
     if (!QTest::qWaitFor(arePagesInPlace, TestRunner::patience)) {
         return u"a page rests beside its place"_s;
@@ -209,9 +209,9 @@ QString WindowRules::settled() const
     for (const auto &controller : shown) {
         const bool covered = std::any_of(
             std::find(shown.begin(), shown.end(), controller) + 1, shown.end(),
-            [](const auto &above) { return above->cover() == UITransitionStack::Cover::Covers; });
+            [](const auto &above) { return above->cover() == TransitionStack::Cover::Covers; });
         if (controller->appearanceState()
-            != (covered ? UIAppearanceState::Disappeared : UIAppearanceState::Appeared)) {
+            != (covered ? AppearanceState::Disappeared : AppearanceState::Appeared)) {
             return u"a controller has not appeared, or not gone"_s;
         }
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/presentation/TransitionStack.h"
 #include "platform/uikit/tables/UITableView.h"
 
 #include <QPointer>
@@ -12,7 +12,7 @@
 class WindowRules {
 public:
     /// `window` draws `presentation`.
-    WindowRules(QQuickView &window, UITransitionStack &presentation);
+    WindowRules(QQuickView &window, TransitionStack &presentation);
     ~WindowRules();
     Q_DISABLE_COPY_MOVE(WindowRules)
 
@@ -52,7 +52,7 @@ private:
     [[nodiscard]] QString focus() const;
 
     QQuickView &m_window;
-    UITransitionStack &m_presentation;
+    TransitionStack &m_presentation;
     QList<Row> m_chosen;
     int m_pages = 0;
     std::vector<std::unique_ptr<Delegate>> m_delegates;

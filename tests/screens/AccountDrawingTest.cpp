@@ -28,7 +28,7 @@ struct Stage : ScreenStage {
     template <class Cell>
     [[nodiscard]] Cell &cell(int entry)
     {
-        const auto shown = table()->entries()->index(entry).data(UITableViewEntries::CellRole);
+        const auto shown = table()->entries()->index(entry).data(TableEntries::CellRole);
         return *qobject_cast<Cell *>(shown.value<UITableViewCell *>());
     }
     [[nodiscard]] WZTAccountTableViewCell &card() { return cell<WZTAccountTableViewCell>(4); }
@@ -169,7 +169,7 @@ private Q_SLOTS:
         Finger pressing(stage.view(), at);
         QTRY_VERIFY(stage.isPressed());
         const QColor drawn = stage.grab().pixelColor(at - QPoint(150, 0));
-        QCOMPARE(drawn, pressedColor(UIColor::redColor()).drawn(false));
+        QCOMPARE(drawn, pressedColor(UIColor::redColor()).toQColor(false));
         pressing.move(at + QPoint(0, 150)); // the touch stays the button's
         QTRY_VERIFY(!stage.isPressed());
         QCOMPARE(stage.scrolled(), 0);

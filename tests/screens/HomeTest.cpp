@@ -43,7 +43,7 @@ struct Stage : TestApp {
     }
     [[nodiscard]] WZTPackageIssuesViewController &open(int project)
     {
-        projects().tableView()->chooseRowAtIndexPath({0, project});
+        projects().tableView()->activateRow({0, project});
         return dynamic_cast<WZTPackageIssuesViewController &>(
             *top<UINavigationController>()->topViewController());
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QStringList images;
         for (const NSIndexPath &row : {NSIndexPath{0, 0}, {1, 0}, {1, 1}, {1, 2}}) {
             const UIImageView *icon = home.cellForRowAtIndexPath(row)->imageView();
-            QCOMPARE(icon->tintColor().drawn(true), UIColor::systemTealColor().drawn(true));
+            QCOMPARE(icon->tintColor().toQColor(true), UIColor::systemTealColor().toQColor(true));
             images.append(icon->image().name());
         }
         QCOMPARE(images.join(u' '), u"bugreport add add discord"_s);
@@ -100,7 +100,7 @@ private Q_SLOTS:
             app.host().schemes = installed;
             app.host().openedURLs.clear();
             for (const NSIndexPath &row : {NSIndexPath{1, 0}, {1, 1}, {1, 2}, {2, 0}}) {
-                home.tableView()->chooseRowAtIndexPath(row);
+                home.tableView()->activateRow(row);
                 QVERIFY(!home.tableView()->indexPathForSelectedRow());
             }
             QCOMPARE(app.host().openedURLs,

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Stage : ScreenStage {
-    explicit Stage(const QSize &size = {390, 844}, const UIAppearance &appearance = {})
+    explicit Stage(const QSize &size = {390, 844}, const DesktopAppearance &appearance = {})
         : ScreenStage("Login", {size, appearance})
     {
     }

@@ -34,7 +34,7 @@ WZTLoginViewController &login(TestApp &app)
 
 bool isDrawnAs(const UIColor &color, const UIColor &expected)
 {
-    return color.drawn(true) == expected.drawn(true);
+    return color.toQColor(true) == expected.toQColor(true);
 }
 
 } // namespace

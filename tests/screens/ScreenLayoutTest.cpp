@@ -41,7 +41,7 @@ void collect(QQuickItem *item, const QRectF &seen, QList<Drawn> &texts)
 /// The texts of the topmost entry.
 QList<Drawn> textsOf(QQuickView &view)
 {
-    QList<QQuickItem *> entries = TestWindow(view).items(u"UITransitionEntryView"_s);
+    QList<QQuickItem *> entries = TestWindow(view).items(u"TransitionEntryView"_s);
     entries.removeIf([](QQuickItem *entry) { return entry->property("page").toBool(); });
     QList<Drawn> texts;
     collect(entries.last(), QRectF(QPointF(), view.size()), texts);
@@ -156,7 +156,7 @@ private Q_SLOTS:
             for (const double textScale : textScales) {
                 // All at once, as a desktop changes under an application that runs.
                 stage.application().traits().setOverride(
-                    UIAppearance{.textScale = textScale, .reduceMotion = true});
+                    DesktopAppearance{.textScale = textScale, .reduceMotion = true});
                 view.resize(size);
                 QTRY_COMPARE(view.contentItem()->size().toSize(), size);
                 view.grabWindow();

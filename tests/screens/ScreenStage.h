@@ -30,7 +30,7 @@ class ScreenStage : public TestApp, public TestWindow {
 public:
     struct Options {
         QSize size = {320, 568};
-        UIAppearance appearance = {.reduceMotion = true};
+        DesktopAppearance appearance = {.reduceMotion = true};
         /// Who is signed in, with the password "secret".
         WZTUser user = {1, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
     };

@@ -16,9 +16,9 @@ QString focused(QQuickView &view)
 {
     QQuickItem *item = view.activeFocusItem();
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
-    return interface                    ? interface->text(QAccessible::Name)
-        : item->inherits("UIFocusItem") ? u"rows"_s
-                                        : QString::fromLatin1(item->metaObject()->className());
+    return interface                   ? interface->text(QAccessible::Name)
+        : item->inherits("FocusGroup") ? u"rows"_s
+                                       : QString::fromLatin1(item->metaObject()->className());
 }
 
 qsizetype rings(QQuickView &view)

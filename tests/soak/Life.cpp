@@ -76,9 +76,9 @@ public:
     Person(quint32 life, useconds_t alarm) : m_dice(life), m_life(life), m_alarm(alarm)
     {
         otherMessages = qInstallMessageHandler(hearLog);
-        connect(&m_shown, &UITransitionStack::topChanged, this, &Person::hearAlert);
+        connect(&m_shown, &TransitionStack::topChanged, this, &Person::hearAlert);
         UIApplication::sharedApplication()->traits().setOverride(
-            UIAppearance{.reduceMotion = m_dice.once(2)});
+            DesktopAppearance{.reduceMotion = m_dice.once(2)});
         m_next.setSingleShot(true);
         connect(&m_next, &QTimer::timeout, this, &Person::step);
         m_next.start();
@@ -274,9 +274,8 @@ private:
     QQuickView &m_view =
         *qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
     TestWindow m_window{m_view};
-    AppDelegate &m_delegate =
-        *dynamic_cast<AppDelegate *>(UIApplication::sharedApplication()->delegate());
-    UITransitionStack &m_shown = *m_delegate.window()->presentation();
+    AppDelegate &m_delegate = *dynamic_cast<AppDelegate *>(WZTSession::shared());
+    TransitionStack &m_shown = *m_delegate.window()->presentation();
     WZTTabBarController &m_tabs = *m_delegate.tabController();
     Journal::Session m_session{m_delegate};
 };

@@ -10,7 +10,7 @@ Rectangle {
     required property UIViewController controller
 
     objectName: controller.navigationItem.title
-    color: Traits.backgroundColor
+    color: Theme.backgroundColor
 
     TextInput {
         objectName: "input"
@@ -19,8 +19,8 @@ Rectangle {
         focus: true
         activeFocusOnTab: true
         text: root.controller.navigationItem.title
-        font: Traits.bodyFont
-        color: Traits.labelColor
+        font: Theme.bodyFont
+        color: Theme.labelColor
         horizontalAlignment: TextInput.AlignHCenter
 
         Accessible.role: Accessible.EditableText

@@ -60,7 +60,7 @@ private Q_SLOTS:
             const auto are = [&](std::initializer_list<UIColor> colors, const UIColor &adaptive,
                                  const UIColor &fixed) {
                 return std::ranges::all_of(colors, [&](const UIColor &color) {
-                    return color.drawn(true) == (adapts ? adaptive : fixed).drawn(true);
+                    return color.toQColor(true) == (adapts ? adaptive : fixed).toQColor(true);
                 });
             };
             const auto card = make<WZTAccountTableViewCell>(UITableViewCellStyle::Default, u"a"_s);
@@ -107,7 +107,7 @@ private Q_SLOTS:
         for (const auto &[color, expected] : rows) {
             QCOMPARE(text(pressedColor(color).components()), text(expected));
         }
-        QCOMPARE(pressedColor(blue).drawn(false).name(), u"#004eb4"_s); // clamped
+        QCOMPARE(pressedColor(blue).toQColor(false).name(), u"#004eb4"_s); // clamped
     }
 
     // The letters: a finger goes down, out, in again and up, or the system cancels its touch.
@@ -158,9 +158,9 @@ private Q_SLOTS:
         QVERIFY(cell.button()->layer().sublayers[0].frame.isEmpty());
         QVERIFY(cell.button()->buttonColor() == blue);
         // Its button stands on a band like any other row's.
-        QCOMPARE(cell.backgroundColor().drawn(false),
-                 UITableViewCell().backgroundColor().drawn(false));
-        QCOMPARE(cell.contentView()->backgroundColor().drawn(false), QColor(Qt::transparent));
+        QCOMPARE(cell.backgroundColor().toQColor(false),
+                 UITableViewCell().backgroundColor().toQColor(false));
+        QCOMPARE(cell.contentView()->backgroundColor().toQColor(false), QColor(Qt::transparent));
     }
 };
 

@@ -18,7 +18,7 @@ namespace {
 
 /// A form that is presented in a window.
 struct Stage : WindowStage {
-    explicit Stage(const QSize &size = {320, 568}, const UIAppearance &appearance = {},
+    explicit Stage(const QSize &size = {320, 568}, const DesktopAppearance &appearance = {},
                    bool slidesIn = false)
         : WindowStage(appearance)
     {
@@ -116,7 +116,7 @@ private Q_SLOTS:
             {"turned", [](Stage &stage) { stage.view().resize(844, 390); }},
             {"larger text",
              [](Stage &stage) {
-                 stage.application.traits().setOverride(UIAppearance{.textScale = 2});
+                 stage.application.traits().setOverride(DesktopAppearance{.textScale = 2});
              }},
             {"covered by an alert",
              [](Stage &stage) {

@@ -20,7 +20,7 @@ namespace {
 struct Look {
     const char *name;
     QSize size;
-    UIAppearance appearance;
+    DesktopAppearance appearance;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 

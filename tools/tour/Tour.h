@@ -35,7 +35,7 @@ private:
     QDir m_folder;
     QSize m_size;
     int m_keyboard = 0; // height of the on-screen one
-    UIAppearance m_appearance;
+    DesktopAppearance m_appearance;
     std::unique_ptr<TestApp> m_app;
     std::unique_ptr<TestWindow> m_window;
 };

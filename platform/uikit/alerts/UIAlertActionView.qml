@@ -5,7 +5,7 @@ import UIKit
 
 /// One button of an alert, darker while a finger is on it; the corners that it shares with the
 /// alert are as round.
-UIPressArea {
+PressArea {
     id: root
 
     required property UIAlertAction action
@@ -28,7 +28,7 @@ UIPressArea {
         anchors.fill: parent
         visible: root.highlighted
         radius: root.roundsLeft || root.roundsRight ? Metrics.alertRadius : 0
-        color: Traits.pressedAlertColor
+        color: Theme.pressedAlertColor
 
         // Squares over the corners that are not round.
         Rectangle {
@@ -52,8 +52,8 @@ UIPressArea {
         anchors.rightMargin: Metrics.margin / 2
         text: root.action.title
         textFormat: Text.PlainText
-        font: root.isCancel ? Traits.headlineFont : Traits.bodyFont
-        color: Traits.accentColor
+        font: root.isCancel ? Theme.headlineFont : Theme.bodyFont
+        color: Theme.accentColor
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: Math.round(0.6 * font.pixelSize)
         elide: Text.ElideRight
@@ -67,10 +67,10 @@ UIPressArea {
         visible: root.beside
     }
     FocusRing {
-        anchors.margins: 4
-        anchors.leftMargin: 4
-        anchors.rightMargin: 4
-        radius: Metrics.alertRadius - 4
+        anchors.margins: Metrics.focusRingMargin
+        anchors.leftMargin: Metrics.focusRingMargin
+        anchors.rightMargin: Metrics.focusRingMargin
+        radius: Metrics.alertRadius - Metrics.focusRingMargin
         shown: root.focusVisible
     }
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/alerts/UIAlertController.h"
 
-#include "platform/uikit/base/UIListProperty.h"
+#include "platform/uikit/base/ListProperty.h"
 
 #include <algorithm>
 
@@ -13,9 +13,9 @@ UIAlertController::UIAlertController(const QString &title, const QString &messag
 
 UIAlertController::~UIAlertController() = default;
 
-UITransitionStack::Cover UIAlertController::cover() const
+TransitionStack::Cover UIAlertController::cover() const
 {
-    return UITransitionStack::Cover::Overlays;
+    return TransitionStack::Cover::Overlays;
 }
 
 void UIAlertController::addAction(const QString &title, UIAlertAction::Style style,

@@ -10,8 +10,8 @@
 
 /// An alert: title, message, text fields one below the other, and actions. Any action dismisses
 /// it, animated; the action's handler runs when the alert has gone, and not at all when the alert
-/// is taken away otherwise. A handler must not hold its own alert strongly. What was typed into
-/// secure fields is gone after that.
+/// is taken away otherwise. A handler must not hold its own alert strongly. The text of secure
+/// fields is overwritten after that.
 class UIAlertController : public UIViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -45,7 +45,7 @@ public:
         return m_textFields;
     }
 
-    /// What the button of that action does; nothing unless the alert is the topmost, not leaving.
+    /// Acts as the button of that action, unless the alert is covered or leaving.
     Q_INVOKABLE void trigger(UIAlertAction *action);
     /// Return: the only action, or else the first of the default style. In a field before the last
     /// one Return moves to the next field instead.
@@ -53,7 +53,7 @@ public:
     /// Escape: the action of the cancel style, if there is one.
     Q_INVOKABLE void triggerCancel();
 
-    [[nodiscard]] UITransitionStack::Cover cover() const override;
+    [[nodiscard]] TransitionStack::Cover cover() const override;
     void viewWillAppear(bool animated) override;
     void viewDidLeave() override;
 

@@ -3,8 +3,8 @@
 import QtQuick
 import UIKit
 
-/// An alert: a card in the middle of what the on-screen keyboard leaves of the window. Texts and
-/// fields scroll where they do not fit, and so do the buttons.
+/// An alert: a card in the middle of the part of the window that the on-screen keyboard leaves
+/// free. Texts and fields scroll where they do not fit, and so do the buttons.
 FocusScope {
     id: root
 
@@ -25,7 +25,7 @@ FocusScope {
         width: Math.min(Metrics.alertWidth, root.width - 2 * Metrics.margin)
         height: body.height + buttons.height
         radius: Metrics.alertRadius
-        color: Traits.alertColor
+        color: Theme.alertColor
         focus: true // until a field has it
 
         Accessible.role: root.controller.textFields.length > 0 ? Accessible.Dialog : Accessible.AlertMessage
@@ -39,7 +39,7 @@ FocusScope {
             height: Math.min(contentHeight, root.room - buttons.height)
             contentHeight: texts.height
 
-            UIAlertTextsView {
+            AlertTextsView {
                 id: texts
                 width: parent.width
                 controller: root.controller
@@ -52,7 +52,7 @@ FocusScope {
             height: Math.min(contentHeight, Math.max(root.room / 2, root.room - texts.height))
             contentHeight: actions.height
 
-            UIAlertActionsView {
+            AlertActionsView {
                 id: actions
                 width: parent.width
                 controller: root.controller

@@ -4,7 +4,7 @@
 
 #include "platform/uikit/appearance/CAGradientLayer.h"
 
-/// What a view draws beside its background. Lengths in points.
+/// The look of a view beside its background. Lengths in points.
 struct CALayer {
     Q_GADGET
     QML_VALUE_TYPE(caLayer)
@@ -22,10 +22,9 @@ public:
     double borderWidth = 0;
     UIColor borderColor = {};
     bool masksToBounds = false;
-    /// Kept for whoever can draw it: Qt's rounded rectangle has circular corners only.
+    /// Not drawn: Qt's rounded rectangle has circular corners only.
     CornerCurve cornerCurve = CornerCurve::Circular;
-    /// The size that the view was made with; where it stands and how large it is drawn is the
-    /// drawing's matter.
+    /// The size that the view was made with. The drawing decides its place and its size.
     QRectF bounds = {};
     /// Drawn over the view, in this order, each in its frame whatever the view's size becomes.
     std::vector<CAGradientLayer> sublayers = {};

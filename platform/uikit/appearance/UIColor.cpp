@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/appearance/UIColor.h"
 
-#include "platform/uikit/base/UIApplication.h"
+#include "platform/uikit/appearance/Traits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -48,7 +48,7 @@ UIColor UIColor::colorWithHue(double hue, double saturation, double brightness, 
 {
     const double turn = std::clamp(hue, 0.0, 1.0) * 6;
     const double grey = 1 - std::clamp(saturation, 0.0, 1.0);
-    // How much of a channel is there, by how far its own hue is away on the circle of six.
+    // The part of a channel, by the distance of its own hue on the circle of six.
     const auto channel = [&](double own) {
         const double away = std::abs(std::remainder(turn - own, 6));
         return brightness * (grey + (1 - grey) * std::clamp(2 - away, 0.0, 1.0));
@@ -153,8 +153,7 @@ UIColor UIColor::resolvedColorWithTraitCollection(const UITraitCollection &trait
 
 UIColor UIColor::resolvedNow() const
 {
-    const UITraits &traits = UIApplication::sharedApplication()->traits();
-    return resolvedColorWithTraitCollection({traits.userInterfaceStyle()});
+    return resolvedColorWithTraitCollection({Traits::current().userInterfaceStyle()});
 }
 
 std::optional<UIColor::RGB> UIColor::getRed() const
@@ -206,7 +205,7 @@ std::optional<UIColor::HSB> UIColor::getHue() const
     return HSB{(sixth < 0 ? sixth + 6 : sixth) / 6, most > 0 ? range / most : 0, most, rgb->alpha};
 }
 
-QColor UIColor::drawn(bool dark) const
+QColor UIColor::toQColor(bool dark) const
 {
     const auto style = dark ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
     const std::vector<double> c = resolvedColorWithTraitCollection({style}).components();

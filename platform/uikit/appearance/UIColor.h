@@ -67,9 +67,9 @@ public:
     /// The colour for these traits, never dynamic.
     [[nodiscard]] UIColor resolvedColorWithTraitCollection(const UITraitCollection &traits) const;
 
-    // The colour in a model, converted where it was made in another; of a dynamic colour what it is
-    // in the application's style now. Nil for no colour, and for one of components alone, of which
-    // only the hue is known if it has two.
+    // The colour in a model, converted from the model that it was made in. A dynamic colour is
+    // resolved in the application's style now. Nil for no colour, and for one of components alone;
+    // of the latter, one with two components has a hue.
     [[nodiscard]] std::optional<RGB> getRed() const;
     [[nodiscard]] std::optional<Gray> getWhite() const;
     [[nodiscard]] std::optional<HSB> getHue() const;
@@ -78,9 +78,9 @@ public:
     /// a dynamic one.
     [[nodiscard]] const std::vector<double> &components() const { return m_components; }
 
-    /// What is drawn in the dark or the light style: components clamped to 0...1, transparent for
-    /// no colour.
-    Q_INVOKABLE [[nodiscard]] QColor drawn(bool dark) const;
+    /// The colour in the dark or the light style for Qt: components clamped to 0...1, transparent
+    /// for no colour.
+    Q_INVOKABLE [[nodiscard]] QColor toQColor(bool dark) const;
 
     /// Equal components, or the same provider.
     bool operator==(const UIColor &) const = default;

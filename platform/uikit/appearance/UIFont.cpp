@@ -16,7 +16,6 @@ constexpr std::array styles{
     Style{UIFontTextStyle::Title2, 22, QFont::Normal},
     Style{UIFontTextStyle::Headline, 17, QFont::DemiBold},
     Style{UIFontTextStyle::Body, 17, QFont::Normal},
-    Style{UIFontTextStyle::Subheadline, 15, QFont::Normal},
     Style{UIFontTextStyle::Footnote, 13, QFont::Normal},
     Style{UIFontTextStyle::Caption, 12, QFont::Normal},
     Style{UIFontTextStyle::TabTitle, 10, QFont::Medium},
@@ -39,7 +38,7 @@ UIFont UIFont::systemFontOfSize(double points, QFont::Weight weight)
     return {points, weight};
 }
 
-QFont UIFont::drawn(double textScale) const
+QFont UIFont::toQFont(double textScale) const
 {
     QFont font;
     font.setPixelSize(qMax(1, qRound(m_pointSize * textScale)));

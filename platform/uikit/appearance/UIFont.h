@@ -5,7 +5,7 @@
 #include <QFont>
 #include <QtQmlIntegration>
 
-enum class UIFontTextStyle { Title2, Headline, Body, Subheadline, Footnote, Caption, TabTitle };
+enum class UIFontTextStyle { Title2, Headline, Body, Footnote, Caption, TabTitle };
 
 /// A size in points and a weight; the family is the application's.
 class UIFont {
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] double pointSize() const { return m_pointSize; }
     [[nodiscard]] QFont::Weight weight() const { return m_weight; }
 
-    /// What is drawn: one point is one pixel at a text scale of 1.
-    Q_INVOKABLE [[nodiscard]] QFont drawn(double textScale) const;
+    /// The font for Qt: one point is one pixel at a text scale of 1.
+    Q_INVOKABLE [[nodiscard]] QFont toQFont(double textScale) const;
 
     bool operator==(const UIFont &) const = default;
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+enum class UIUserInterfaceStyle { Unspecified = 0, Light = 1, Dark = 2 };
 
 /// The traits that a dynamic colour is resolved against.
 struct UITraitCollection {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UITargetAction.h"
+#include "platform/uikit/base/TargetAction.h"
 
 #include <QtQmlIntegration>
 
@@ -22,22 +22,22 @@ class UIBarButtonItem : public QObject {
 
 public:
     /// `action` is a member function of `target` that takes the item or nothing.
-    template <class Target, class Method>
+    template <typename Target, typename Method>
     UIBarButtonItem(UIBarButtonSystemItem item, Target *target, Method action)
         : UIBarButtonItem(titleOf(item), UIBarButtonItemStyle::Plain, target, action)
     {
         m_systemItem = item;
     }
-    template <class Target, class Method>
+    template <typename Target, typename Method>
     UIBarButtonItem(const QString &title, UIBarButtonItemStyle style, Target *target, Method action)
         : m_title(title),
           m_style(style),
-          m_action(std::make_unique<const UIMethodAction<UIBarButtonItem, Target, Method>>(target,
-                                                                                           action))
+          m_action(
+              std::make_unique<const MethodAction<UIBarButtonItem, Target, Method>>(target, action))
     {
     }
 
-    /// What is drawn, or said for what is drawn as a picture.
+    /// The text that is drawn, or the name for screen readers of one drawn as a picture.
     [[nodiscard]] QString title() const { return m_title; }
     [[nodiscard]] UIBarButtonItemStyle style() const { return m_style; }
     [[nodiscard]] bool isSystemItem(UIBarButtonSystemItem item) const
@@ -46,7 +46,7 @@ public:
     }
     [[nodiscard]] bool drawsPlus() const { return isSystemItem(UIBarButtonSystemItem::Add); }
 
-    /// What a touch does: sends the action, which may put another item in this one's place.
+    /// Acts as a touch: sends the action, which may put another item in this one's place.
     Q_INVOKABLE void trigger() { m_action->send(this); }
 
 private:
@@ -55,5 +55,5 @@ private:
     QString m_title;
     UIBarButtonItemStyle m_style;
     std::optional<UIBarButtonSystemItem> m_systemItem;
-    std::unique_ptr<const UITargetAction<UIBarButtonItem>> m_action;
+    std::unique_ptr<const TargetAction<UIBarButtonItem>> m_action;
 };

@@ -5,7 +5,7 @@ import UIKit
 
 /// A button of a navigation bar: a text that becomes smaller where there is no room for it, or a
 /// plus. Without an item it takes no width.
-UIPressArea {
+PressArea {
     id: root
 
     required property UIBarButtonItem item
@@ -29,7 +29,7 @@ UIPressArea {
     TextMetrics {
         id: natural
         text: label.text
-        font: Traits.bodyFont
+        font: Theme.bodyFont
     }
     Text {
         id: label
@@ -39,10 +39,10 @@ UIPressArea {
         visible: !root.item?.drawsPlus
         text: root.item?.title ?? ""
         textFormat: Text.PlainText
-        font: Traits.bodyFont
+        font: Theme.bodyFont
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: font.pixelSize / Traits.textScale
-        color: Traits.accentColor
+        color: Theme.accentColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -59,11 +59,11 @@ UIPressArea {
             height: 2
             radius: 1
             rotation: modelData
-            color: Traits.accentColor
+            color: Theme.accentColor
         }
     }
     FocusRing {
-        anchors.margins: 4
+        anchors.margins: Metrics.focusRingMargin
         anchors.leftMargin: Metrics.margin / 2
         anchors.rightMargin: Metrics.margin / 2
         shown: root.focusVisible

@@ -4,7 +4,7 @@
 
 #include "platform/uikit/bars/UIBarButtonItem.h"
 
-/// What a navigation bar shows for a controller.
+/// The title and the buttons of a navigation bar for one controller.
 class UINavigationItem : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -3,7 +3,7 @@
 #include "platform/uikit/bars/UITabBar.h"
 
 #include "platform/uikit/bars/UITabBarItem.h"
-#include "platform/uikit/base/UIListProperty.h"
+#include "platform/uikit/base/ListProperty.h"
 
 #include <utility>
 

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] UIImage image() const { return m_image; }
     [[nodiscard]] int tag() const { return m_tag; }
 
-    /// What a screen reader says; the title unless set. Set before the tab is shown.
+    /// The name for screen readers; the title unless set. Set before the tab is shown.
     [[nodiscard]] QString accessibilityLabel() const { return m_accessibilityLabel; }
     void setAccessibilityLabel(const QString &label) { m_accessibilityLabel = label; }
 

@@ -4,14 +4,14 @@ import QtQuick
 import UIKit
 
 /// One tab: its picture, and its title below if it has one.
-UIPressArea {
+PressArea {
     id: root
 
     required property UITabBarItem item
     required property bool selected
     required property color tint
 
-    readonly property color shown: selected ? tint : Traits.unselectedTabColor
+    readonly property color shown: selected ? tint : Theme.unselectedTabColor
 
     Accessible.role: Accessible.PageTab
     Accessible.name: item.accessibilityLabel || item.title
@@ -22,7 +22,7 @@ UIPressArea {
     Accessible.ignored: !enabled
     Accessible.onPressAction: triggered()
 
-    UIImagePicture {
+    ImagePicture {
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.item.title ? 6 : (root.height - height) / 2
         width: 25
@@ -37,7 +37,7 @@ UIPressArea {
         height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
-        font: Traits.tabTitleFont
+        font: Theme.tabTitleFont
         fontSizeMode: Text.VerticalFit
         minimumPixelSize: 9
         color: root.shown

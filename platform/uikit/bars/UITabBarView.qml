@@ -26,7 +26,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Traits.barColor
+        color: Theme.barColor
     }
     Row {
         id: tabs
@@ -45,7 +45,7 @@ FocusScope {
 
                 item: modelData
                 selected: index === root.control.selectedIndex
-                tint: root.control.tintColor.drawn(Traits.dark)
+                tint: root.control.tintColor.toQColor(Traits.dark)
                 width: Math.min(Metrics.widestTab, root.width / items.count)
                 height: tabs.height
                 onTriggered: root.control.choose(index)

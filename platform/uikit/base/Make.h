@@ -7,7 +7,7 @@
 
 /// Makes a controller or a cell: shared, without QObject parent, and destroyed by `deleteLater`,
 /// so that the last reference may be dropped on any thread, and from inside its own action.
-template <class T, class... Arguments>
+template <typename T, typename... Arguments>
 [[nodiscard]] std::shared_ptr<T> make(Arguments &&...arguments)
 {
     return std::shared_ptr<T>(new T(std::forward<Arguments>(arguments)...),
@@ -15,14 +15,14 @@ template <class T, class... Arguments>
 }
 
 /// The shared reference to `self`, an object that `make` made.
-template <class T>
+template <typename T>
 [[nodiscard]] std::shared_ptr<T> strong(T *self)
 {
     return std::static_pointer_cast<T>(self->shared_from_this());
 }
 
 /// A reference to `self` that does not keep it; empty for an object that `make` did not make.
-template <class T>
+template <typename T>
 [[nodiscard]] std::weak_ptr<T> weak(T *self)
 {
     return std::static_pointer_cast<T>(self->weak_from_this().lock());

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/base/UIApplication.h"
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 namespace {
 UIApplication *shared = nullptr;
 }
 
-UIApplication::UIApplication(UIHost &host) : m_host(host)
+UIApplication::UIApplication(Host &host) : m_host(host)
 {
     Q_ASSERT(!shared);
     shared = this;

@@ -2,32 +2,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/appearance/UITraits.h"
+#include "platform/uikit/appearance/Traits.h"
 #include "platform/uikit/base/UIResponder.h"
 
 #include <QPointer>
 
-class UIApplicationDelegate;
-class UIWindow;
+class Host;
 
-/// The application: its machine, its traits, its delegate and who has the keyboard. There is one
-/// at a time, made before any screen and destroyed after all of them.
+/// The application: its host, its traits and its first responder. There is one at
+/// a time, made before any screen and destroyed after all of them.
 class UIApplication : public QObject {
     Q_OBJECT
 
 public:
     /// `host` outlives the application.
-    explicit UIApplication(UIHost &host);
+    explicit UIApplication(Host &host);
     ~UIApplication() override;
 
     /// The one application; null before it is made and after its end.
     [[nodiscard]] static UIApplication *sharedApplication();
 
-    [[nodiscard]] UIHost &host() const { return m_host; }
-    [[nodiscard]] UITraits &traits() { return m_traits; }
-
-    [[nodiscard]] UIApplicationDelegate *delegate() const { return m_delegate; }
-    void setDelegate(UIApplicationDelegate *delegate) { m_delegate = delegate; }
+    [[nodiscard]] Host &host() const { return m_host; }
+    [[nodiscard]] Traits &traits() { return m_traits; }
 
     [[nodiscard]] UIResponder *firstResponder() const { return m_firstResponder; }
 
@@ -39,8 +35,7 @@ public:
 private:
     friend class UIResponder;
 
-    UIHost &m_host;
-    UITraits m_traits;
-    UIApplicationDelegate *m_delegate = nullptr;
+    Host &m_host;
+    Traits m_traits{DesktopAppearance{}};
     QPointer<UIResponder> m_firstResponder;
 };

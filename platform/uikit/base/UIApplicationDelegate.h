@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What the application tells its delegate. Everything on the main thread.
+/// The events of the application. Everything on the main thread.
 class UIApplicationDelegate {
 public:
     virtual ~UIApplicationDelegate() = default;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UIHost.h"
+#include "platform/uikit/base/Host.h"
 
 /// Haptic feedback of one style, felt where the machine can give it.
 class UIImpactFeedbackGenerator {

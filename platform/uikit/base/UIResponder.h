@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtQmlIntegration>
 
-/// What can have the keyboard. At most one responder of the application has it at a time.
+/// An object that can have the keyboard. At most one responder of the application has it at a time.
 class UIResponder : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,9 +17,9 @@ public:
     [[nodiscard]] virtual bool canBecomeFirstResponder() const { return false; }
     [[nodiscard]] bool isFirstResponder() const;
 
-    /// Takes the keyboard from whoever has it. Returns whether this responder has it now.
+    /// Takes the keyboard from its holder. Returns whether this responder has it now.
     Q_INVOKABLE bool becomeFirstResponder();
-    /// Gives the keyboard away, to nobody. Returns whether this responder is without it now.
+    /// Gives the keyboard up. Returns whether this responder is without it now.
     Q_INVOKABLE bool resignFirstResponder();
 
 Q_SIGNALS:

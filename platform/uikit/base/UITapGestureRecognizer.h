@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UITargetAction.h"
+#include "platform/uikit/base/TargetAction.h"
 
 /// Recognises a single tap on the view that it is added to. It never takes the touch from the
 /// controls inside the view, and leaves taps on text fields to them.
 class UITapGestureRecognizer {
 public:
-    template <class Target, class Method>
+    template <typename Target, typename Method>
     UITapGestureRecognizer(Target *target, Method action)
-        : m_action(std::make_unique<UIMethodAction<UITapGestureRecognizer, Target, Method>>(target,
-                                                                                            action))
+        : m_action(
+            std::make_unique<MethodAction<UITapGestureRecognizer, Target, Method>>(target, action))
     {
     }
 
@@ -19,5 +19,5 @@ public:
     void recognize() { m_action->send(this); }
 
 private:
-    std::unique_ptr<const UITargetAction<UITapGestureRecognizer>> m_action;
+    std::unique_ptr<const TargetAction<UITapGestureRecognizer>> m_action;
 };

@@ -14,8 +14,8 @@
 
 class UITapGestureRecognizer;
 
-/// What every view has. A view is drawn by QML, which also knows its geometry; this object holds
-/// what a screen sets and the touches that come back.
+/// The base of every view. QML draws a view and knows its geometry; this object holds the values
+/// that a screen sets, and gets the touches.
 class UIView : public UIResponder {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,6 @@ class UIView : public UIResponder {
     Q_PROPERTY(UIColor tintColor READ tintColor NOTIFY changed FINAL)
     Q_PROPERTY(CALayer layer READ layer NOTIFY changed FINAL)
     Q_PROPERTY(QString accessibilityLabel READ accessibilityLabel NOTIFY changed FINAL)
-    Q_PROPERTY(bool recognizesTaps READ recognizesTaps NOTIFY changed FINAL)
 
 public:
     UIView();
@@ -33,21 +32,21 @@ public:
     [[nodiscard]] UIColor backgroundColor() const { return m_backgroundColor; }
     void setBackgroundColor(const UIColor &color) { assign(m_backgroundColor, color); }
 
-    /// The accent of what the view holds; the system's blue unless set.
+    /// The accent of the contents; the system's blue unless set.
     [[nodiscard]] UIColor tintColor() const { return m_tintColor; }
     void setTintColor(const UIColor &color) { assign(m_tintColor, color); }
 
     [[nodiscard]] CALayer layer() const { return m_layer; }
     void setLayer(const CALayer &layer) { assign(m_layer, layer); }
 
-    /// What a screen reader says for the view; a control's own text unless set.
+    /// The name for screen readers; a control's own text unless set.
     [[nodiscard]] virtual QString accessibilityLabel() const;
     void setAccessibilityLabel(const QString &label)
     {
         assign(m_accessibilityLabel, std::optional(label));
     }
 
-    /// The view that this one is a part of; null for none. Where it stands there is QML's matter.
+    /// The view that this one is a part of; null for none. QML decides its place there.
     [[nodiscard]] UIView *superview() const { return m_superview; }
     void addSubview(UIView &view) { view.m_superview = this; }
     /// Takes the keyboard from this view or the part of it that has it. Returns whether none has
@@ -56,7 +55,7 @@ public:
 
     void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
     [[nodiscard]] bool recognizesTaps() const { return !m_recognizers.empty(); }
-    /// Runs the view's tap recognisers; for whoever draws the view.
+    /// Runs the view's tap recognisers; for the drawing of the view.
     Q_INVOKABLE void tapped();
 
 Q_SIGNALS:
@@ -65,7 +64,7 @@ Q_SIGNALS:
 
 protected:
     /// Sets a property and announces it, if it is a new value.
-    template <class T>
+    template <typename T>
     void assign(T &field, const T &value)
     {
         if (field == value) {

@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// A view's background, border and taps; what it holds is put inside:
+/// A view's background, border and taps; its contents are put inside:
 ///
 ///     UIViewView { control: root.controller.view; anchors.fill: parent; UILabelView { ... } }
 Rectangle {
@@ -11,12 +11,12 @@ Rectangle {
 
     required property UIView control
 
-    color: control.backgroundColor.drawn(Traits.dark)
+    color: control.backgroundColor.toQColor(Traits.dark)
     radius: control.layer.cornerRadius
     border.width: control.layer.borderWidth
     border.pixelAligned: false
-    border.color: control.layer.borderColor.drawn(Traits.dark)
+    border.color: control.layer.borderColor.toQColor(Traits.dark)
     clip: control.layer.masksToBounds
 
-    UITapArea { receiver: root.control }
+    TapArea { receiver: root.control }
 }

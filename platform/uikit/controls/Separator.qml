@@ -18,7 +18,7 @@ Item {
     Rectangle {
         width: root.vertical ? 1 : root.width
         height: root.vertical ? root.height : 1
-        color: Traits.separatorColor
+        color: Theme.separatorColor
         transform: Scale {
             xScale: root.vertical ? Metrics.hairline : 1
             yScale: root.vertical ? 1 : Metrics.hairline

@@ -15,7 +15,7 @@ Item {
     implicitHeight: 20
 
     Timer {
-        interval: Traits.reduceMotion ? 400 : 100
+        interval: Durations.spoke
         repeat: true
         running: root.spinning && root.visible
         onTriggered: wheel.rotation += 45
@@ -39,7 +39,7 @@ Item {
                 height: 6
                 radius: 1.25
                 antialiasing: true
-                color: Traits.secondaryLabelColor
+                color: Theme.secondaryLabelColor
                 opacity: 1 - 0.1 * spoke.index
                 transform: Rotation {
                     origin.x: 1.25

@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 
 /// A plain button: a title that dims while a finger is on it.
-UIControlArea {
+ControlArea {
     id: root
 
     required property UIButton control
@@ -29,8 +29,8 @@ UIControlArea {
         anchors.rightMargin: root.insets.right
         text: root.control.title
         textFormat: Text.PlainText
-        font: root.control.titleFont.drawn(Traits.textScale)
-        color: root.control.titleColor.drawn(Traits.dark)
+        font: root.control.titleFont.toQFont(Traits.textScale)
+        color: root.control.titleColor.toQColor(Traits.dark)
         opacity: root.control.highlighted ? Metrics.highlightedOpacity : 1
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
@@ -39,7 +39,7 @@ UIControlArea {
 
         Behavior on opacity {
             enabled: !root.control.highlighted && !Traits.reduceMotion
-            NumberAnimation { duration: 250 }
+            NumberAnimation { duration: Durations.release }
         }
     }
     FocusRing { shown: root.focusVisible }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/base/UITargetAction.h"
+#include "platform/uikit/base/TargetAction.h"
 #include "platform/uikit/base/UIView.h"
 
 #include <memory>
@@ -35,7 +35,7 @@ class UIControl : public UIView {
     Q_PROPERTY(bool highlighted READ isHighlighted NOTIFY changed FINAL)
 
 public:
-    using Action = UITargetAction<UIControl>;
+    using Action = TargetAction<UIControl>;
 
     UIControl();
     ~UIControl() override;
@@ -43,10 +43,10 @@ public:
     /// Sends `action` of `target` at these events. A pair of target and action stands once for
     /// an event, however often it is added; actions are sent in the order they were added.
     /// `action` is a member function that takes the sending control or nothing.
-    template <class Target, class Method>
+    template <typename Target, typename Method>
     void addTarget(Target *target, Method action, UIControlEvents events)
     {
-        add(std::make_shared<const UIMethodAction<UIControl, Target, Method>>(target, action),
+        add(std::make_shared<const MethodAction<UIControl, Target, Method>>(target, action),
             events);
     }
 
@@ -59,14 +59,14 @@ public:
     /// Whether a finger is on the control.
     [[nodiscard]] bool isHighlighted() const { return m_highlighted; }
 
-    // One touch, as whoever draws the control sees it. A second touch while one is tracked is
-    // ignored, and so is what follows a touch that was never begun.
+    // One touch, for the drawing of the control. A second touch while one is tracked is ignored,
+    // and so are calls for a touch that was never begun.
     void beginTracking();
     void continueTracking(bool inside);
     void endTracking(bool inside);
     void cancelTracking();
 
-    /// What a screen reader's press or the keyboard does: a whole touch inside.
+    /// Acts as a screen reader's press or the keyboard: a whole touch inside.
     Q_INVOKABLE void activate();
 
 private:

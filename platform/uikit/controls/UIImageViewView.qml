@@ -15,9 +15,9 @@ Item {
     Accessible.name: control.accessibilityLabel
     Accessible.ignored: !control.accessibilityLabel || !enabled
 
-    UIImagePicture {
+    ImagePicture {
         anchors.fill: parent
         name: root.control.image.name
-        tint: root.control.image.isTemplate ? root.control.tintColor.drawn(Traits.dark) : "transparent"
+        tint: root.control.image.isTemplate ? root.control.tintColor.toQColor(Traits.dark) : "transparent"
     }
 }

@@ -14,8 +14,8 @@ Text {
     height: text ? implicitHeight : 0
     text: control.text
     textFormat: Text.PlainText
-    font: control.font.drawn(Traits.textScale)
-    color: control.textColor.drawn(Traits.dark)
+    font: control.font.toQFont(Traits.textScale)
+    color: control.textColor.toQColor(Traits.dark)
     elide: lines > 0 ? Text.ElideRight : Text.ElideNone
     wrapMode: lines === 1 ? Text.NoWrap : Text.Wrap
     maximumLineCount: lines > 0 ? lines : 0x7fffffff

@@ -9,7 +9,7 @@
 
 namespace {
 
-bool takesLines(QObject *focused)
+bool isMultiLine(QObject *focused)
 {
     if (!focused) {
         return false;
@@ -36,29 +36,39 @@ bool KeyRepeatFilter::eventFilter(QObject *, QEvent *event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
         return false;
     }
-    const auto *press = static_cast<QKeyEvent *>(event);
-    if (isModifier(press->key())) {
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    if (isModifier(key.key())) {
         return false; // the other key that is held goes on
     }
-    if (!press->isAutoRepeat()) {
-        if (event->type() == QEvent::KeyPress) {
-            m_key = press->key();
-            m_beganInLines = takesLines(QGuiApplication::focusObject());
-        } else if (press->key() == m_key) {
-            m_key = 0;
-        }
-        return false;
+    if (key.isAutoRepeat()) {
+        return ignoresRepeat(key);
     }
-    if (press->key() != m_key) {
+    followPress(key);
+    return false;
+}
+
+void KeyRepeatFilter::followPress(const QKeyEvent &event)
+{
+    if (event.type() == QEvent::KeyPress) {
+        m_key = event.key();
+        m_beganInLines = isMultiLine(QGuiApplication::focusObject());
+    } else if (event.key() == m_key) {
+        m_key = 0;
+    }
+}
+
+bool KeyRepeatFilter::ignoresRepeat(const QKeyEvent &event) const
+{
+    if (event.key() != m_key) {
         return true;
     }
-    switch (press->key()) {
+    switch (event.key()) {
     case Qt::Key_Escape:
     case Qt::Key_Back:
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return !m_beganInLines || !takesLines(QGuiApplication::focusObject());
+        return !m_beganInLines || !isMultiLine(QGuiApplication::focusObject());
     default:
         return false;
     }

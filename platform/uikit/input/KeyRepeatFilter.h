@@ -4,21 +4,25 @@
 
 #include <QObject>
 
+class QKeyEvent;
 class QWindow;
 
-/// Keeps a held key from acting on what it was not pressed for, and Return and Escape from acting
-/// again and again: through an alert, what is below it and the alert that comes of that. In text of
-/// several lines Return repeats.
+/// Ignores the repeats of a held key that another item was pressed for, and all repeats of Return
+/// and Escape, which would go through one alert after another. In text of several lines Return
+/// repeats.
 class KeyRepeatFilter : public QObject {
     Q_OBJECT
 
 public:
-    /// Filters what `window` is sent from now on.
+    /// Filters the events of `window` from now on.
     explicit KeyRepeatFilter(QWindow &window);
 
     bool eventFilter(QObject *window, QEvent *event) override;
 
 private:
-    int m_key = 0; // that is held; 0 for none, or when something else took its press
+    void followPress(const QKeyEvent &event);
+    [[nodiscard]] bool ignoresRepeat(const QKeyEvent &event) const;
+
+    int m_key = 0; // that is held; 0 for none, or when its press was not seen
     bool m_beganInLines = false; // the key held was pressed in text of several lines
 };

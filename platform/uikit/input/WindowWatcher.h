@@ -6,17 +6,22 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// An item that sees what its window is told, before the window does, in `eventFilter`: no grab
-/// and no focus hides an event there.
+/// An item that sees the events of its window in `eventFilter`, before the window does: no grab and
+/// no focus hides an event there.
 class WindowWatcher : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
 
 protected:
+    /// Whether the item watches at all; true unless set.
+    void setWatching(bool watching);
     /// Null for none. Until `itemChange` is through it is the window that the item leaves.
     [[nodiscard]] QQuickWindow *watched() const { return m_watched; }
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
+    void watch(QQuickWindow *window);
+
+    bool m_watching = true;
     QPointer<QQuickWindow> m_watched;
 };

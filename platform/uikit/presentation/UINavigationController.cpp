@@ -6,14 +6,14 @@
 
 namespace {
 
-using Cover = UITransitionStack::Cover;
-using Motion = UITransitionStack::Motion;
+using Cover = TransitionStack::Cover;
+using Motion = TransitionStack::Motion;
 
 } // namespace
 
 UINavigationController::UINavigationController(std::shared_ptr<UIViewController> rootViewController)
 {
-    connect(&m_pages, &UITransitionStack::topChanged, this,
+    connect(&m_pages, &TransitionStack::topChanged, this,
             &UINavigationController::topViewControllerChanged);
     pushViewController(std::move(rootViewController), false);
 }
@@ -84,7 +84,7 @@ bool UINavigationController::escape()
     return leaves;
 }
 
-void UINavigationController::appearanceStateDidChange(UITransitionStack::Motion motion)
+void UINavigationController::appearanceStateDidChange(TransitionStack::Motion motion)
 {
     m_pages.setLimit(appearanceState(), motion);
 }

@@ -10,7 +10,7 @@ class UINavigationController : public UIViewController {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_CLASSINFO("view", "UIKit/UINavigationControllerView.qml")
-    Q_PROPERTY(UITransitionStack *pages READ pages CONSTANT FINAL)
+    Q_PROPERTY(TransitionStack *pages READ pages CONSTANT FINAL)
     Q_PROPERTY(UIViewController *topViewController READ topViewController NOTIFY
                    topViewControllerChanged FINAL)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY topViewControllerChanged FINAL)
@@ -31,22 +31,22 @@ public:
     /// Takes all pages but the root away.
     void popToRootViewControllerAnimated(bool animated);
 
-    [[nodiscard]] UITransitionStack *pages() { return &m_pages; }
+    [[nodiscard]] TransitionStack *pages() { return &m_pages; }
     [[nodiscard]] bool canGoBack() const;
     /// The title of the page below the top one; empty on the root.
     [[nodiscard]] QString backTitle() const;
-    /// What the back button does. Returns whether there is a way back.
+    /// Acts as the back button. Returns whether there is a way back.
     Q_INVOKABLE bool goBack();
-    /// What Escape does: the way back, or a Cancel button in its place, unless the page is not to
-    /// be left lightly (`isModalInPresentation`). Returns whether it did anything.
+    /// Acts as Escape: goes back, or triggers a Cancel button in place of the back button, unless
+    /// the page is not to be left lightly (`isModalInPresentation`). Returns whether it did either.
     Q_INVOKABLE bool escape();
 
 Q_SIGNALS:
     void topViewControllerChanged();
 
 protected:
-    void appearanceStateDidChange(UITransitionStack::Motion motion) override;
+    void appearanceStateDidChange(TransitionStack::Motion motion) override;
 
 private:
-    UITransitionStack m_pages;
+    TransitionStack m_pages;
 };

@@ -14,7 +14,7 @@ FocusScope {
     // A page that has a use for these keys takes them first.
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Escape)
-            InputMethod.commit() // what is being composed is text as well
+            InputMethod.commit() // text that is being composed counts
         event.accepted = event.key === Qt.Key_Escape ? controller.escape()
             : event.matches(StandardKey.Back) && controller.goBack()
     }
@@ -32,7 +32,7 @@ FocusScope {
         anchors.right: parent.right
         controller: root.controller
     }
-    UITransitionStackView {
+    TransitionStackView {
         id: pageStack
         anchors.top: bar.bottom
         anchors.bottom: parent.bottom
@@ -41,7 +41,7 @@ FocusScope {
         stack: root.controller.pages
         pages: true
     }
-    UIBackSwipe {
+    BackSwipe {
         anchors.top: pageStack.top
         anchors.bottom: pageStack.bottom
         anchors.left: parent.left

@@ -3,7 +3,7 @@
 #include "platform/uikit/presentation/UITabBarController.h"
 
 #include "platform/uikit/bars/UITabBarItem.h"
-#include "platform/uikit/base/UIListProperty.h"
+#include "platform/uikit/base/ListProperty.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 
 #include <utility>
@@ -40,7 +40,7 @@ void UITabBarController::setViewControllers(
     m_tabBar.setSelectedIndex(0);
     m_tabBar.setItems(items);
     Q_EMIT viewControllersChanged();
-    appearanceStateDidChange(UITransitionStack::Motion::Immediate);
+    appearanceStateDidChange(TransitionStack::Motion::Immediate);
 }
 
 void UITabBarController::setSelectedIndex(int index)
@@ -51,23 +51,23 @@ void UITabBarController::setSelectedIndex(int index)
     }
     const auto shown = m_viewControllers[static_cast<std::size_t>(selectedIndex())];
     m_tabBar.setSelectedIndex(index);
-    disappear(*shown, UITransitionStack::Motion::Immediate);
-    appearanceStateDidChange(UITransitionStack::Motion::Immediate);
+    disappear(*shown, TransitionStack::Motion::Immediate);
+    appearanceStateDidChange(TransitionStack::Motion::Immediate);
 }
 
 // The shown tab comes as far on screen as this controller has.
-void UITabBarController::appearanceStateDidChange(UITransitionStack::Motion motion)
+void UITabBarController::appearanceStateDidChange(TransitionStack::Motion motion)
 {
     if (m_viewControllers.empty()) {
         return;
     }
     const auto shown = m_viewControllers[static_cast<std::size_t>(selectedIndex())];
-    if (appearanceState() == UIAppearanceState::Disappeared) {
+    if (appearanceState() == AppearanceState::Disappeared) {
         disappear(*shown, motion);
     } else {
         beginAppearance(*shown, motion);
     }
-    if (appearanceState() == UIAppearanceState::Appeared) {
+    if (appearanceState() == AppearanceState::Appeared) {
         endAppearance(*shown, motion);
     }
 }

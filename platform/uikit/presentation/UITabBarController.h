@@ -40,7 +40,7 @@ Q_SIGNALS:
     void viewControllersChanged();
 
 protected:
-    void appearanceStateDidChange(UITransitionStack::Motion motion) override;
+    void appearanceStateDidChange(TransitionStack::Motion motion) override;
 
 private:
     void itemChosen(int index);

@@ -11,14 +11,14 @@ FocusScope {
 
     required property UITabBarController controller
 
-    property UIControllerLoader shown: null
+    property ControllerLoader shown: null
 
     focus: true
 
     Repeater {
         model: root.controller.viewControllers
 
-        UIControllerLoader {
+        ControllerLoader {
             id: tab
 
             required property UIViewController modelData
@@ -26,7 +26,7 @@ FocusScope {
 
             readonly property bool selected: index === root.controller.tabBar.selectedIndex
 
-            // Who chooses tabs by keyboard stays in the bar.
+            // The bar keeps the keyboard while tabs are chosen with it.
             function takeFocus() {
                 if (selected)
                     root.shown = tab

@@ -4,14 +4,14 @@
 
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/bars/UITabBarItem.h"
+#include "platform/uikit/base/ViewUrl.h"
 #include "platform/uikit/presentation/UINavigationController.h"
-#include "platform/uikit/presentation/UIViewUrl.h"
 
 namespace {
 
-UITransitionStack::Motion motionIf(bool animated)
+TransitionStack::Motion motionIf(bool animated)
 {
-    return animated ? UITransitionStack::Motion::Animated : UITransitionStack::Motion::Immediate;
+    return animated ? TransitionStack::Motion::Animated : TransitionStack::Motion::Immediate;
 }
 
 } // namespace
@@ -41,18 +41,18 @@ void UIViewController::viewDidLoad() {}
 void UIViewController::viewWillAppear(bool) {}
 void UIViewController::viewDidAppear(bool) {}
 void UIViewController::viewDidLeave() {}
-void UIViewController::appearanceStateDidChange(UITransitionStack::Motion) {}
+void UIViewController::appearanceStateDidChange(TransitionStack::Motion) {}
 
-UITransitionStack::Cover UIViewController::cover() const
+TransitionStack::Cover UIViewController::cover() const
 {
-    return UITransitionStack::Cover::Covers;
+    return TransitionStack::Cover::Covers;
 }
 
 const UIViewController *UIViewController::presentedEntry() const
 {
     const UIViewController *controller = this;
     while (controller->m_parent) {
-        // A page that is on its way out takes what is inside it along.
+        // A page that leaves takes the controllers inside it along.
         if (controller->m_stack && !controller->m_stack->contains(controller)) {
             return nullptr;
         }
@@ -118,33 +118,32 @@ UINavigationController *UIViewController::navigationController() const
     return nullptr;
 }
 
-void UIViewController::beginAppearance(UIViewController &controller,
-                                       UITransitionStack::Motion motion)
+void UIViewController::beginAppearance(UIViewController &controller, TransitionStack::Motion motion)
 {
-    if (controller.m_appearance != UIAppearanceState::Disappeared) {
+    if (controller.m_appearance != AppearanceState::Disappeared) {
         return;
     }
     controller.loadViewIfNeeded();
-    controller.m_appearance = UIAppearanceState::Appearing;
-    controller.viewWillAppear(motion == UITransitionStack::Motion::Animated);
+    controller.m_appearance = AppearanceState::Appearing;
+    controller.viewWillAppear(motion == TransitionStack::Motion::Animated);
     controller.appearanceStateDidChange(motion);
 }
 
-void UIViewController::endAppearance(UIViewController &controller, UITransitionStack::Motion motion)
+void UIViewController::endAppearance(UIViewController &controller, TransitionStack::Motion motion)
 {
-    if (controller.m_appearance != UIAppearanceState::Appearing) {
+    if (controller.m_appearance != AppearanceState::Appearing) {
         return;
     }
-    controller.m_appearance = UIAppearanceState::Appeared;
-    controller.viewDidAppear(motion == UITransitionStack::Motion::Animated);
+    controller.m_appearance = AppearanceState::Appeared;
+    controller.viewDidAppear(motion == TransitionStack::Motion::Animated);
     controller.appearanceStateDidChange(motion);
 }
 
-void UIViewController::disappear(UIViewController &controller, UITransitionStack::Motion motion)
+void UIViewController::disappear(UIViewController &controller, TransitionStack::Motion motion)
 {
-    if (controller.m_appearance == UIAppearanceState::Disappeared) {
+    if (controller.m_appearance == AppearanceState::Disappeared) {
         return;
     }
-    controller.m_appearance = UIAppearanceState::Disappeared;
+    controller.m_appearance = AppearanceState::Disappeared;
     controller.appearanceStateDidChange(motion);
 }

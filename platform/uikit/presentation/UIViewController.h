@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/uikit/base/UIView.h"
-#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/presentation/TransitionStack.h"
 
 #include <QPointer>
 #include <QUrl>
@@ -42,7 +42,6 @@ public:
 
     /// Runs `viewDidLoad`, unless it has run.
     Q_INVOKABLE void loadViewIfNeeded();
-    [[nodiscard]] bool isViewLoaded() const { return m_viewLoaded; }
 
     // The life cycle; an override calls the base implementation first.
     /// Once, before the controller is first drawn or appears.
@@ -57,8 +56,8 @@ public:
 
     /// True if the user must not dismiss the presented controller by a gesture.
     [[nodiscard]] virtual bool isModalInPresentation() const { return false; }
-    /// Whether the controller hides what it is presented over.
-    [[nodiscard]] virtual UITransitionStack::Cover cover() const;
+    /// Whether the controller hides those that it is presented over.
+    [[nodiscard]] virtual TransitionStack::Cover cover() const;
 
     /// Presents `controller` on top of the window, over alerts too. When this controller is
     /// leaving or not in a window, or `controller` is presented already, nothing is presented.
@@ -78,21 +77,21 @@ public:
 
     [[nodiscard]] UINavigationController *navigationController() const;
 
-    [[nodiscard]] UIAppearanceState appearanceState() const { return m_appearance; }
+    [[nodiscard]] AppearanceState appearanceState() const { return m_appearance; }
 
 protected:
     /// For a container: the appearance changed, the children follow.
-    virtual void appearanceStateDidChange(UITransitionStack::Motion motion);
+    virtual void appearanceStateDidChange(TransitionStack::Motion motion);
     /// Whether the controller is presented, not leaving, and nothing is presented over it.
     [[nodiscard]] bool isOnTop() const;
     /// For a container: `child` is now part of this controller.
     void adopt(UIViewController &child) { child.m_parent = this; }
-    static void beginAppearance(UIViewController &controller, UITransitionStack::Motion motion);
-    static void endAppearance(UIViewController &controller, UITransitionStack::Motion motion);
-    static void disappear(UIViewController &controller, UITransitionStack::Motion motion);
+    static void beginAppearance(UIViewController &controller, TransitionStack::Motion motion);
+    static void endAppearance(UIViewController &controller, TransitionStack::Motion motion);
+    static void disappear(UIViewController &controller, TransitionStack::Motion motion);
 
 private:
-    friend class UITransitionStack;
+    friend class TransitionStack;
     friend class UIWindow;
 
     /// The entry of the window's stack that this controller is, or is inside of; null when it is
@@ -103,7 +102,7 @@ private:
     std::unique_ptr<UINavigationItem> m_navigationItem;
     std::unique_ptr<UITabBarItem> m_tabBarItem;
     QPointer<UIViewController> m_parent;
-    QPointer<UITransitionStack> m_stack;
-    UIAppearanceState m_appearance = UIAppearanceState::Disappeared;
+    QPointer<TransitionStack> m_stack;
+    AppearanceState m_appearance = AppearanceState::Disappeared;
     bool m_viewLoaded = false;
 };

@@ -9,7 +9,7 @@ UIWindow::~UIWindow() = default;
 
 void UIWindow::makeKeyAndVisible()
 {
-    m_presentation.setLimit(UIAppearanceState::Appeared, UITransitionStack::Motion::Immediate);
+    m_presentation.setLimit(AppearanceState::Appeared, TransitionStack::Motion::Immediate);
 }
 
 UIViewController *UIWindow::rootViewController() const
@@ -21,6 +21,6 @@ UIViewController *UIWindow::rootViewController() const
 void UIWindow::setRootViewController(std::shared_ptr<UIViewController> controller)
 {
     Q_ASSERT(!rootViewController());
-    m_presentation.push(std::move(controller), UITransitionStack::Cover::Covers,
-                        UITransitionStack::Motion::Immediate);
+    m_presentation.push(std::move(controller), TransitionStack::Cover::Covers,
+                        TransitionStack::Motion::Immediate);
 }

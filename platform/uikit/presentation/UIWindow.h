@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/uikit/presentation/UITransitionStack.h"
+#include "platform/uikit/presentation/TransitionStack.h"
 
-/// The one window: a root controller and what is presented over it.
+/// The one window: a root controller and the controllers presented over it.
 class UIWindow : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(UITransitionStack *presentation READ presentation CONSTANT FINAL)
+    Q_PROPERTY(TransitionStack *presentation READ presentation CONSTANT FINAL)
 
 public:
     UIWindow();
@@ -23,8 +23,8 @@ public:
     void setRootViewController(std::shared_ptr<UIViewController> controller);
 
     /// The root at the bottom, the presented controllers above it.
-    [[nodiscard]] UITransitionStack *presentation() { return &m_presentation; }
+    [[nodiscard]] TransitionStack *presentation() { return &m_presentation; }
 
 private:
-    UITransitionStack m_presentation;
+    TransitionStack m_presentation;
 };

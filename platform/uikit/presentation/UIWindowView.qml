@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// The whole window: its root controller and what is presented over it.
+/// The whole window: its root controller and the controllers presented over it.
 FocusScope {
     id: root
 
@@ -15,9 +15,9 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Traits.backgroundColor
+        color: Theme.backgroundColor
     }
-    UITransitionStackView {
+    TransitionStackView {
         anchors.fill: parent
         focus: true
         stack: root.control.presentation

@@ -6,7 +6,7 @@
 
 namespace {
 
-// What is no delegate stands first.
+// Items that are no delegates stand first.
 int indexOf(const QQuickItem *item)
 {
     const QVariant index = item->property("index");

@@ -21,7 +21,7 @@ public:
     void beginRefreshing() { assign(m_refreshing, true); }
     void endRefreshing() { assign(m_refreshing, false); }
 
-    /// What the user's pull does: begins, and sends ValueChanged; nothing while it is refreshing.
+    /// Acts as the user's pull: begins, and sends ValueChanged; nothing while it is refreshing.
     Q_INVOKABLE void pull();
 
 private:

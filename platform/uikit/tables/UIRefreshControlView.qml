@@ -3,8 +3,8 @@
 import QtQuick
 import UIKit
 
-/// The spinner above the first row of a table that is pulled down or refreshes. Let go of far
-/// enough down, the table refreshes; so it does by key.
+/// The spinner above the first row of a table that is pulled down or refreshes. The table refreshes
+/// when it is pulled far enough down and let go, and by key.
 Item {
     id: root
 
@@ -34,7 +34,7 @@ Item {
     y: Math.min(0, pulled - height)
     width: parent.width
     height: Metrics.refreshControl
-    visible: control.refreshing || pulled > 0 // to come and go is what screen readers hear
+    visible: control.refreshing || pulled > 0 // screen readers hear that it comes and goes
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: control.accessibilityLabel || qsTr("Loading")
@@ -51,7 +51,7 @@ Item {
         id: moving
         target: root.list
         property: "contentY"
-        duration: Traits.reduceMotion ? 0 : 250
+        duration: Durations.refresh
         easing.type: Easing.OutQuad
     }
     Connections {

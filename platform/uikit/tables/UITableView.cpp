@@ -56,7 +56,7 @@ void UITableView::deselectRowAtIndexPath(const NSIndexPath &indexPath, bool anim
     }
 }
 
-void UITableView::chooseRowAtIndexPath(const NSIndexPath &indexPath)
+void UITableView::activateRow(const NSIndexPath &indexPath)
 {
     if (m_selected && m_selected != indexPath) {
         deselectRowAtIndexPath(*m_selected, false);
@@ -70,21 +70,16 @@ void UITableView::chooseRowAtIndexPath(const NSIndexPath &indexPath)
     }
 }
 
-void UITableView::chooseEntry(int entry)
+void UITableView::activateEntry(int entry)
 {
     if (const auto indexPath = m_entries.indexPathOf(entry)) {
-        chooseRowAtIndexPath(*indexPath);
+        activateRow(*indexPath);
     }
 }
 
 void UITableView::cellHidden(UITableViewCell *cell)
 {
     m_entries.hide(cell);
-}
-
-UIFont UITableView::sectionFont()
-{
-    return UIFont::preferredFontForTextStyle(UIFontTextStyle::Footnote);
 }
 
 std::shared_ptr<UITableViewCell> UITableView::cellToShow(const NSIndexPath &indexPath)
@@ -105,7 +100,7 @@ void UITableView::recycle(std::shared_ptr<UITableViewCell> cell)
         pooled->second.push_back(std::move(cell));
         return;
     }
-    // What drew the cell goes by a deferred delete that is still to be posted.
+    // The drawing of the cell goes by a deferred delete that is still to be posted.
     auto release = [cell = std::move(cell)] {};
     QMetaObject::invokeMethod(this, std::move(release), Qt::QueuedConnection);
 }

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "platform/uikit/base/Make.h"
+#include "platform/uikit/tables/TableEntries.h"
 #include "platform/uikit/tables/UIRefreshControl.h"
 #include "platform/uikit/tables/UITableViewCell.h"
 #include "platform/uikit/tables/UITableViewDataSource.h"
 #include "platform/uikit/tables/UITableViewDelegate.h"
-#include "platform/uikit/tables/UITableViewEntries.h"
 
 #include <functional>
 #include <map>
@@ -21,9 +21,8 @@ class UITableView : public UIView {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to its controller")
-    Q_PROPERTY(UITableViewEntries *entries READ entries CONSTANT FINAL)
+    Q_PROPERTY(TableEntries *entries READ entries CONSTANT FINAL)
     Q_PROPERTY(bool drawsSeparators READ drawsSeparators NOTIFY changed FINAL)
-    Q_PROPERTY(UIFont sectionFont READ sectionFont CONSTANT FINAL)
     Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed FINAL)
 
 public:
@@ -32,7 +31,6 @@ public:
 
     [[nodiscard]] UITableViewStyle style() const { return m_style; }
 
-    [[nodiscard]] UITableViewCellSeparatorStyle separatorStyle() const { return m_separatorStyle; }
     void setSeparatorStyle(UITableViewCellSeparatorStyle style) { assign(m_separatorStyle, style); }
     [[nodiscard]] bool drawsSeparators() const;
 
@@ -47,7 +45,7 @@ public:
     [[nodiscard]] UIRefreshControl *refreshControl() const { return m_refreshControl.get(); }
 
     /// Cells asked for by `reuseIdentifier` are of the class `Cell` from now on.
-    template <class Cell>
+    template <typename Cell>
     void registerClass(const QString &reuseIdentifier)
     {
         m_factories[reuseIdentifier] = [reuseIdentifier]() -> std::shared_ptr<UITableViewCell> {
@@ -57,7 +55,7 @@ public:
 
     /// A cell that left the screen, prepared for reuse, or else a new one of the registered class;
     /// null when nothing is registered, or when the cell is no `Cell`.
-    template <class Cell = UITableViewCell>
+    template <typename Cell = UITableViewCell>
     [[nodiscard]] std::shared_ptr<Cell> dequeueReusableCellWithIdentifier(const QString &identifier)
     {
         return std::dynamic_pointer_cast<Cell>(dequeue(identifier));
@@ -72,14 +70,13 @@ public:
     /// Nothing happens to a row that is not selected.
     void deselectRowAtIndexPath(const NSIndexPath &indexPath, bool animated);
 
-    /// What a tap on a row does: selects it, and tells the delegate.
-    void chooseRowAtIndexPath(const NSIndexPath &indexPath);
+    /// Acts as a tap on a row: selects it, and tells the delegate.
+    void activateRow(const NSIndexPath &indexPath);
 
-    // For whoever draws the table.
-    [[nodiscard]] UITableViewEntries *entries() { return &m_entries; }
-    Q_INVOKABLE void chooseEntry(int entry);
+    // For the drawing of the table.
+    [[nodiscard]] TableEntries *entries() { return &m_entries; }
+    Q_INVOKABLE void activateEntry(int entry);
     Q_INVOKABLE void cellHidden(UITableViewCell *cell);
-    [[nodiscard]] static UIFont sectionFont();
 
     /// The cell for a row that comes on screen.
     [[nodiscard]] std::shared_ptr<UITableViewCell> cellToShow(const NSIndexPath &indexPath);
@@ -99,9 +96,9 @@ private:
     UITableViewDataSource *m_dataSource = nullptr;
     UITableViewDelegate *m_delegate = nullptr;
     std::map<QString, Factory> m_factories;
-    // By identifier; none for one that nobody has asked for yet.
+    // By identifier; there is a pool for those that were asked for.
     std::map<QString, std::vector<std::shared_ptr<UITableViewCell>>> m_pool;
     std::optional<NSIndexPath> m_selected;
     std::shared_ptr<UIRefreshControl> m_refreshControl;
-    UITableViewEntries m_entries;
+    TableEntries m_entries;
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/tables/UITableViewCell.h"
 
-#include "platform/uikit/presentation/UIViewUrl.h"
+#include "platform/uikit/base/ViewUrl.h"
 
 UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier)
     : m_style(style), m_reuseIdentifier(reuseIdentifier)
@@ -29,7 +29,7 @@ void UITableViewCell::prepareForReuse()
 
 void UITableViewCell::setSelected(bool selected, bool animated)
 {
-    assign(m_animatesSelection, animated); // known before what it is about
+    assign(m_animatesSelection, animated); // before the change that it is about
     assign(m_selected, selected);
 }
 
@@ -44,17 +44,7 @@ void UITableViewCell::setHighlighted(bool highlighted)
 
 bool UITableViewCell::drawsSelection() const
 {
-    return selects() && (m_selected || m_highlighted);
-}
-
-UIColor UITableViewCell::selectionColor()
-{
-    static const UIColor color = UIColor::initWithDynamicProvider([](const auto &traits) {
-        return traits.userInterfaceStyle == UIUserInterfaceStyle::Dark
-            ? UIColor::colorWithRed(58 / 255.0, 58 / 255.0, 60 / 255.0, 1)
-            : UIColor::colorWithRed(209 / 255.0, 209 / 255.0, 214 / 255.0, 1);
-    });
-    return color;
+    return isSelectable() && (m_selected || m_highlighted);
 }
 
 QString UITableViewCell::accessibilityLabel() const

@@ -12,7 +12,7 @@ enum class UITableViewCellStyle { Default = 0, Subtitle = 3 };
 /// Whether a cell shows that it is pressed or selected.
 enum class UITableViewCellSelectionStyle { None, Default };
 
-/// What a row of a table shows. Made by `make`; a table hands it from row to row.
+/// The contents of a row of a table. Made by `make`; a table hands it from row to row.
 /// The file that draws it is named by its class: Q_CLASSINFO("view", "Views/HeaderCellView.qml"),
 /// inherited by subclasses. The file's root has a `required property <class> control` and the
 /// implicit height that a row of automatic height gets.
@@ -26,9 +26,8 @@ class UITableViewCell : public UIView {
     Q_PROPERTY(UILabel *textLabel READ textLabel CONSTANT FINAL)
     Q_PROPERTY(UILabel *detailTextLabel READ detailTextLabel CONSTANT FINAL)
     Q_PROPERTY(UIImageView *imageView READ imageView CONSTANT FINAL)
-    Q_PROPERTY(UIColor selectionColor READ selectionColor CONSTANT FINAL)
     Q_PROPERTY(bool drawsSelection READ drawsSelection NOTIFY changed FINAL)
-    Q_PROPERTY(bool selects READ selects NOTIFY changed FINAL)
+    Q_PROPERTY(bool selectable READ isSelectable NOTIFY changed FINAL)
     Q_PROPERTY(bool animatesSelection READ animatesSelection NOTIFY changed FINAL)
 
 public:
@@ -52,7 +51,7 @@ public:
     [[nodiscard]] UITableViewCellSelectionStyle selectionStyle() const { return m_selectionStyle; }
     void setSelectionStyle(UITableViewCellSelectionStyle style) { assign(m_selectionStyle, style); }
     /// Whether choosing the row is of any use.
-    [[nodiscard]] bool selects() const
+    [[nodiscard]] bool isSelectable() const
     {
         return m_selectionStyle != UITableViewCellSelectionStyle::None;
     }
@@ -69,7 +68,6 @@ public:
     [[nodiscard]] bool drawsSelection() const;
     /// Whether the last change of the selection is to be seen as a transition.
     [[nodiscard]] bool animatesSelection() const { return m_animatesSelection; }
-    [[nodiscard]] static UIColor selectionColor();
 
     /// The labels' texts unless set.
     [[nodiscard]] QString accessibilityLabel() const override;

@@ -29,7 +29,7 @@ Item {
         anchors.leftMargin: Metrics.margin
         anchors.rightMargin: Metrics.margin
         anchors.verticalCenter: parent.verticalCenter
-        spacing: detail.text ? 3 : 0
+        spacing: detail.text ? Metrics.lineSpacing : 0
 
         UILabelView {
             objectName: "textLabel"

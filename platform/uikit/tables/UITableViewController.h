@@ -5,8 +5,8 @@
 #include "platform/uikit/presentation/UIViewController.h"
 #include "platform/uikit/tables/UITableView.h"
 
-/// A screen that is a table, of which it is the data source and the delegate. Subclasses override
-/// what they show; unless they do, the table has one section without rows.
+/// A screen that is a table, and its data source and delegate. Subclasses override the functions of
+/// those that they need; by default the table has one section without rows.
 class UITableViewController : public UIViewController,
                               public UITableViewDataSource,
                               public UITableViewDelegate {

@@ -11,8 +11,8 @@
 
 class UITableViewCell;
 
-/// What a table shows. It is asked for counts and titles when the table is first drawn and at each
-/// `reloadData`, and for the cell of a row whenever that row comes on screen.
+/// The contents of a table. It is asked for counts and titles when the table is first drawn and at
+/// each `reloadData`, and for the cell of a row whenever that row comes on screen.
 class UITableViewDataSource {
 public:
     virtual ~UITableViewDataSource() = default;
@@ -22,16 +22,9 @@ public:
     /// The row's cell, dequeued or made; must not be null.
     [[nodiscard]] virtual std::shared_ptr<UITableViewCell>
     cellForRowAtIndexPath(const NSIndexPath &indexPath) = 0;
-    /// The text above a section; absent for none.
-    [[nodiscard]] virtual std::optional<QString> titleForHeaderInSection(int section) const;
     /// The text below a section; absent for none.
     [[nodiscard]] virtual std::optional<QString> titleForFooterInSection(int section) const;
 };
-
-inline std::optional<QString> UITableViewDataSource::titleForHeaderInSection(int /*section*/) const
-{
-    return std::nullopt;
-}
 
 inline std::optional<QString> UITableViewDataSource::titleForFooterInSection(int /*section*/) const
 {

@@ -7,7 +7,7 @@
 /// The height of a row that its cell decides.
 inline constexpr double UITableViewAutomaticDimension = -1;
 
-/// How a table looks and what its rows do. Heights are in points.
+/// The heights of a table, in points, and the actions of its rows.
 class UITableViewDelegate {
 public:
     virtual ~UITableViewDelegate() = default;
@@ -16,8 +16,8 @@ public:
     {
         return UITableViewAutomaticDimension;
     }
-    /// The height of what follows a section; for 0 or less the platform's spacing, or what the
-    /// footer's title needs.
+    /// The height of the footer of a section; 0 or less stands for the platform's spacing, or for
+    /// the height that the footer's title needs.
     [[nodiscard]] virtual double heightForFooterInSection(int /*section*/) const
     {
         return UITableViewAutomaticDimension;

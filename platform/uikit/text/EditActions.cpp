@@ -14,7 +14,7 @@ int selected(const QObject &editor)
     return number(editor, "selectionEnd") - number(editor, "selectionStart");
 }
 
-bool canTake(const QObject &editor, bool secret)
+bool canCopy(const QObject &editor, bool secret)
 {
     return !secret && selected(editor) > 0;
 }
@@ -26,8 +26,8 @@ struct Action {
 };
 
 constexpr Action actions[] = {
-    {QT_TRANSLATE_NOOP("EditActions", "Cut"), "cut", canTake},
-    {QT_TRANSLATE_NOOP("EditActions", "Copy"), "copy", canTake},
+    {QT_TRANSLATE_NOOP("EditActions", "Cut"), "cut", canCopy},
+    {QT_TRANSLATE_NOOP("EditActions", "Copy"), "copy", canCopy},
     {QT_TRANSLATE_NOOP("EditActions", "Paste"), "paste",
      [](const QObject &editor, bool) { return editor.property("canPaste").toBool(); }},
     {QT_TRANSLATE_NOOP("EditActions", "Select All"), "selectAll",
@@ -56,7 +56,7 @@ void EditActions::perform(const QString &title)
     }
 }
 
-void EditActions::point(int position, bool selects)
+void EditActions::point(int position, bool select)
 {
     m_editor->forceActiveFocus();
     if (selected(*m_editor) > 0 && position >= number(*m_editor, "selectionStart")
@@ -64,7 +64,7 @@ void EditActions::point(int position, bool selects)
         return;
     }
     m_editor->setProperty("cursorPosition", position);
-    if (!selects) {
+    if (!select) {
         return;
     }
     m_editor

@@ -4,7 +4,7 @@
 
 #include <QQuickItem>
 
-/// What can be done with the text of a TextInput or TextEdit.
+/// The actions on the text of a TextInput or TextEdit.
 class EditActions : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -13,13 +13,13 @@ class EditActions : public QObject {
     Q_PROPERTY(bool secret MEMBER m_secret FINAL)
 
 public:
-    /// The titles of what can be done now.
+    /// The titles of the actions that are possible now.
     Q_INVOKABLE [[nodiscard]] QStringList offered() const;
-    /// Does what has that title.
+    /// Performs the action of that title.
     Q_INVOKABLE void perform(const QString &title);
     /// Gives the editor the keyboard, with the insertion mark at `position`, unless that is
-    /// selected already. The word there is selected if `selects`, or all of a secret.
-    Q_INVOKABLE void point(int position, bool selects);
+    /// selected already. With `select` the word there is selected, or all of a secret.
+    Q_INVOKABLE void point(int position, bool select);
 
 private:
     QPointer<QQuickItem> m_editor;

@@ -5,15 +5,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import UIKit
 
-/// A menu over the whole window, of what can be done with a text. A press outside closes it, and
-/// so does any key that does not move through it.
-KeyTaker {
+/// A menu over the whole window, of the actions on a text. A press outside closes it, and so does
+/// any key that does not move through it.
+KeyGrabber {
     id: root
 
-    /// Opened the menu, closes it, and does what is chosen.
+    /// Opened the menu, closes it, and performs the chosen action.
     required property EditMenuTrigger trigger
     required property list<string> titles
-    /// What the menu stands above, or below where there is no room; in the window.
+    /// The place in the window that the menu stands above, or below where there is no room.
     required property rect place
 
     readonly property real room: height - Metrics.covered(height)
@@ -65,10 +65,10 @@ KeyTaker {
         width: Math.min(Math.max(Metrics.menuWidth, rows.widest), root.width - Metrics.margin)
         height: rows.height
         radius: Metrics.alertRadius
-        color: Traits.alertColor
+        color: Theme.alertColor
         border.width: Metrics.hairline
         border.pixelAligned: false
-        border.color: Traits.separatorColor
+        border.color: Theme.separatorColor
 
         Accessible.role: Accessible.PopupMenu
         Accessible.name: qsTr("Edit")

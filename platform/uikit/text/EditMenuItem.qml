@@ -4,7 +4,7 @@ import QtQuick
 import UIKit
 
 /// One line of a menu, darker while a finger or the keyboard is on it.
-UIPressArea {
+PressArea {
     id: root
 
     required property string title
@@ -12,7 +12,7 @@ UIPressArea {
     required property bool current
 
     implicitWidth: label.implicitWidth + 2 * Metrics.margin
-    implicitHeight: Math.max(Metrics.row, Math.ceil(label.implicitHeight) + 16)
+    implicitHeight: Math.max(Metrics.row, Math.ceil(label.implicitHeight) + Metrics.buttonPadding)
     activeFocusOnTab: false
 
     Accessible.role: Accessible.MenuItem
@@ -22,10 +22,10 @@ UIPressArea {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: 4
+        anchors.margins: Metrics.focusRingMargin
         visible: root.highlighted || root.current
-        radius: Metrics.alertRadius - 4
-        color: Traits.pressedAlertColor
+        radius: Metrics.alertRadius - Metrics.focusRingMargin
+        color: Theme.pressedAlertColor
     }
     Text {
         id: label
@@ -34,8 +34,8 @@ UIPressArea {
         anchors.rightMargin: Metrics.margin
         text: root.title
         textFormat: Text.PlainText
-        font: Traits.bodyFont
-        color: Traits.labelColor
+        font: Theme.bodyFont
+        color: Theme.labelColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter

@@ -4,8 +4,8 @@ import QtQuick
 import UIKit
 
 /// Put into a TextInput or TextEdit: a long press, the right mouse button and the menu key open
-/// its menu. A finger gives it the keyboard by a tap, which no scrolling is, and selects by a long
-/// press or a double tap.
+/// its menu. A tap gives it the keyboard, a finger that scrolls does not; a long press and a double
+/// tap select.
 Item {
     id: root
 
@@ -16,8 +16,8 @@ Item {
     readonly property TextEdit lines: parent as TextEdit
     readonly property rect mark: line?.cursorRectangle ?? lines?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
 
-    function point(at: point, selects: bool) {
-        actions.point(line?.positionAt(at.x, at.y) ?? lines?.positionAt(at.x, at.y) ?? 0, selects)
+    function point(at: point, select: bool) {
+        actions.point(line?.positionAt(at.x, at.y) ?? lines?.positionAt(at.x, at.y) ?? 0, select)
     }
     function open(place: rect) {
         const titles = actions.offered()
@@ -48,7 +48,7 @@ Item {
     Connections {
         target: root.parent
         function onTextChanged() {
-            root.close() // what it offers is no longer what can be done
+            root.close() // other actions are possible now
         }
     }
     PointHandler {
@@ -57,7 +57,7 @@ Item {
     }
     TapHandler {
         acceptedDevices: PointerDevice.TouchScreen
-        // A touch may outlive its page: what covers that has the keyboard.
+        // A touch may outlive its page: the controller that covers the page has the keyboard.
         onTapped: {
             if (!root.enabled)
                 return

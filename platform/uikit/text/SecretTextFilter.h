@@ -4,8 +4,8 @@
 
 #include <QQuickItem>
 
-/// Keeps the text of an editor from input methods, which are told what stands around the insertion
-/// mark of every other one: of a secret they hear as many bullets.
+/// Keeps the text of an editor from input methods. Of other editors they are told the text around
+/// the insertion mark; of a secret they are told as many bullets.
 class SecretTextFilter : public QObject {
     Q_OBJECT
     QML_ELEMENT

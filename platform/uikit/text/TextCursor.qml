@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// The insertion mark of what edits text: blinks at the desktop's pace, and stands still at each move.
+/// The insertion mark of a text editor: blinks at the desktop's pace, and stands still at each move.
 Rectangle {
     id: root
 
@@ -16,7 +16,7 @@ Rectangle {
     width: 2
     radius: 1
     visible: parent.activeFocus
-    color: Traits.accentColor
+    color: Theme.accentColor
     opacity: blink.lit ? 1 : 0
 
     Timer {

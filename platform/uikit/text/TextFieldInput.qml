@@ -3,15 +3,15 @@
 import QtQuick
 import UIKit
 
-/// Where a field's text is edited.
+/// The editor of a field's text.
 TextInput {
     id: root
 
     required property UITextField control
     property real textScale: Traits.textScale
 
-    // What is edited keeps its line breaks, which are drawn as blanks: to set it ends what is being
-    // composed, the selection and the undo history.
+    // The edited text keeps its line breaks, which are drawn as blanks: setting the text would end
+    // the composing, the selection and the undo history.
     function show() {
         if (!control.shows(text))
             text = control.text
@@ -19,9 +19,9 @@ TextInput {
 
     verticalAlignment: TextInput.AlignVCenter
     clip: true
-    font: control.font.drawn(textScale)
-    color: control.textColor.drawn(Traits.dark)
-    selectionColor: Qt.alpha(Traits.accentColor, 0.3)
+    font: control.font.toQFont(textScale)
+    color: control.textColor.toQColor(Traits.dark)
+    selectionColor: Theme.selectedTextColor
     selectedTextColor: color
     selectByMouse: !menu.touched
     activeFocusOnPress: !menu.touched
@@ -31,8 +31,8 @@ TextInput {
     inputMethodHints: control.inputMethodHints
     cursorDelegate: TextCursor {}
 
-    // After the item, which has put what was being composed in place; and no further, or whatever
-    // the field stands in would take Return as well.
+    // After the item, which commits the text that is being composed. Accepted, or the page of the
+    // field would take Return as well.
     Keys.priority: Keys.AfterItem
     Keys.onReturnPressed: event => event.accepted = true
     Keys.onEnterPressed: event => event.accepted = true

@@ -3,8 +3,8 @@
 import QtQuick
 import UIKit
 
-/// Put into an item that edits text: the item has the keyboard while `responder` is first
-/// responder, whichever of the two comes first.
+/// Put into an item that edits text: gives the item the keyboard when `responder` becomes first
+/// responder, and the other way round.
 Item {
     id: root
 

@@ -15,7 +15,7 @@ QString inOneLine(QString text)
     return text;
 }
 
-/// Text of its own, shared with nobody.
+/// A copy that shares no memory with `text`.
 std::optional<QString> copyOf(const std::optional<QString> &text)
 {
     return text ? std::optional(QString(text->constData(), text->size())) : std::nullopt;
@@ -23,7 +23,7 @@ std::optional<QString> copyOf(const std::optional<QString> &text)
 
 void overwrite(std::optional<QString> &text)
 {
-    // What somebody else holds as well is not this field's to change.
+    // Text that is shared belongs to its other holders as well.
     if (text && text->isDetached()) {
         explicit_bzero(text->data(), static_cast<size_t>(text->size()) * sizeof(QChar));
     }

@@ -27,12 +27,12 @@ public:
     enum class BorderStyle { None, RoundedRect };
     Q_ENUM(BorderStyle)
 
-    /// Empty until something is typed or set; nothing at all only when set so.
+    /// Empty until a text is typed or set; nil only when set so.
     [[nodiscard]] std::optional<QString> text() const { return m_text; }
     /// Sets the text without sending EditingChanged.
     void setText(const std::optional<QString> &text);
-    /// Empties the field and overwrites what it held, for no secret is to outlive its use. Secure
-    /// text is overwritten whenever it is replaced, too.
+    /// Empties the field and overwrites its text, for no secret is to outlive its use. Secure text
+    /// is overwritten whenever it is replaced, too.
     void erase();
 
     [[nodiscard]] QString placeholder() const { return m_placeholder; }
@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] BorderStyle borderStyle() const { return m_borderStyle; }
     void setBorderStyle(BorderStyle style) { assign(m_borderStyle, style); }
-    /// What the text stands on: the view's background, or a rounded rectangle's own.
+    /// The ground of the text: the view's background, or a rounded rectangle's own.
     [[nodiscard]] UIColor fillColor() const;
 
     /// The blank before the text, in points, shown always.
@@ -68,12 +68,12 @@ public:
     /// The label set, or else the placeholder; never the text.
     [[nodiscard]] QString accessibilityLabel() const override;
 
-    // What the user does, as whoever draws the field sees it.
+    // The user's actions, for the drawing of the field.
     /// Whether the text is this one, its line breaks made blanks.
     Q_INVOKABLE [[nodiscard]] bool shows(const QString &text) const;
-    /// The text is now this one, its line breaks made blanks: EditingChanged if that is news.
+    /// The text is now this one, its line breaks made blanks: sends EditingChanged if it changed.
     Q_INVOKABLE void edit(const QString &text);
-    /// Return: EditingDidEndOnExit.
+    /// Return: sends EditingDidEndOnExit.
     Q_INVOKABLE void returnPressed();
 
 protected:

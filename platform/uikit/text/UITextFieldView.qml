@@ -13,20 +13,20 @@ Rectangle {
     readonly property real inset: rounded ? Metrics.fieldInset : control.leftViewWidth
 
     implicitWidth: input.implicitWidth + 2 * inset
-    implicitHeight: Math.ceil(line.height) + 12
-    color: control.fillColor.drawn(Traits.dark)
+    implicitHeight: Math.ceil(line.height) + Metrics.fieldPadding
+    color: control.fillColor.toQColor(Traits.dark)
     radius: rounded ? Metrics.fieldRadius : control.layer.cornerRadius
     border.width: rounded ? Metrics.hairline : control.layer.borderWidth
     border.pixelAligned: false
-    border.color: rounded ? Traits.separatorColor : control.layer.borderColor.drawn(Traits.dark)
+    border.color: rounded ? Theme.separatorColor : control.layer.borderColor.toQColor(Traits.dark)
 
     FontMetrics {
         id: line
-        font: root.control.font.drawn(Traits.textScale)
+        font: root.control.font.toQFont(Traits.textScale)
     }
     TextFieldInput {
         id: input
-        // What screen readers find here, who would find the secret itself otherwise.
+        // Screen readers read this property, and would read the secret itself otherwise.
         readonly property string text: control.secureTextEntry ? "" : displayText
 
         anchors.fill: parent
@@ -49,8 +49,8 @@ Rectangle {
             text: root.control.placeholder
             textFormat: Text.PlainText
             font: input.font
-            color: root.control.placeholderColor.isNil() ? Traits.placeholderColor
-                                                         : root.control.placeholderColor.drawn(Traits.dark)
+            color: root.control.placeholderColor.isNil() ? Theme.secondaryLabelColor
+                                                         : root.control.placeholderColor.toQColor(Traits.dark)
             elide: Text.ElideRight
             horizontalAlignment: input.effectiveHorizontalAlignment
             LayoutMirroring.enabled: false // mirrored it is already

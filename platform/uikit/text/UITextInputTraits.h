@@ -9,7 +9,7 @@ enum class UITextAutocapitalizationType { None, Sentences };
 enum class UITextAutocorrectionType { Default, No, Yes };
 enum class UITextContentType { Unspecified, Name, EmailAddress, Password, NewPassword };
 
-/// What a text field asks of the keyboard, on screen or not.
+/// The keyboard that a text field asks for, on screen or not.
 struct UITextInputTraits {
     UIKeyboardType keyboardType = UIKeyboardType::Default;
     UITextAutocapitalizationType autocapitalizationType = UITextAutocapitalizationType::Sentences;
@@ -17,7 +17,7 @@ struct UITextInputTraits {
     UITextContentType textContentType = UITextContentType::Unspecified;
     bool secureTextEntry = false;
 
-    /// The same, as the input method is told it.
+    /// The same as hints for Qt's input methods.
     [[nodiscard]] Qt::InputMethodHints inputMethodHints() const;
 
     bool operator==(const UITextInputTraits &) const = default;

@@ -34,7 +34,7 @@ public:
     /// The label set, or else the placeholder; never the text.
     [[nodiscard]] QString accessibilityLabel() const override;
 
-    /// What the user does, as whoever draws the view sees it: the text is now this one.
+    /// Acts as an edit by the user, for the drawing of the view: the text is now this one.
     Q_INVOKABLE void edit(const QString &text);
 
 Q_SIGNALS:

@@ -3,8 +3,8 @@
 import QtQuick
 import UIKit
 
-/// Text of several lines to edit, as high as it needs. A finger that moves scrolls what the view
-/// stands in; only the mouse selects by moving.
+/// Text of several lines to edit, as high as it needs. A finger that moves scrolls the page of the
+/// view; only the mouse selects by moving.
 Item {
     id: root
 
@@ -18,9 +18,9 @@ Item {
         text: root.control.text
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
-        font: Traits.bodyFont
-        color: Traits.labelColor
-        selectionColor: Qt.alpha(Traits.accentColor, 0.3)
+        font: Theme.bodyFont
+        color: Theme.labelColor
+        selectionColor: Theme.selectedTextColor
         selectedTextColor: color
         selectByMouse: !menu.touched
         activeFocusOnPress: !menu.touched
@@ -52,7 +52,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font: input.font
-        color: Traits.placeholderColor
+        color: Theme.secondaryLabelColor
         horizontalAlignment: input.effectiveHorizontalAlignment
         LayoutMirroring.enabled: false // mirrored it is already
         Accessible.ignored: true

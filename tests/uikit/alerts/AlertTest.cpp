@@ -3,6 +3,7 @@
 #include "harness/TestRunner.h"
 #include "harness/WindowStage.h"
 #include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/appearance/Theme.h"
 #include "tests/uikit/TestPage.h"
 
 using namespace Qt::StringLiterals;
@@ -122,17 +123,17 @@ private Q_SLOTS:
         Stage stage({}, reset);
         stage.settle();
         // The page below is dimmed and not touched.
-        stage.tap(stage.item(u"UITransitionStackView"_s)->childItems().value(0));
+        stage.tap(stage.item(u"TransitionStackView"_s)->childItems().value(0));
         QCOMPARE(stage.triggered, QString());
-        const UITraits &traits = stage.application.traits();
+        const Theme theme;
         const int dimmed = stage.grab().pixelColor(5, 5).lightness();
-        QVERIFY(dimmed < traits.backgroundColor().lightness());
+        QVERIFY(dimmed < theme.backgroundColor().lightness());
 
         QQuickItem *button = stage.items(u"UIAlertActionView"_s).value(1);
         const QRect area = TestWindow::rect(button).toRect();
         QTest::mousePress(&stage.view(), Qt::LeftButton, {}, area.center());
         const QImage pressed = stage.grab();
-        const QColor highlight = traits.pressedAlertColor();
+        const QColor highlight = theme.pressedAlertColor();
         QCOMPARE(pressed.pixelColor(area.left() + 2, area.bottom() - 1), highlight);
         QVERIFY(pressed.pixelColor(area.right() - 1, area.bottom() - 1) != highlight); // round
         QTest::mouseRelease(&stage.view(), Qt::LeftButton, {}, area.center());

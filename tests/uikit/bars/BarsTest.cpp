@@ -22,7 +22,7 @@ struct Shell : WindowStage {
     std::shared_ptr<UINavigationController> navigation = make<UINavigationController>(home);
     std::shared_ptr<UITabBarController> tabs = make<UITabBarController>();
 
-    explicit Shell(const UIAppearance &appearance = {}) : WindowStage(appearance)
+    explicit Shell(const DesktopAppearance &appearance = {}) : WindowStage(appearance)
     {
         const auto account = make<TestPage>(u"Account"_s);
         const UIImage mark = UIImage::imageNamed(u"testMark"_s);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         const double second = (size.width() / 2.0) - (mirrored ? 160 : 0);
         QCOMPARE(TestWindow::rect(items.value(1)), QRectF(second, tabs.top(), 160, 49));
         // Without a title the picture has the middle.
-        const QRectF picture = TestWindow::rect(shell.item(u"UIImagePicture"_s));
+        const QRectF picture = TestWindow::rect(shell.item(u"ImagePicture"_s));
         QCOMPARE(picture.size(), QSizeF(25, 25));
         const QPointF off = picture.center() - TestWindow::rect(items.value(0)).center();
         QVERIFY(off.manhattanLength() <= 1);
@@ -93,7 +93,7 @@ private Q_SLOTS:
         form->navigationItem()->setRightBarButtonItem(make<UIBarButtonItem>(
             u"Submit"_s, UIBarButtonItemStyle::Plain, form.get(), &TestPage::loadViewIfNeeded));
         shell.navigation->pushViewController(form, false);
-        QVERIFY(!shell.item(u"UIBackButtonView"_s)->isVisible());
+        QVERIFY(!shell.item(u"BackButton"_s)->isVisible());
         QList<QQuickItem *> buttons = shell.items(u"UIBarButtonItemView"_s);
         if (mirrored) {
             buttons.swapItemsAt(0, 1);
@@ -113,7 +113,7 @@ private Q_SLOTS:
         }
 
         form->navigationItem()->setLeftBarButtonItem({});
-        const QRectF back = TestWindow::rect(shell.item(u"UIBackButtonView"_s));
+        const QRectF back = TestWindow::rect(shell.item(u"BackButton"_s));
         QVERIFY(back.width() >= 44 && back.height() == 44);
         QVERIFY(!TestWindow::rect(textOf(shell.item(u"UINavigationBarView"_s))).intersects(back));
     }

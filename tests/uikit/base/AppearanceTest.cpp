@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "harness/RecordingHost.h"
 #include "harness/TestRunner.h"
+#include "platform/uikit/appearance/Theme.h"
+#include "platform/uikit/appearance/UIColor.h"
 #include "platform/uikit/base/UIApplication.h"
 
 #include <QSignalSpy>
@@ -36,32 +38,32 @@ class AppearanceTest : public QObject {
 
     RecordingHost m_host;
     UIApplication m_application{m_host};
-    UITraits &m_traits = m_application.traits();
+    Traits &m_traits = m_application.traits();
 
 private Q_SLOTS:
     void textsStandOut()
     {
+        const Theme theme;
         for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
-            m_traits.setOverride(UIAppearance{.style = style});
+            m_traits.setOverride(DesktopAppearance{.style = style});
             const QColor row =
-                UIColor::secondarySystemGroupedBackgroundColor().drawn(m_traits.isDark());
-            const QColor pressed = m_traits.pressedAlertColor();
-            for (const QColor &ground : {row, m_traits.backgroundColor(), m_traits.barColor(),
-                                         m_traits.alertColor(), pressed}) {
-                QVERIFY(contrast(m_traits.labelColor(), ground) >= 4.5);
-                QVERIFY(contrast(m_traits.accentColor(), ground) >= 4.5);
-                QVERIFY(ground == pressed
-                        || contrast(m_traits.secondaryLabelColor(), ground) >= 4.5);
+                UIColor::secondarySystemGroupedBackgroundColor().toQColor(m_traits.isDark());
+            const QColor pressed = theme.pressedAlertColor();
+            for (const QColor &ground :
+                 {row, theme.backgroundColor(), theme.barColor(), theme.alertColor(), pressed}) {
+                QVERIFY(contrast(theme.labelColor(), ground) >= 4.5);
+                QVERIFY(contrast(theme.accentColor(), ground) >= 4.5);
+                QVERIFY(ground == pressed || contrast(theme.secondaryLabelColor(), ground) >= 4.5);
             }
             // A picture, which the eye needs less for.
-            QVERIFY(contrast(m_traits.unselectedTabColor(), m_traits.barColor()) >= 3);
+            QVERIFY(contrast(theme.unselectedTabColor(), theme.barColor()) >= 3);
         }
     }
 
     void overrideHoldsOverTheDesktop()
     {
-        m_traits.setOverride(UIAppearance{UIUserInterfaceStyle::Light, 1, false});
-        const QSignalSpy changed(&m_traits, &UITraits::changed);
+        m_traits.setOverride(DesktopAppearance{UIUserInterfaceStyle::Light, 1, false});
+        const QSignalSpy changed(&m_traits, &Traits::changed);
         m_traits.setDesktopAppearance({UIUserInterfaceStyle::Dark, 1.5, true});
         QVERIFY(!m_traits.isDark() && !m_traits.reduceMotion() && m_traits.textScale() < 1.5);
         m_traits.setOverride(std::nullopt);

@@ -28,6 +28,6 @@ UIViewView {
         UIButtonView { objectName: "link"; x: 20; y: 204; width: 100; height: 30; control: root.link }
         UIImageViewView { objectName: "picture"; x: 20; y: 254; width: 80; height: 40; control: root.picture }
         UIActivityIndicatorViewView { objectName: "spinner"; x: 20; y: 314; control: root.spinner }
-        UIImagePicture { x: 120; y: 254; width: 80; height: 40; name: "testMark"; tint: "#8000ff00" }
+        ImagePicture { x: 120; y: 254; width: 80; height: 40; name: "testMark"; tint: "#8000ff00" }
     }
 }

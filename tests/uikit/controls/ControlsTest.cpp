@@ -99,7 +99,7 @@ private Q_SLOTS:
             return at({300, 500}) + at({200, 134}) + at({200, 116});
         };
         QCOMPARE(pixels(), u"#f2f2f7#ffffff#bdbdc2"_s);
-        page.application.traits().setOverride(UIAppearance{UIUserInterfaceStyle::Dark});
+        page.application.traits().setOverride(DesktopAppearance{UIUserInterfaceStyle::Dark});
         QCOMPARE(pixels(), u"#000000#1c1c1e#323235"_s);
     }
 

@@ -36,11 +36,11 @@ public:
             onDidAppear();
         }
     }
-    [[nodiscard]] UITransitionStack::Cover cover() const override
+    [[nodiscard]] TransitionStack::Cover cover() const override
     {
         // Lower case names are alerts.
-        return m_name.front().isLower() ? UITransitionStack::Cover::Overlays
-                                        : UITransitionStack::Cover::Covers;
+        return m_name.front().isLower() ? TransitionStack::Cover::Overlays
+                                        : TransitionStack::Cover::Covers;
     }
 
     std::function<void()> onDidAppear;
@@ -171,8 +171,8 @@ private Q_SLOTS:
         };
         stage.run(u"R+A"_s);
         QCOMPARE(stage.present(), u"R"_s);
-        QCOMPARE(stage.page(u"R"_s)->appearanceState(), UIAppearanceState::Appeared);
-        QCOMPARE(stage.page(u"A"_s)->appearanceState(), UIAppearanceState::Disappeared);
+        QCOMPARE(stage.page(u"R"_s)->appearanceState(), AppearanceState::Appeared);
+        QCOMPARE(stage.page(u"A"_s)->appearanceState(), AppearanceState::Disappeared);
         QCOMPARE(stage.log.count(u"[R+A]"_s), 1);
     }
 

@@ -29,14 +29,14 @@ using Transition = std::tuple<const char *, bool, bool, bool>;
 
 /// The page "Root" within a navigation controller.
 struct Stage : WindowStage {
-    explicit Stage(const UIAppearance &appearance = {}) : WindowStage(appearance)
+    explicit Stage(const DesktopAppearance &appearance = {}) : WindowStage(appearance)
     {
         show(navigation);
     }
     /// Of the finger, as the way back has it.
     [[nodiscard]] double speed() const
     {
-        return items(u"UIBackSwipe"_s).constLast()->property("speed").toDouble();
+        return items(u"BackSwipe"_s).constLast()->property("speed").toDouble();
     }
 
     std::shared_ptr<TestPage> root = make<TestPage>(u"Root"_s);
@@ -70,11 +70,11 @@ private Q_SLOTS:
         const auto modal = make<TestPage>(u"Modal"_s);
         root->presentViewController(modal, animated, modal->counted());
         QCOMPARE(modal->completed, animated ? 0 : 1);
-        const QPointer<QQuickItem> entry = fixture.items(u"UITransitionEntryView"_s).value(1);
+        const QPointer<QQuickItem> entry = fixture.items(u"TransitionEntryView"_s).value(1);
         QCOMPARE(entry->y() > 0 && entry->isVisible(), slides);
         fixture.settle();
         QVERIFY(modal->completed == 1 && modal->appeared == 1 && entry->y() == 0);
-        QVERIFY(!fixture.items(u"UITransitionEntryView"_s).value(0)->isVisible());
+        QVERIFY(!fixture.items(u"TransitionEntryView"_s).value(0)->isVisible());
 
         modal->dismissViewControllerAnimated(animated, modal->counted());
         if (slides) {
@@ -82,7 +82,7 @@ private Q_SLOTS:
         }
         fixture.settle();
         QVERIFY(modal->completed == 2 && root->appeared == 2);
-        QCOMPARE(fixture.items(u"UITransitionEntryView"_s).size(), 1);
+        QCOMPARE(fixture.items(u"TransitionEntryView"_s).size(), 1);
     }
 
     void pagesAreSwipedAway_data()
@@ -108,14 +108,14 @@ private Q_SLOTS:
         Stage stage({.reduceMotion = swipe.reduceMotion});
         const auto page = make<TestPage>(u"Page"_s);
         stage.navigation->pushViewController(page, false);
-        const QList<QQuickItem *> entries = stage.items(u"UITransitionEntryView"_s).mid(1);
+        const QList<QQuickItem *> entries = stage.items(u"TransitionEntryView"_s).mid(1);
 
         Finger finger(stage.view(), at(swipe.from));
         finger.move(at(swipe.to));
         QCOMPARE(entries[1]->x() * direction > 100, swipe.moves);
         QCOMPARE(entries[0]->isVisible(), swipe.moves);
         QVERIFY(!swipe.moves || (entries[0]->x() * direction < 0) != swipe.reduceMotion);
-        QCOMPARE(stage.root->appearanceState(), UIAppearanceState::Disappeared);
+        QCOMPARE(stage.root->appearanceState(), AppearanceState::Disappeared);
         if (swipe.rests) {
             QTRY_COMPARE(stage.speed(), 0.0);
         }
@@ -187,7 +187,7 @@ private Q_SLOTS:
         Stage stage;
         const auto table = make<SampleTable>(std::vector{100});
         stage.navigation->pushViewController(table, false);
-        const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+        const QQuickItem *page = stage.items(u"TransitionEntryView"_s).value(2);
         const auto offset = [&] { return stage.named(u"list"_s)->property("contentY").toInt(); };
         for (int i = 0; i < 2; ++i) {
             Finger finger(stage.view(), {10, 500});
@@ -209,7 +209,7 @@ private Q_SLOTS:
             QGuiApplication::setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
             Stage stage;
             stage.navigation->pushViewController(make<TestPage>(u"Page"_s), false);
-            const QQuickItem *page = stage.items(u"UITransitionEntryView"_s).value(2);
+            const QQuickItem *page = stage.items(u"TransitionEntryView"_s).value(2);
             QQuickView &view = stage.view();
             const auto at = [&](int x) { return QPoint(mirrored ? view.width() - x : x, 400); };
             const auto away = [&] { return qRound(qAbs(page->x())); };
@@ -248,7 +248,7 @@ private Q_SLOTS:
         stage.settle();
         QCOMPARE(modal->completed, 2);
         QVERIFY(modal->appeared == 0 && page->appeared == 0);
-        QCOMPARE(second->appearanceState(), UIAppearanceState::Appeared);
+        QCOMPARE(second->appearanceState(), AppearanceState::Appeared);
         QCOMPARE(TestWindow::rect(stage.named(u"Second"_s)), QRectF(0, 44, 390, 800));
         QVERIFY(!stage.named(u"Modal"_s) && !stage.named(u"Page"_s));
     }

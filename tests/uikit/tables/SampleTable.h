@@ -26,7 +26,7 @@ public:
 };
 
 /// A table of `rows`, section by section: an image in the second row, a tall third one, a fixed
-/// footer below the first section and texts around the second.
+/// footer below the first section and a text below the second.
 class SampleTable : public UITableViewController {
     Q_OBJECT
 
@@ -74,10 +74,6 @@ public:
     [[nodiscard]] double heightForFooterInSection(int section) const override
     {
         return section == 0 ? 14 : 0;
-    }
-    [[nodiscard]] std::optional<QString> titleForHeaderInSection(int section) const override
-    {
-        return section == 1 ? std::optional(QStringLiteral("Above")) : std::nullopt;
     }
     [[nodiscard]] std::optional<QString> titleForFooterInSection(int section) const override
     {

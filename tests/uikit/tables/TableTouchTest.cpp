@@ -148,7 +148,7 @@ private Q_SLOTS:
         QTRY_VERIFY(marked().isEmpty());
         QVERIFY(stage.table->chosen.empty());
         for (const int entry : {1, 2}) {
-            stage.table->tableView()->chooseEntry(entry);
+            stage.table->tableView()->activateEntry(entry);
         }
         stage.table->tableView()->deselectRowAtIndexPath({0, 0}, true); // which is not any more
         for (const double offset : {3000, 0}) { // out of sight and back

@@ -219,7 +219,7 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.window.resize(320, 568);
-        stage.application.traits().setOverride(UIAppearance{.textScale = 2});
+        stage.application.traits().setOverride(DesktopAppearance{.textScale = 2});
         const QRect window(stage.window.mapToGlobal(QPoint()), QSize(320, 568));
         for (const QPointF place : {QPointF(), {120, 0}, {0, 532}, {120, 532}, {60, 280}}) {
             stage.named(u"name"_s)->setPosition(place);

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#include "platform/uikit/presentation/DesktopWindow.h"
+
+#include "platform/uikit/presentation/UIWindow.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QQmlEngine>
+#include <QScreen>
+
+namespace {
+
+/// The height that a desktop needs at most for a window's title, in points.
+constexpr int frame = 48;
+
+} // namespace
+
+DesktopWindow::DesktopWindow(UIWindow &window, const QString &title, const QIcon &icon)
+{
+    QQmlEngine &engine = *m_view.engine();
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
+    m_view.setTitle(title);
+    m_view.setIcon(icon);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.setMinimumSize({320, 568});
+    m_view.resize(QSize(390, 844)
+                      .boundedTo(m_view.screen()->availableSize() - QSize(0, frame))
+                      .expandedTo(m_view.minimumSize()));
+    m_view.setInitialProperties({{QStringLiteral("control"), QVariant::fromValue(&window)}});
+    m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/UIKit/UIWindowView.qml")));
+}
+
+DesktopWindow::~DesktopWindow() = default;
+
+void DesktopWindow::show()
+{
+    // A window that is there already keeps its size: to show it would make a maximised one normal.
+    if (m_view.isVisible()) {
+        m_view.setWindowStates(m_view.windowStates() & ~Qt::WindowMinimized);
+        m_view.raise();
+    } else {
+        m_view.show();
+    }
+    m_view.requestActivate();
+}
