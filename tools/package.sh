@@ -4,7 +4,7 @@
 
 # ./dev package: a source package of what is here, and the Debian packages built from it alone.
 
-packaging=(build-essential debhelper dpkg-dev git librsvg2-bin lintian pkgconf)
+packaging_packages=(build-essential debhelper dpkg-dev git librsvg2-bin lintian pkgconf)
 
 # tracked_sources: the files that git tracks, as they are now, each ended by a null character.
 tracked_sources() {
@@ -20,7 +20,7 @@ archive_sources() {
 
 verb_package() {
     local arch=native version made=$root/build/package constants=() cross=()
-    local packages=("${packaging[@]}" "${tools[@]}" "${libraries[@]}")
+    local packages=("${packaging_packages[@]}" "${tools[@]}" "${libraries[@]}")
     while (($#)); do
         case $1 in
         --arch)
