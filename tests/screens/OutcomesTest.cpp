@@ -47,7 +47,7 @@ private Q_SLOTS:
         addCases<Operation>({
             {"sign-in",
              false,
-             [](TestApp &app, auto code, auto &user) { login(app).loginEnded(code, user); },
+             [](TestApp &app, auto code, auto &user) { login(app).loginCompleted(code, user); },
              1,
              {u"Error|Account details did not match any account"_s,
               closes,
@@ -56,7 +56,7 @@ private Q_SLOTS:
               {}}},
             {"reset",
              false,
-             [](TestApp &app, auto code, auto &) { login(app).resetEnded(code); },
+             [](TestApp &app, auto code, auto &) { login(app).resetCompleted(code); },
              {},
              {u"Great!|A reset email has been sent."_s,
               u"Error|An account doesn't exists for this email."_s,
@@ -65,7 +65,9 @@ private Q_SLOTS:
               {}}},
             {"registration",
              false,
-             [](TestApp &app, auto code, auto &user) { login(app).registrationEnded(code, user); },
+             [](TestApp &app, auto code, auto &user) {
+                 login(app).registrationCompleted(code, user);
+             },
              2,
              {u"Error|An account already exists for this email."_s,
               u"Error|Account request couldn't be made at this time."_s,
@@ -76,7 +78,7 @@ private Q_SLOTS:
             {"update",
              true,
              [](TestApp &app, auto code, auto &user) {
-                 app.delegate().userVC()->updateEnded(code, user, jo.email);
+                 app.delegate().userVC()->updateCompleted(code, user, jo.email);
              },
              1,
              {u"Error|Entered password did not match this account"_s,
@@ -90,7 +92,7 @@ private Q_SLOTS:
                  const auto form =
                      make<WZTIssueReporterViewController>(WZTPackage::allPackages().front());
                  app.top()->presentViewController(form, false);
-                 form->submissionEnded(code);
+                 form->submissionCompleted(code);
              },
              {},
              {u"Submission Success|Thank you for submitted an issue report"_s, failed, failed}},
