@@ -5,7 +5,6 @@
 #include "model/WZTSession.h"
 #include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
-#include "service/TavloCategoryExtension.h"
 
 #include <future>
 #include <map>
@@ -291,18 +290,6 @@ private Q_SLOTS:
                               " description = 😀\\u000a)"_s,
                               u"Query Items: (packageId = (null), title = 100% %1\\u000d\\u000a"
                               "forged\\u0000\\u001b[31m\\u0085\\u2028, reporterId = 0)"_s}));
-    }
-
-    void passwordsBecomeDigests()
-    {
-        const std::pair<QString, QByteArray> rows[] = {
-            {u""_s, "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"},
-            {u"ü"_s, "607474ca475a9724d7360aba71a56d5df77e61350e3f724cfa1f46e857e2d85f"},
-            {u"a\0b"_s, "ca978112ca1bbdcafac231b39a23dc4da786eff8147c4e72b9807785afee48bb"},
-        };
-        for (const auto &[text, digest] : rows) {
-            QCOMPARE(SHA256(text).toLatin1(), digest);
-        }
     }
 };
 
