@@ -16,7 +16,7 @@
 namespace TestRunner {
 
 /// How many milliseconds anything may take that a test waits for.
-constexpr int patience = 60'000;
+constexpr int patience = 30'000;
 
 using Maker = std::function<std::unique_ptr<QObject>()>;
 

@@ -17,7 +17,7 @@ namespace {
 constexpr quint32 runs = 5;
 constexpr int stepsOfARun = 60;
 
-constexpr Qt::Key keys[] = {
+constexpr Qt::Key someKeys[] = {
     Qt::Key_Tab,  Qt::Key_Tab,  Qt::Key_Backtab,   Qt::Key_Up,     Qt::Key_Down,
     Qt::Key_Down, Qt::Key_Left, Qt::Key_Return,    Qt::Key_Space,  Qt::Key_Escape,
     Qt::Key_Home, Qt::Key_End,  Qt::Key_F5,        Qt::Key_PageUp, Qt::Key_PageDown,
@@ -227,7 +227,7 @@ private:
 
     void key()
     {
-        const Qt::Key key = m_dice.oneOf(std::span(keys));
+        const Qt::Key key = m_dice.oneOf(std::span(someKeys));
         m_log.last() += u" %1"_s.arg(static_cast<int>(key), 0, 16);
         const bool chooses = key == Qt::Key_Return || key == Qt::Key_Space;
         TestWindow::key(key);

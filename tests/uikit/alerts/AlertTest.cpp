@@ -151,9 +151,9 @@ private Q_SLOTS:
         stage.root->presentViewController(second, true);
         QVERIFY(!both.contains(stage.focused()));
         stage.alert->triggerDefault(); // it is not on top
-        QCOMPARE(stage.triggered, QString());
         second->triggerDefault();
         stage.settle();
+        QCOMPARE(stage.triggered, QString());
         QCOMPARE(stage.focused(), u"Email"_s);
         QCOMPARE(stage.accessible().join(u", "_s), // of all that there is
                  u"Dialog Title, StaticText Title, EditableText Name, EditableText Email, "

@@ -160,6 +160,7 @@ private Q_SLOTS:
         page->navigationItem()->setLeftBarButtonItem(make<UIBarButtonItem>(
             u"Other"_s, UIBarButtonItemStyle::Plain, page.get(), &TestPage::loadViewIfNeeded));
         QCOMPARE(swipe(), u"Page"_s);
+        QVERIFY(!stage.navigation->goBack());
         page->navigationItem()->setLeftBarButtonItem({});
         QCOMPARE(swipe([&] { page->presentViewController(alert, true); }), u"Page"_s);
         stage.settle();
