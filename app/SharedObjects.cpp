@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/SharedObjects.h"
 
+#include "platform/uikit/base/Host.h"
+
 #include <QCoreApplication>
 #include <QPointer>
 
