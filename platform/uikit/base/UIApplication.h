@@ -3,11 +3,10 @@
 #pragma once
 
 #include "platform/uikit/appearance/Traits.h"
+#include "platform/uikit/base/Host.h"
 #include "platform/uikit/base/UIResponder.h"
 
 #include <QPointer>
-
-class Host;
 
 /// The application: its host, its traits and its first responder. There is one at
 /// a time, made before any screen and destroyed after all of them.

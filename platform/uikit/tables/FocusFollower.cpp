@@ -52,9 +52,6 @@ void FocusFollower::reveal()
     if (!row) {
         return;
     }
-    if (m_focused == row) {
-        fprintf(stderr, "REVEAL-ROW\n");
-    }
     const double before = list.contentY();
     list.setCurrentIndex(row->property("index").toInt()); // or it would go when out of sight
     list.setContentY(before);

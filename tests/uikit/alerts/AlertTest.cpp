@@ -123,7 +123,9 @@ private Q_SLOTS:
         Stage stage({}, reset);
         stage.settle();
         // The page below is dimmed and not touched.
-        stage.tap(stage.item(u"TransitionStackView"_s)->childItems().value(0));
+        QQuickItem *page = stage.item(u"TransitionStackView"_s)->childItems().value(0);
+        QVERIFY2(page->isVisible(), "an alert hides the page below");
+        stage.tap(page);
         QCOMPARE(stage.triggered, QString());
         const Theme theme;
         const int dimmed = stage.grab().pixelColor(5, 5).lightness();
