@@ -72,6 +72,8 @@ function(wzt_test name)
     cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     wzt_common(${name})
+    # Test classes of one program call their helpers alike.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
     set(home ${CMAKE_BINARY_DIR}/home/${name})
     file(MAKE_DIRECTORY ${home}/runtime)

@@ -22,9 +22,9 @@ std::optional<int> fixedSize(Type type, int low)
 }
 
 /// Decodes each object that can be reached from the top, and each only once.
-class Reader {
+class BinaryReader {
 public:
-    explicit Reader(const QByteArray &data)
+    explicit BinaryReader(const QByteArray &data)
         : m_data(data), m_unread(static_cast<quint64>(data.size()))
     {
     }
@@ -173,5 +173,5 @@ bool PropertyListFormats::isBinary(const QByteArray &data)
 
 std::optional<PropertyList> PropertyListFormats::readBinary(const QByteArray &data)
 {
-    return Reader(data).list();
+    return BinaryReader(data).list();
 }

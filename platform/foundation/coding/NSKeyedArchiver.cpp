@@ -92,8 +92,8 @@ private:
             classes.append(PropertyList(u"NSObject"_s));
             PropertyList description = PropertyList::dictionary();
             description.insert(u"$classname"_s, PropertyList(className));
-            description.insert(u"$classes"_s, std::move(classes));
-            known = m_classes.emplace(known, className, add(std::move(description)));
+            description.insert(u"$classes"_s, classes);
+            known = m_classes.emplace(known, className, add(description));
         }
         m_objects[index].insert(u"$class"_s, PropertyList::reference(known->second));
     }
@@ -125,7 +125,7 @@ std::optional<QByteArray> NSKeyedArchiver::archivedDataWithCoder(const NSCoder &
     PropertyList archive = PropertyList::dictionary();
     archive.insert(u"$version"_s, PropertyList(qint64{100000}));
     archive.insert(u"$archiver"_s, PropertyList(u"NSKeyedArchiver"_s));
-    archive.insert(u"$top"_s, std::move(top));
+    archive.insert(u"$top"_s, top);
     archive.insert(u"$objects"_s, objects.list());
     return archive.toData();
 }

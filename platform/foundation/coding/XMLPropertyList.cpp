@@ -74,11 +74,11 @@ Value dateOf(const QString &text)
         : std::nullopt;
 }
 
-struct ReaderRow {
+struct XMLReaderRow {
     QLatin1StringView element;
     Value (*read)(const QString &text);
 };
-constexpr ReaderRow readerTable[] = {
+constexpr XMLReaderRow readerTable[] = {
     {"string"_L1, textOf},
     {"integer"_L1, integerOf},
     {"real"_L1, realOf},
@@ -88,9 +88,9 @@ constexpr ReaderRow readerTable[] = {
     {"false"_L1, [](const QString &) { return Value(PropertyList(false)); }},
 };
 
-class Reader {
+class XMLReader {
 public:
-    explicit Reader(const QByteArray &data) : m_xml(data) {}
+    explicit XMLReader(const QByteArray &data) : m_xml(data) {}
 
     Value list()
     {
@@ -127,7 +127,7 @@ private:
         if (m_xml.name() == "array"_L1) {
             return container(PropertyList::Type::Array, depth);
         }
-        for (const ReaderRow &row : readerTable) {
+        for (const XMLReaderRow &row : readerTable) {
             if (m_xml.name() == row.element) {
                 const QString text = m_xml.readElementText();
                 return m_xml.hasError() ? std::nullopt : row.read(text);
@@ -161,5 +161,5 @@ private:
 
 std::optional<PropertyList> PropertyListFormats::readXML(const QByteArray &data)
 {
-    return Reader(data).list();
+    return XMLReader(data).list();
 }

@@ -9,7 +9,7 @@
 namespace {
 
 /// Beyond every valid field, and one more digit cannot overflow it.
-constexpr int tooLarge = 100000000;
+constexpr int maximumField = 100000000;
 
 struct Letter {
     char16_t letter;
@@ -21,9 +21,9 @@ constexpr Letter letters[] = {
 };
 
 /// Reads a text once from beginning to end.
-class Reader {
+class FieldReader {
 public:
-    explicit Reader(const QString &text) : m_text(text.toUcs4()) {}
+    explicit FieldReader(const QString &text) : m_text(text.toUcs4()) {}
 
     [[nodiscard]] bool isAtEnd() const { return m_place == m_text.size(); }
 
@@ -44,7 +44,7 @@ public:
         const qsizetype first = m_place;
         int number = 0;
         for (; !isAtEnd() && QChar::isDigit(m_text[m_place]); ++m_place) {
-            number = std::min(number * 10 + QChar::digitValue(m_text[m_place]), tooLarge);
+            number = std::min(number * 10 + QChar::digitValue(m_text[m_place]), maximumField);
         }
         return m_place - first < minimumDigits ? std::nullopt : std::optional(number);
     }
@@ -59,7 +59,7 @@ private:
 std::optional<DateFields> readDateFields(const QString &pattern, const QString &text)
 {
     DateFields fields;
-    Reader reader(text);
+    FieldReader reader(text);
     for (auto c = pattern.begin(); c != pattern.end();) {
         if (!c->isLetter()) {
             if (!reader.skip(*c++)) {

@@ -10,7 +10,7 @@
 namespace {
 
 /// CURLE_TOO_LARGE, which older headers than those of libcurl 8.6 do not declare.
-constexpr long tooLarge = 100;
+constexpr long curlTooLarge = 100;
 
 struct ErrorRow {
     long reported;
@@ -33,7 +33,7 @@ constexpr std::array errorTable{
     ErrorRow{CURLE_WEIRD_SERVER_REPLY, NSURLErrorBadServerResponse},
     // The first line is not HTTP.
     ErrorRow{CURLE_UNSUPPORTED_PROTOCOL, NSURLErrorBadServerResponse},
-    ErrorRow{tooLarge, NSURLErrorDataLengthExceedsMaximum},
+    ErrorRow{curlTooLarge, NSURLErrorDataLengthExceedsMaximum},
     ErrorRow{CURLE_SSL_CONNECT_ERROR, NSURLErrorSecureConnectionFailed},
     ErrorRow{CURLE_SSL_CACERT_BADFILE, NSURLErrorSecureConnectionFailed},
 };
