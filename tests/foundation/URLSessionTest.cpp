@@ -93,6 +93,8 @@ private Q_SLOTS:
         const int bad = NSURLErrorBadServerResponse;
         const QByteArray manyFields = QByteArray("A: b\r\n").repeated(100000);
         const Fault unmeasured = Fault().withoutLength();
+        const Fault bodiless =
+            Fault::raw("HTTP/1.1 204 No Content\r\nContent-Encoding: gzip\r\n\r\n");
         const Fault interim = Fault::raw("HTTP/1.1 103 Early Hints\r\n\r\n");
         const Fault half =
             rawReply("Content-Length: 9\r\n\r\nhalf").ending(Transmission::Ending::Silence);
@@ -102,6 +104,7 @@ private Q_SLOTS:
             {"end without a length", "GET", unmeasured},
             {"end without a close_notify", "GET", unmeasured.ending(Transmission::Ending::Cut),
              lost},
+            {"no content, and that compressed", "GET", bodiless},
             {"interim head alone", "GET", interim, lost},
             {"closed", "POST", Fault::close(), lost},
             {"reset", "GET", Fault::reset(), lost},

@@ -51,7 +51,8 @@ public:
     /// no lock, which another process may hold. False: the file is still there.
     [[nodiscard]] bool remove() const;
 
-    /// Deletes the temporary file of a killed writer.
+    /// Deletes the temporary file of a writer that was killed. A removal wins over a writer that is
+    /// still at work: its record is not kept.
     void removeTemporary() const;
 
     /// Moves the file, of whatever kind, into a new folder beside it, `<name>.damaged-XXXXXX`.
