@@ -3,6 +3,7 @@
 #include "app/WZTTabBarController.h"
 #include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
+#include "platform/uikit/tables/TableKeyboard.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
@@ -253,6 +254,25 @@ private Q_SLOTS:
         QTRY_VERIFY(!stage.isRefreshing() && !stage.list()->property("moving").toBool());
         QTRY_COMPARE(stage.scrolled(), 0);
         QTRY_COMPARE(stage.list()->property("topMargin").toDouble(), 0);
+    }
+
+    /// The current row has no label: screen readers are told of its first control, after an alert
+    /// as before it.
+    void theCurrentControlOutlivesAnAlert()
+    {
+        Stage stage;
+        QQuickItem *drawing = stage.drawing(stage.table());
+        const auto *keyboard = drawing->findChild<TableKeyboard *>();
+        for (int i = 0; i < 5 && !keyboard->hasActiveFocus(); ++i) {
+            stage.key(Qt::Key_Tab);
+        }
+        stage.key(Qt::Key_End);
+        const QQuickItem *control = keyboard->current();
+        QCOMPARE(control, stage.drawing(&stage.logout()));
+        drawing->setEnabled(false);
+        QVERIFY(keyboard->current() != control);
+        drawing->setEnabled(true);
+        QCOMPARE(keyboard->current(), control);
     }
 
     void tabReachesWhatIsOutOfSight()

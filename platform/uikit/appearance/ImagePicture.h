@@ -5,8 +5,8 @@
 #include <QColor>
 #include <QQuickPaintedItem>
 
-/// A picture of the build, fitted into the item with its proportions kept, and drawn for exactly
-/// the pixels that it has. In one colour, which keeps the picture's alpha, if `tint` is one; a name
+/// A picture of the build, fitted into the item with its proportions kept, and drawn at the
+/// window's resolution. In one colour, which keeps the picture's alpha, if `tint` is one; a name
 /// that the build has no picture of draws nothing.
 class ImagePicture : public QQuickPaintedItem {
     Q_OBJECT

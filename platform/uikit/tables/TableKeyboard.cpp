@@ -4,7 +4,6 @@
 
 TableKeyboard::TableKeyboard()
 {
-    connect(this, &QQuickItem::enabledChanged, this, &TableKeyboard::updateCurrent);
     connect(this, &QQuickItem::parentChanged, this, &TableKeyboard::updateCurrent);
     connect(this, &FocusGroup::focusVisibleChanged, this, &TableKeyboard::showFirstRow);
 }
@@ -14,6 +13,8 @@ TableKeyboard::~TableKeyboard() = default;
 void TableKeyboard::setList(QQuickItem *list)
 {
     m_list = TableList(list);
+    // Only then are its rows enabled as well.
+    connect(list, &QQuickItem::enabledChanged, this, &TableKeyboard::updateCurrent);
     connect(list, SIGNAL(currentItemChanged()), this, SLOT(followCurrentItem()));
     Q_EMIT listChanged();
     followCurrentItem();
@@ -197,6 +198,9 @@ void TableKeyboard::activateCurrent()
 
 void TableKeyboard::keyPressEvent(QKeyEvent *event)
 {
+    if (!m_table || !m_list.view()) {
+        return event->ignore();
+    }
     switch (event->key()) {
     case Qt::Key_Up:
         return moveByLine(-1);
