@@ -61,7 +61,7 @@ public:
         qputenv("XDG_DATA_DIRS", QFile::encodeName(m_session.home()));
         qputenv("XDG_CONFIG_DIRS", QFile::encodeName(m_session.home()));
         // Freed memory is not counted.
-        qputenv("ASAN_OPTIONS", qgetenv("ASAN_OPTIONS") + ":quarantine_size_mb=1");
+        qputenv("ASAN_OPTIONS", QByteArray(qgetenv("ASAN_OPTIONS") + ":quarantine_size_mb=1"));
         startService();
         m_port = m_service->port();
         for (const QString &address : Life::addresses) {
