@@ -149,7 +149,7 @@ private Q_SLOTS:
             service.addIssue(
                 {.package = u"example.wzt.pintle"_s, .title = u"Old"_s, .opened = date});
         }
-        service.stage("/issues.php", sandbox::Fault::delay(std::chrono::milliseconds(500)));
+        service.stage("/issues.php", sandbox::Fault::delay(std::chrono::seconds(5)));
 
         TestProcess display;
         const QString hidden = u"-displayfd 1 -nolisten tcp -screen 0 1024x960x24"_s;
