@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QObject>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>
 

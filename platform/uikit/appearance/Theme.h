@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QFont>
 #include <QObject>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// The colours and the fonts of everything that the platform itself draws, in the current style and
 /// text scale. Texts stand out from all grounds that they are drawn on by 4.5 to 1 at least.

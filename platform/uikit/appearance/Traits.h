@@ -5,7 +5,7 @@
 #include "platform/uikit/appearance/DesktopAppearance.h"
 
 #include <QObject>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 

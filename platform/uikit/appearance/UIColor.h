@@ -5,7 +5,7 @@
 #include "platform/uikit/appearance/UITraitCollection.h"
 
 #include <QColor>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>
 #include <memory>

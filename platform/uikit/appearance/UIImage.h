@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QString>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// A picture of the build, known by its asset name ("wztLogo"). Default-constructed: no picture.
 class UIImage {

@@ -4,7 +4,7 @@
 
 #include "platform/uikit/base/TargetAction.h"
 
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 

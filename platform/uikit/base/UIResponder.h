@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QObject>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// An object that can have the keyboard. At most one responder of the application has it at a time.
 class UIResponder : public QObject {

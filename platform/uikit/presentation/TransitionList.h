@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QAbstractListModel>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>
 #include <memory>

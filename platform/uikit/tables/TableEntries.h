@@ -5,7 +5,7 @@
 #include "platform/uikit/tables/NSIndexPath.h"
 
 #include <QAbstractListModel>
-#include <QtQmlIntegration>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>
 #include <memory>
