@@ -28,7 +28,7 @@ constexpr int timeoutMilliseconds = 5000;
 constexpr size_t maximumClients = 64;
 constexpr qsizetype maximumLineLength = qsizetype{1} << 20;
 
-QString failure()
+QString socketFailure()
 {
     return u"control socket: "_s + QString::fromLocal8Bit(std::strerror(errno));
 }
@@ -104,7 +104,7 @@ QString ControlSocket::open(const QString &directory, Handler handler)
         || ::bind(m_listener->get(), reinterpret_cast<const sockaddr *>(&address), sizeof address)
             != 0
         || ::chmod(address.sun_path, 0600) != 0 || ::listen(m_listener->get(), 8) != 0) {
-        return failure();
+        return socketFailure();
     }
     m_thread = std::thread([this] {
         while (serve()) {}

@@ -6,14 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result results[] = {
+constexpr WZTAccountReplies::Result fetchResults[] = {
     {"No User"_L1, 1},
     {"Invalid Request"_L1, 2},
 };
-constexpr WZTAccountReplies codes{
+constexpr WZTAccountReplies fetchCodes{
     .transportError = 2,
     .user = 0,
-    .results = results,
+    .results = fetchResults,
     .anythingElse = 2,
 };
 
@@ -22,5 +22,5 @@ constexpr WZTAccountReplies codes{
 void WZTAPI::userForAccount(const Text &email, UserCompletion completion)
 {
     const WZTRequest request{"GET", u"/user.php"_s, {{u"userEmail"_s, email}}};
-    sendAccountRequest(request, codes, std::move(completion));
+    sendAccountRequest(request, fetchCodes, std::move(completion));
 }

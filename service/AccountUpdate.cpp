@@ -6,14 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result results[] = {
+constexpr WZTAccountReplies::Result updateResults[] = {
     {"User Not Found"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies codes{
+constexpr WZTAccountReplies updateCodes{
     .transportError = 3,
     .user = 1,
-    .results = results,
+    .results = updateResults,
     .anythingElse = 3,
 };
 
@@ -34,5 +34,5 @@ void WZTAPI::updateAccount(const Text &email, const Text &userName, const Text &
                        {{u"userEmail"_s, email}, {u"userOldPassword"_s, passwordDigest}}};
     addUnlessEmpty(request.parameters, {u"userName"_s, userName});
     addUnlessEmpty(request.parameters, {u"userNewPassword"_s, newPasswordDigest});
-    sendAccountRequest(request, codes, std::move(completion));
+    sendAccountRequest(request, updateCodes, std::move(completion));
 }

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Code : NSUInteger {
+enum ListCode : NSUInteger {
     NoIssues = 0,
     HasIssues = 1,
     Failed = 2, // a transport error, an object, no JSON, or too many issues
@@ -34,7 +34,7 @@ std::optional<QList<WZTPackageIssue>> issuesFrom(const QJsonArray &elements)
     return issues;
 }
 
-void decodeReply(const WZTRequest::Reply &reply, const WZTAPI::IssuesCompletion &completion)
+void decodeList(const WZTRequest::Reply &reply, const WZTAPI::IssuesCompletion &completion)
 {
     if (!reply || !reply->isArray()) {
         completion(Failed, std::nullopt);
@@ -55,6 +55,6 @@ void WZTAPI::issuesForPackageIdentifier(const Text &identifier, IssuesCompletion
 {
     const WZTRequest request{"GET", u"/issues.php"_s, {{u"packageId"_s, identifier}}};
     request.send([completion = std::move(completion)](const WZTRequest::Reply &reply) {
-        decodeReply(reply, completion);
+        decodeList(reply, completion);
     });
 }

@@ -12,12 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Code : NSUInteger {
+enum SubmissionCode : NSUInteger {
     Accepted = 0, // an object without "result", or no JSON
     Refused = 1, // a transport error, a list, or an object with "result", whatever its value
 };
 
-Code codeFor(const WZTRequest::Reply &reply)
+SubmissionCode codeFor(const WZTRequest::Reply &reply)
 {
     const bool isRefused = !reply || reply->isArray() || reply->object().contains("result"_L1);
     return isRefused ? Refused : Accepted;

@@ -6,14 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result results[] = {
+constexpr WZTAccountReplies::Result loginResults[] = {
     {"User Does Not Exist"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies codes{
+constexpr WZTAccountReplies loginCodes{
     .transportError = 3,
     .user = 1,
-    .results = results,
+    .results = loginResults,
     .anythingElse = 3,
 };
 
@@ -24,5 +24,5 @@ void WZTAPI::loginToAccount(const Text &email, const Text &passwordDigest,
 {
     const WZTRequest request{
         "GET", u"/login.php"_s, {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}}};
-    sendAccountRequest(request, codes, std::move(completion));
+    sendAccountRequest(request, loginCodes, std::move(completion));
 }

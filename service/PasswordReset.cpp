@@ -6,15 +6,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result results[] = {
+constexpr WZTAccountReplies::Result resetResults[] = {
     {"Message has been sent"_L1, 0},
     {"Message could not be sent"_L1, 3},
     {"User Not Found"_L1, 3},
 };
-constexpr WZTAccountReplies codes{
+constexpr WZTAccountReplies resetCodes{
     .transportError = 2,
     .user = std::nullopt,
-    .results = results,
+    .results = resetResults,
     .anythingElse = 2,
 };
 
@@ -24,6 +24,6 @@ void WZTAPI::resetAccountPassword(const Text &email, CodeCompletion completion)
 {
     const WZTRequest request{"POST", u"/passwordreset.php"_s, {{u"userEmail"_s, email}}};
     sendAccountRequest(
-        request, codes,
+        request, resetCodes,
         [completion = std::move(completion)](NSUInteger code, const auto &) { completion(code); });
 }

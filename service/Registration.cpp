@@ -6,14 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result results[] = {
+constexpr WZTAccountReplies::Result registrationResults[] = {
     {"User Exists"_L1, 0},
     {"Improper request"_L1, 1},
 };
-constexpr WZTAccountReplies codes{
+constexpr WZTAccountReplies registrationCodes{
     .transportError = 4,
     .user = 2,
-    .results = results,
+    .results = registrationResults,
     .anythingElse = 3,
 };
 
@@ -26,5 +26,5 @@ void WZTAPI::registerEmail(const Text &email, const Text &userName, const Text &
         "GET",
         u"/register.php"_s,
         {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}, {u"userName"_s, userName}}};
-    sendAccountRequest(request, codes, std::move(completion));
+    sendAccountRequest(request, registrationCodes, std::move(completion));
 }

@@ -13,7 +13,7 @@ namespace sandbox {
 
 namespace {
 
-constexpr int day = 24 * 3600 * 1000;
+constexpr int longestDelay = 24 * 3600 * 1000;
 
 Fault redirect(FaultArguments &arguments)
 {
@@ -92,7 +92,7 @@ constexpr std::array table{
 
 std::chrono::milliseconds FaultArguments::time(int index)
 {
-    return std::chrono::milliseconds(number(index, 0, day));
+    return std::chrono::milliseconds(number(index, 0, longestDelay));
 }
 
 std::span<const FaultWord> faultWords()

@@ -17,7 +17,7 @@ namespace sandbox {
 
 namespace {
 
-QString failure(const QString &path)
+QString failureOf(const QString &path)
 {
     return path + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno));
 }
@@ -28,7 +28,7 @@ QString makePrivateDirectory(const QString &path)
 {
     const FileDescriptor folder(PrivateFiles::openFolder(QFile::encodeName(path)));
     const bool isPrivate = folder.isOpen() && ::fchmod(folder.get(), PrivateFiles::folderMode) == 0;
-    return isPrivate ? QString() : failure(path);
+    return isPrivate ? QString() : failureOf(path);
 }
 
 QString writePrivateFile(const QString &path, const QByteArray &bytes)
@@ -38,7 +38,7 @@ QString writePrivateFile(const QString &path, const QByteArray &bytes)
     const bool isWritten = folder.isOpen()
         && PrivateFiles::replace(folder.get(), QFile::encodeName(file.fileName()), bytes,
                                  PrivateFiles::Durability::Unsynced);
-    return isWritten ? QString() : failure(path);
+    return isWritten ? QString() : failureOf(path);
 }
 
 } // namespace sandbox

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Value = std::optional<PropertyList>;
+using Parsed = std::optional<PropertyList>;
 
 /// The number that makes up the whole of `text`, in C notation for every locale.
 template <typename Number, typename... Format>
@@ -31,7 +31,7 @@ QByteArray withoutPlus(const QString &text)
     return trimmed.startsWith('+') ? trimmed.sliced(1) : trimmed;
 }
 
-Value integerOf(const QString &text)
+Parsed integerOf(const QString &text)
 {
     QByteArray digits = withoutPlus(text);
     if (const auto number = numberOf<qint64>(digits)) {
@@ -41,42 +41,42 @@ Value integerOf(const QString &text)
     const auto number =
         hexadecimal ? numberOf<quint64>(digits.sliced(2), 16) : numberOf<quint64>(digits, 10);
     if (!number || *number >> 63 == 0) {
-        return number ? Value(PropertyList(static_cast<qint64>(*number))) : std::nullopt;
+        return number ? Parsed(PropertyList(static_cast<qint64>(*number))) : std::nullopt;
     }
     // In eight bytes it would be a negative number.
     return PropertyList(PropertyList::Type::Integer, bigEndian(0, 8) + bigEndian(*number, 8));
 }
 
-Value realOf(const QString &text)
+Parsed realOf(const QString &text)
 {
     const auto number = numberOf<double>(withoutPlus(text));
-    return number ? Value(PropertyList(*number)) : std::nullopt;
+    return number ? Parsed(PropertyList(*number)) : std::nullopt;
 }
 
-Value textOf(const QString &text)
+Parsed textOf(const QString &text)
 {
     return PropertyList(text);
 }
 
-Value dataOf(const QString &text)
+Parsed dataOf(const QString &text)
 {
     auto decoded = QByteArray::fromBase64Encoding(text.simplified().remove(u' ').toLatin1(),
                                                   QByteArray::AbortOnBase64DecodingErrors);
-    return decoded ? Value(PropertyList(*decoded)) : std::nullopt;
+    return decoded ? Parsed(PropertyList(*decoded)) : std::nullopt;
 }
 
-Value dateOf(const QString &text)
+Parsed dateOf(const QString &text)
 {
     constexpr qint64 referenceDate = 978307200; // 2001-01-01 UTC
     const QDateTime date = QDateTime::fromString(text.trimmed(), Qt::ISODate);
     return date.isValid() && date.timeSpec() == Qt::UTC
-        ? Value(PropertyList(NSDate{static_cast<double>(date.toSecsSinceEpoch() - referenceDate)}))
+        ? Parsed(PropertyList(NSDate{static_cast<double>(date.toSecsSinceEpoch() - referenceDate)}))
         : std::nullopt;
 }
 
 struct XMLReaderRow {
     QLatin1StringView element;
-    Value (*read)(const QString &text);
+    Parsed (*read)(const QString &text);
 };
 constexpr XMLReaderRow readerTable[] = {
     {"string"_L1, textOf},
@@ -84,15 +84,15 @@ constexpr XMLReaderRow readerTable[] = {
     {"real"_L1, realOf},
     {"data"_L1, dataOf},
     {"date"_L1, dateOf},
-    {"true"_L1, [](const QString &) { return Value(PropertyList(true)); }},
-    {"false"_L1, [](const QString &) { return Value(PropertyList(false)); }},
+    {"true"_L1, [](const QString &) { return Parsed(PropertyList(true)); }},
+    {"false"_L1, [](const QString &) { return Parsed(PropertyList(false)); }},
 };
 
 class XMLReader {
 public:
     explicit XMLReader(const QByteArray &data) : m_xml(data) {}
 
-    Value list()
+    Parsed list()
     {
         while (m_xml.readNext() != QXmlStreamReader::StartElement) {
             // Declared entities could expand a short list to a huge one.
@@ -101,7 +101,7 @@ public:
             }
         }
         const bool isWrapped = m_xml.name() == "plist"_L1;
-        const Value list = isWrapped ? onlyItem() : value(1);
+        const Parsed list = isWrapped ? onlyItem() : value(1);
         while (list && !m_xml.atEnd()) {
             m_xml.readNext();
         }
@@ -109,14 +109,14 @@ public:
     }
 
 private:
-    Value onlyItem()
+    Parsed onlyItem()
     {
-        const Value item = m_xml.readNextStartElement() ? value(1) : std::nullopt;
+        const Parsed item = m_xml.readNextStartElement() ? value(1) : std::nullopt;
         return item && !m_xml.readNextStartElement() ? item : std::nullopt;
     }
 
     /// The value of the element whose start tag has been read.
-    Value value(int depth)
+    Parsed value(int depth)
     {
         if (depth > PropertyListFormats::maximumDepth) {
             return std::nullopt;
@@ -136,7 +136,7 @@ private:
         return std::nullopt;
     }
 
-    Value container(PropertyList::Type type, int depth)
+    Parsed container(PropertyList::Type type, int depth)
     {
         QList<PropertyList> items;
         while (m_xml.readNextStartElement()) {
@@ -144,14 +144,14 @@ private:
             if (isKey != (m_xml.name() == "key"_L1)) {
                 return std::nullopt;
             }
-            const Value item = isKey ? textOf(m_xml.readElementText()) : value(depth + 1);
+            const Parsed item = isKey ? textOf(m_xml.readElementText()) : value(depth + 1);
             if (!item) {
                 return std::nullopt;
             }
             items.append(*item);
         }
         const bool isWhole = type == PropertyList::Type::Array || items.size() % 2 == 0;
-        return isWhole && !m_xml.hasError() ? Value({type, {}, items}) : std::nullopt;
+        return isWhole && !m_xml.hasError() ? Parsed({type, {}, items}) : std::nullopt;
     }
 
     QXmlStreamReader m_xml;

@@ -5,30 +5,30 @@
 #include <QJSEngine>
 
 namespace {
-Traits *shared = nullptr;
+Traits *sharedTraits = nullptr;
 }
 
 Traits::Traits(const DesktopAppearance &desktop) : m_desktop(desktop)
 {
-    Q_ASSERT(!shared);
-    shared = this;
+    Q_ASSERT(!sharedTraits);
+    sharedTraits = this;
 }
 
 Traits::~Traits()
 {
-    shared = nullptr;
+    sharedTraits = nullptr;
 }
 
 Traits &Traits::current()
 {
-    Q_ASSERT(shared);
-    return *shared;
+    Q_ASSERT(sharedTraits);
+    return *sharedTraits;
 }
 
 Traits *Traits::create(QQmlEngine *, QJSEngine *)
 {
-    QJSEngine::setObjectOwnership(shared, QJSEngine::CppOwnership);
-    return shared;
+    QJSEngine::setObjectOwnership(sharedTraits, QJSEngine::CppOwnership);
+    return sharedTraits;
 }
 
 void Traits::setDesktopAppearance(const DesktopAppearance &appearance)
