@@ -12,12 +12,36 @@ function(wzt_common target)
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
 endfunction()
 
-# A folder without drawings: wzt_library(wzt_model SOURCES ... PUBLIC libs PRIVATE libs)
+# A folder without drawings: wzt_library(wzt_model [MOC] SOURCES ... PUBLIC libs PRIVATE libs)
+# MOC: a class of it is a QObject, with signals, slots or properties of its own.
 function(wzt_library target)
-    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "MOC" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     add_library(${target} STATIC ${ARG_SOURCES})
+    set_target_properties(${target} PROPERTIES AUTOMOC ${ARG_MOC})
     wzt_common(${target})
     target_link_libraries(${target} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+endfunction()
+
+# The drawings of a room, compiled ahead of time by Qt's tools, are to the compiler one source: what each of
+# them includes costs more than its own lines.
+function(wzt_join_drawings target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/.*\\.cpp$")
+    foreach(source IN LISTS sources)
+        cmake_path(GET source PARENT_PATH room)
+        cmake_path(GET room FILENAME room)
+        list(APPEND rooms ${room})
+        string(APPEND drawings_${room} "#include \"${source}\"\n")
+    endforeach()
+    list(REMOVE_DUPLICATES rooms)
+    foreach(room IN LISTS rooms)
+        set(joined ${CMAKE_CURRENT_BINARY_DIR}/drawings/${room}.cpp)
+        file(CONFIGURE OUTPUT ${joined} CONTENT "${drawings_${room}}")
+        set_source_files_properties(${joined} PROPERTIES COMPILE_OPTIONS -w SKIP_AUTOGEN ON)
+        target_sources(${target} PRIVATE ${joined})
+    endforeach()
+    # They are still made with the target, and not compiled by themselves.
+    set_source_files_properties(${sources} PROPERTIES HEADER_FILE_ONLY ON)
 endfunction()
 
 # A folder that draws: one static library that is one QML module as well.
@@ -34,6 +58,7 @@ function(wzt_module target)
         set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     endif()
     qt_add_library(${target} STATIC)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
     # Nothing that Qt's tools write is looked at, so it is not worth compiling there.
     if(WZT_LINT)
         set(without_cache NO_CACHEGEN)
@@ -64,6 +89,12 @@ function(wzt_module target)
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "/(qmlcache|\\.rcc)/|_qmltyperegistrations\\.cpp$")
     set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+    wzt_join_drawings(${target})
+    foreach(part _qmlcache plugin plugin_init)
+        wzt_warnings(${target}${part})
+        wzt_precompiled_headers(${target}${part})
+        target_compile_options(${target}${part} PRIVATE -w)
+    endforeach()
 endfunction()
 
 # One test program: wzt_test(test_model [LABEL label] SOURCES ... LIBS ...), run by CTest on its own HOME.
@@ -71,9 +102,13 @@ endfunction()
 function(wzt_test name)
     cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     wzt_common(${name})
     # Test classes of one program call their helpers alike.
     set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    # What moc makes of a test class is included by its source, so hardly anything is left here.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
     set(home ${CMAKE_BINARY_DIR}/home/${name})
     file(MAKE_DIRECTORY ${home}/runtime)
