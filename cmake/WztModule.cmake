@@ -20,6 +20,24 @@ function(wzt_library target)
     target_link_libraries(${target} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
+# Code that the application loads when it first needs it, with the libraries that it stands on:
+#   wzt_loadable(wzt-http SOURCES ... LIBS ...)
+function(wzt_loadable target)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_library(${target} MODULE ${ARG_SOURCES})
+    wzt_common(${target})
+    # Nothing here calls the generated code of Qt's tools. One source is compiled for all.
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC OFF
+        PREFIX ""
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        UNITY_BUILD ON
+        LIBRARY_OUTPUT_DIRECTORY ${WZT_MODULES})
+    target_link_libraries(${target} PRIVATE Qt6::Core ${ARG_LIBS})
+    install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/wzt-companion)
+endfunction()
+
 # A folder that draws: one static library that is one QML module as well.
 #   wzt_module(wzt_screens URI Screens SOURCES ... QML ... SINGLETONS ... ASSETS ...
 #              IMPORTS UIKit PUBLIC libs PRIVATE libs)
