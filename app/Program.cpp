@@ -9,7 +9,6 @@
 #include "platform/uikit/presentation/UIWindow.h"
 
 #include <QFont>
-#include <QIcon>
 
 #include <csignal>
 
@@ -87,7 +86,7 @@ void Program::start()
 void Program::showWindow()
 {
     m_window = std::make_unique<DesktopWindow>(*m_shared->delegate().window(), displayName(),
-                                               QIcon(u":/icon.svg"_s));
+                                               u":/icon.svg"_s);
     QObject::connect(&m_window->view(), &QQuickWindow::sceneGraphError,
                      [](QQuickWindow::SceneGraphError, const QString &message) {
                          Renderer::fallBack();

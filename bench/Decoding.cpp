@@ -48,7 +48,7 @@ qsizetype decode(const QByteArray &body)
 
 } // namespace
 
-void measureDecoding()
+void measureDecoding(const QStringList &)
 {
     const QByteArray body = reply();
     QList<double> records;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Figures.h"
 
+#include <QFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -29,6 +30,17 @@ double quantile(QList<double> values, double share)
         values.begin() + static_cast<qsizetype>(share * static_cast<double>(values.size() - 1));
     std::nth_element(values.begin(), at, values.end());
     return *at;
+}
+
+double peakMebibytes(qint64 pid)
+{
+    QFile status(u"/proc/%1/status"_s.arg(pid > 0 ? QString::number(pid) : u"self"_s));
+    if (!status.open(QFile::ReadOnly)) {
+        return 0;
+    }
+    const QByteArray text = status.readAll();
+    const QByteArray number = text.mid(text.indexOf("VmHWM:") + 6).trimmed();
+    return number.first(number.indexOf(' ')).toDouble() / 1024;
 }
 
 Table::Table(const QString &title, const QStringList &columns)

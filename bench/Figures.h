@@ -26,6 +26,9 @@ template <class Work>
     return Milliseconds(std::chrono::steady_clock::now() - start).count();
 }
 
+/// The most memory that the process, 0 for this one, has had so far.
+[[nodiscard]] double peakMebibytes(qint64 pid = 0);
+
 /// Prints one table on the standard output, row by row as they come.
 class Table {
 public:

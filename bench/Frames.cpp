@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "bench/BareWindow.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
 #include "bench/Measurements.h"
 #include "bench/Scenes.h"
+#include "bench/floors/BareWindow.h"
 
 #include <QQuickView>
 
@@ -72,7 +72,7 @@ QStringList cells(const QList<double> &frames, const QList<double> &floor)
 
 } // namespace
 
-void measureFrames()
+void measureFrames(const QStringList &)
 {
     const Table table(
         u"Work for one frame at 390x844, in ms, the first time included, beside that of an empty "

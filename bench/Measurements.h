@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringList>
+
 // Each prints one table: figures of the application beside those of its floor.
 
-/// From exec to the first frame, and the memory that it took.
-void measureStarts();
+/// From exec to the first frame of the release: time, memory and instructions. Callgrind's
+/// reports are left in the folder that an argument names.
+void measureStarts(const QStringList &arguments);
 /// The work for one frame of each animation.
-void measureFrames();
+void measureFrames(const QStringList &arguments);
 /// As many issues as fit a reply.
-void measureDecoding();
+void measureDecoding(const QStringList &arguments);
 /// A request over a connection that is there.
-void measureRequests();
+void measureRequests(const QStringList &arguments);

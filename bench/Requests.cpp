@@ -30,7 +30,7 @@ void listIssues()
 
 } // namespace
 
-void measureRequests()
+void measureRequests(const QStringList &)
 {
     TestApp app;
     app.launch();

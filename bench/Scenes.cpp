@@ -13,7 +13,6 @@
 #include "screens/issues/WZTRootIssueViewController.h"
 
 #include <QEventLoop>
-#include <QIcon>
 #include <QTest>
 #include <QTimer>
 
@@ -113,7 +112,7 @@ Stage::Stage()
     m_app.service().addIssues(sandbox::demoIssues());
     m_app.keepUser(WZTUser(1, email, u"Jo"_s));
     m_app.launch();
-    m_host = std::make_unique<DesktopWindow>(*m_app.delegate().window(), QString(), QIcon());
+    m_host = std::make_unique<DesktopWindow>(*m_app.delegate().window(), QString(), QString());
     m_host->show();
     wait(moment);
 }

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "bench/Figures.h"
+#include "bench/Instructions.h"
 #include "bench/Measurements.h"
 #include "harness/TestApp.h"
-#include "model/BuildConstants.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -20,11 +21,10 @@ constexpr int patience = 10'000;
 
 struct Program {
     const char *name;
-    QString path;
-    /// Its user's home.
-    QString home;
+    Command command;
     QList<double> milliseconds = {};
     QList<double> mebibytes = {};
+    double instructions = 0;
 };
 
 /// As the probe counts.
@@ -35,30 +35,16 @@ qint64 nanoseconds()
     return now.tv_sec * 1'000'000'000LL + now.tv_nsec;
 }
 
-double peakMebibytes(qint64 pid)
-{
-    QFile status(u"/proc/%1/status"_s.arg(pid));
-    if (!status.open(QFile::ReadOnly)) {
-        return 0;
-    }
-    const QByteArray text = status.readAll();
-    const QByteArray number = text.mid(text.indexOf("VmHWM:") + 6).trimmed();
-    return number.first(number.indexOf(' ')).toDouble() / 1024;
-}
-
 /// Starts it, lets it come to rest after its first frame, and ends it.
 void run(Program &program)
 {
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"HOME"_s, program.home);
-    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(WZT_PROBE));
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(program.command.environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     const qint64 start = nanoseconds();
-    process.start(program.path);
+    process.start(program.command.program, program.command.arguments);
     if (!process.waitForReadyRead(patience)) {
-        qFatal("%s shows no frame", qPrintable(program.path));
+        qFatal("%s shows no frame", qPrintable(program.command.program));
     }
     const qint64 frame = process.readLine().trimmed().toLongLong();
     process.waitForFinished(300);
@@ -68,11 +54,41 @@ void run(Program &program)
     process.waitForFinished(patience);
 }
 
+/// Once is enough: the count is the same to a thousandth. Leaves a report in `folder`.
+void count(Program &program, const QString &folder)
+{
+    Command command = program.command;
+    command.environment.insert(u"WZT_PROBE_ENDS"_s, u"1"_s);
+    const QString report =
+        folder + "/callgrind.out."_L1 + QString::fromLatin1(program.name).replace(u' ', u'-');
+    program.instructions = millionInstructions(command, report);
+}
+
+/// A folder or a constant of the release, as ./dev names them.
+QString release(const char *name)
+{
+    if (!qEnvironmentVariableIsSet(name)) {
+        qFatal("%s is not set: ./dev bench sets it", name);
+    }
+    return qEnvironmentVariable(name);
+}
+
+Program measured(const char *name, const QString &path, const QTemporaryDir &home,
+                 const QStringList &arguments = {})
+{
+    const QString folder = release("WZT_RELEASE");
+    Program program{name, {.program = folder + path, .arguments = arguments}};
+    program.command.environment.insert(u"HOME"_s, home.path());
+    program.command.environment.insert(u"LD_PRELOAD"_s,
+                                       folder + "/bench/floors/libwzt-bench-probe.so"_L1);
+    return program;
+}
+
 void keepUser(const QString &home)
 {
-    const QString id = QString::fromLatin1(BuildConstants::applicationId);
+    const QString id = release("WZT_RELEASE_ID");
     const WZTUser user(1, u"jo@wzt.example"_s, u"Jo"_s);
-    NSUserDefaults defaults(id, home + "/.config/"_L1 + id);
+    NSUserDefaults defaults(id, home + "/.config"_L1);
     if (!defaults.setObject(TestApp::archived(user), u"currentUser"_s)) {
         qFatal("nobody can be signed in");
     }
@@ -80,15 +96,19 @@ void keepUser(const QString &home)
 
 } // namespace
 
-void measureStarts()
+void measureStarts(const QStringList &arguments)
 {
     const QTemporaryDir nobody;
     const QTemporaryDir somebody;
+    const QTemporaryDir reports;
     keepUser(somebody.path());
+    const auto window = u"/bench/floors/wzt-bench-window"_s;
+    const auto application = u"/app/wzt-companion"_s;
     Program programs[] = {
-        {"floor", QStringLiteral(WZT_BARE), nobody.path()},
-        {"signed out", QStringLiteral(WZT_PROGRAM), nobody.path()},
-        {"signed in", QStringLiteral(WZT_PROGRAM), somebody.path()},
+        measured("an empty window", window, nobody),
+        measured("one line of text", window, nobody, {u"WZT Companion"_s}),
+        measured("signed out", application, nobody),
+        measured("signed in", application, somebody),
     };
     for (Program &program : programs) {
         run(program); // from here on everything is in the machine's memory
@@ -100,14 +120,21 @@ void measureStarts()
             run(program);
         }
     }
-    const Program &floor = programs[0];
-    const Table table(u"From exec to the first frame, beside an empty window"_s,
-                      {u"figure"_s, u"floor"_s, u"times"_s});
-    for (const Program &program : {programs[1], programs[2]}) {
-        const QLatin1StringView name(program.name);
-        table.comparison(name + ", ms"_L1, median(program.milliseconds),
-                         median(floor.milliseconds));
-        table.comparison(name + ", MiB at most"_L1, median(program.mebibytes),
-                         median(floor.mebibytes));
+    for (Program &program : programs) {
+        count(program, arguments.value(0, reports.path()));
+    }
+    const Table table(u"From exec to the first frame, and how many times a window with one line of "
+                      "text in the application's font"_s,
+                      {u"ms"_s, u"times"_s, u"MiB"_s, u"times"_s, u"M instr."_s, u"times"_s});
+    const Program &floor = programs[1];
+    for (const Program &program : programs) {
+        QStringList cells;
+        const auto compare = [&cells](double figure, double of) {
+            cells += {Table::number(figure), Table::number(figure / of)};
+        };
+        compare(median(program.milliseconds), median(floor.milliseconds));
+        compare(median(program.mebibytes), median(floor.mebibytes));
+        compare(program.instructions, floor.instructions);
+        table.row(QLatin1StringView(program.name), cells);
     }
 }

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::pair<const char *, void (*)()> measurements[] = {
+constexpr std::pair<const char *, void (*)(const QStringList &arguments)> measurements[] = {
     {"starts", measureStarts},
     {"frames", measureFrames},
     {"decoding", measureDecoding},
@@ -29,17 +29,18 @@ int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(u"Inter"_s));
-    const QString wanted = QGuiApplication::arguments().value(1);
+    const QStringList arguments = QGuiApplication::arguments();
+    const QString wanted = arguments.value(1);
     bool isKnown = false;
     for (const auto &[name, measure] : measurements) {
         if (!wanted.isEmpty() && wanted != QLatin1StringView(name)) {
             continue;
         }
         isKnown = true;
-        measure();
+        measure(arguments.mid(2));
     }
     if (!isKnown) {
-        std::fputs("usage: wzt-bench [starts|frames|decoding|requests]\n", stderr);
+        std::fputs("usage: wzt-bench [starts [DIR]|frames|decoding|requests]\n", stderr);
     }
     return isKnown ? 0 : 2;
 }

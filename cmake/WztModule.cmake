@@ -44,6 +44,21 @@ function(wzt_join_drawings target)
     set_source_files_properties(${sources} PROPERTIES HEADER_FILE_ONLY ON)
 endfunction()
 
+# Code that the application loads when it first needs it, with the libraries that it stands on:
+#   wzt_loadable(wzt-http SOURCES ... LIBS ...)
+function(wzt_loadable target)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_library(${target} MODULE ${ARG_SOURCES})
+    wzt_common(${target})
+    set_target_properties(${target} PROPERTIES
+        PREFIX ""
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        LIBRARY_OUTPUT_DIRECTORY ${WZT_MODULES})
+    target_link_libraries(${target} PRIVATE Qt6::Core ${ARG_LIBS})
+    install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/wzt-companion)
+endfunction()
+
 # A folder that draws: one static library that is one QML module as well.
 #   wzt_module(wzt_screens URI Screens SOURCES ... QML ... SINGLETONS ... ASSETS ...
 #              IMPORTS UIKit PUBLIC libs PRIVATE libs)

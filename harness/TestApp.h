@@ -44,6 +44,8 @@ public:
 
     [[nodiscard]] sandbox::Sandbox &service() { return m_service; }
     [[nodiscard]] RecordingHost &host() { return m_host; }
+    /// For the next launch.
+    [[nodiscard]] NSURLSessionConfiguration &urlSession() { return m_settings.urlSession; }
     [[nodiscard]] QString folder() const { return m_folder.path(); }
 
     [[nodiscard]] UIApplication &application() { return m_shared->application(); }

@@ -9,7 +9,6 @@
 #include "platform/uikit/presentation/UIWindow.h"
 
 #include <QAccessible>
-#include <QIcon>
 #include <QQmlExpression>
 #include <QRegularExpression>
 
@@ -88,7 +87,7 @@ void TestWindow::open(UIWindow &window, const QSize &size, const DesktopAppearan
 {
     beStrict();
     UIApplication::sharedApplication()->traits().setOverride(appearance);
-    m_host = std::make_unique<DesktopWindow>(window, u"Test"_s, QIcon());
+    m_host = std::make_unique<DesktopWindow>(window, u"Test"_s, QString());
     m_view = &m_host->view();
     m_view->resize(size);
     m_host->show();

@@ -76,7 +76,7 @@ rules() {
     forbid '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
     local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|FocusFollower|ReadingOrder|SecretTextFilter|TableKeyboard|TableList)\.'
     forbid "^(?!platform/uikit/($drawn)|harness/|tests/|bench/|tools/|app/).*\.(h|cpp)$" '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
-    forbid '^(?!platform/foundation/url/HTTP\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP loader's sources only"
+    forbid '^(?!platform/foundation/http/\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP client's sources only"
     forbid '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
     forbid '\.(h|cpp)$' 'template<(.*[, ])?class ' 'A parameter of a template is a typename'
     forbid '\.(h|cpp)$' 'operator=\(const \w+ ?&\) = delete' 'Copies are ruled out by Q_DISABLE_COPY_MOVE'
@@ -90,7 +90,8 @@ rules() {
     may_include platform/foundation/dates
     may_include platform/foundation/coding platform/foundation/{base,dates}
     may_include platform/foundation/storage platform/foundation/coding platform/files
-    may_include platform/foundation/url platform/foundation/base
+    may_include platform/foundation/url platform/foundation/base platform/files
+    may_include platform/foundation/http platform/foundation/{base,url}
     may_include platform/uikit
     rooms platform/uikit input,appearance base controls text,bars presentation tables,alerts
     may_include platform/xlform platform/uikit

@@ -2,57 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Links.h"
 
+#include "platform/files/Module.h"
+
 #include <QByteArray>
 #include <QString>
 
-#include <gio/gio.h>
-
-#include <memory>
-
 namespace {
 
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-template <typename T>
-using Owned = std::unique_ptr<T, Unref>;
-
-Owned<GAppInfo> handlerOf(const QByteArray &url)
-{
-    const std::unique_ptr<char, decltype(&g_free)> scheme(g_uri_parse_scheme(url.constData()),
-                                                          g_free);
-    return Owned<GAppInfo>(scheme ? g_app_info_get_default_for_uri_scheme(scheme.get()) : nullptr);
-}
-
-// Removes the variables that concern only this process from the handler's environment.
-Owned<GAppLaunchContext> cleanContext()
-{
-    Owned<GAppLaunchContext> context(g_app_launch_context_new());
-    for (const char *name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
-        g_app_launch_context_unsetenv(context.get(), name);
-    }
-    if (qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:") {
-        g_app_launch_context_unsetenv(context.get(), "DBUS_SESSION_BUS_ADDRESS");
-    }
-    return context;
-}
+/// Loads GIO. Its functions take the URL in UTF-8.
+constexpr const char *gioModule = "wzt-links.so";
 
 } // namespace
 
 bool Links::hasHandler(const QString &url)
 {
-    return handlerOf(url.toUtf8()) != nullptr;
+    auto *hasHandler = Module::function<bool(const QByteArray &)>(gioModule, "linkHasHandler");
+    return hasHandler && hasHandler(url.toUtf8());
 }
 
-// g_app_info_launch_default_for_uri would read the target to guess its type, and open a portal's
-// dialog for a scheme without a handler.
 void Links::open(const QString &url)
 {
-    QByteArray bytes = url.toUtf8();
-    const Owned<GAppInfo> handler = handlerOf(bytes);
-    if (!handler) {
-        return;
+    if (auto *open = Module::function<void(const QByteArray &)>(gioModule, "openLink")) {
+        open(url.toUtf8());
     }
-    GList urls{bytes.data(), nullptr, nullptr};
-    g_app_info_launch_uris(handler.get(), &urls, cleanContext().get(), nullptr);
 }

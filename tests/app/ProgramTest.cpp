@@ -68,6 +68,29 @@ private Q_SLOTS:
         }
     }
 
+    /// They come with the first request and the first link.
+    void startsWithoutWhatLoginDoesNotNeed()
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_LOGGING_RULES"_s, u"qt.scenegraph.time.renderloop=true"_s);
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QStringLiteral(WZT_PROGRAM), runningArguments);
+        QByteArray log;
+        QTRY_VERIFY((log += program.readAll()).contains("Frame rendered"));
+        const auto pid = static_cast<pid_t>(program.processId());
+        QFile maps(u"/proc/%1/maps"_s.arg(pid));
+        QVERIFY(maps.open(QFile::ReadOnly));
+        const QByteArray files = maps.readAll();
+        QVERIFY(files.contains("libQt6Quick"));
+        for (const char *library : {"libcurl", "libssl", "libgio", "wzt-http.so"}) {
+            QVERIFY2(!files.contains(library), library);
+        }
+        kill(pid, SIGTERM);
+        QVERIFY(program.waitForFinished(TestRunner::patience));
+    }
+
     /// Where Qt's plugins, too, would wait for the bus of the desktop.
     void startsBesideAMuteBus()
     {

@@ -36,7 +36,7 @@ private Q_SLOTS:
             QCOMPARE(codeOf(method, url), code);
         }
         m_service.stageConnection(sandbox::ConnectionKind::NoHandshake);
-        const auto [file, address, time, length] = configuration(soon);
+        const auto [file, address, time, length, module] = configuration(soon);
         const std::pair<NSURLSessionConfiguration, int> sessions[] = {
             {{file, address, time}, NSURLErrorTimedOut},
             {{file + u".not"_s, address, idle}, NSURLErrorSecureConnectionFailed},

@@ -8,7 +8,7 @@
 #include "platform/foundation/dates/NSDateFormatter.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 #include "platform/foundation/url/NSURLComponents.h"
-#include "platform/foundation/url/URLOrigin.h"
+#include "platform/foundation/http/URLOrigin.h"
 #include "service/WZTAPI.h"
 #include "tests/fuzz/FixedReply.h"
 

@@ -126,6 +126,21 @@ private Q_SLOTS:
         QCOMPARE(app.service().requests()[0].target, flow->path + flow->query);
     }
 
+    /// Every request tries to load it again.
+    void withoutTheHTTPModule()
+    {
+        TestApp app;
+        app.urlSession().httpModule = app.folder() + "/wzt-http.so"_L1;
+        app.launch();
+        for (int i = 0; i < 2; ++i) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"wzt-http.so"_s));
+            signIn.start(app, typed);
+            QTRY_COMPARE(app.alert(), u"Error|An unknown error occured.|(Dismiss)"_s);
+            app.top<UIAlertController>()->triggerCancel();
+        }
+        QCOMPARE(app.service().requests().size(), 0);
+    }
+
     void emptyFieldsAreRefusedOnlyBySignIn()
     {
         TestApp app;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/url/HTTPProxy.h"
 #include "platform/foundation/url/NSError.h"
 #include "platform/foundation/url/NSMutableURLRequest.h"
 #include "platform/foundation/url/NSURLSessionConfiguration.h"
@@ -10,9 +11,8 @@
 #include <memory>
 #include <optional>
 
-/// Runs HTTPS transfers concurrently on the thread that calls wait(). It may be made on another
-/// thread, and reads the environment only when it is made. Its rules and limits are those of
-/// NSURLSession.
+/// Runs HTTPS transfers concurrently on the thread that calls wait(). Its rules and limits are
+/// those of NSURLSession.
 class HTTPLoader {
 public:
     /// The decoded body, or an error and an empty body.
@@ -23,24 +23,27 @@ public:
     /// Called once for each transfer, from start(), wait() or cancelAll(). May call start().
     using Finished = std::function<void(const Result &)>;
 
-    explicit HTTPLoader(const NSURLSessionConfiguration &configuration);
+    /// A loader from the module that the configuration names; null if it cannot be loaded.
+    [[nodiscard]] static std::unique_ptr<HTTPLoader>
+    load(const NSURLSessionConfiguration &configuration, const HTTPProxy &proxy);
+
+    HTTPLoader() = default;
     /// Ends transfers without calling their `Finished`; see cancelAll().
-    ~HTTPLoader();
+    virtual ~HTTPLoader() = default;
     Q_DISABLE_COPY_MOVE(HTTPLoader)
 
-    void start(const NSMutableURLRequest &request, Finished finished);
+    virtual void start(const NSMutableURLRequest &request, Finished finished) = 0;
 
     /// Ends every transfer with NSURLErrorCancelled.
-    void cancelAll();
+    virtual void cancelAll() = 0;
 
     /// Sleeps until a socket is ready, a transfer times out or wake() is called, and advances the
     /// transfers.
-    void wait();
+    virtual void wait() = 0;
 
     /// Ends the current wait(), or the next one. The only operation that any thread may call.
-    void wake();
-
-private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    virtual void wake() = 0;
 };
+
+/// The function of the module that makes its loader. The caller owns the result.
+using MakeHTTPLoader = HTTPLoader *(const NSURLSessionConfiguration &, const HTTPProxy &);

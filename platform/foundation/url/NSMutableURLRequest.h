@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/base/Overwrite.h"
+
 #include <QByteArray>
 
 /// A URL and a method. A request has no header fields and no body; a "POST" has its parameters in
@@ -10,9 +12,12 @@
 class NSMutableURLRequest {
 public:
     /// `url`: absolute and percent-encoded, as NSURLComponents makes it. The method is "GET".
-    [[nodiscard]] static NSMutableURLRequest requestWithURL(const QByteArray &url);
+    [[nodiscard]] static NSMutableURLRequest requestWithURL(const QByteArray &url)
+    {
+        return NSMutableURLRequest(url);
+    }
 
-    ~NSMutableURLRequest();
+    ~NSMutableURLRequest() { overwrite(m_url); }
     NSMutableURLRequest(const NSMutableURLRequest &) = default;
     NSMutableURLRequest(NSMutableURLRequest &&) = default;
     NSMutableURLRequest &operator=(const NSMutableURLRequest &) = default;

@@ -24,4 +24,9 @@ struct NSURLSessionConfiguration {
     /// Maximum length of a body in bytes after decompression. A longer one, or one of more than 64
     /// MiB before decompression, fails with NSURLErrorDataLengthExceedsMaximum.
     qsizetype maximumBodyLength = qsizetype{16} * 1024 * 1024;
+
+    /// The module with the HTTP client, loaded with the first request. A plain name is searched
+    /// where the application's modules are installed. Every request fails with NSURLErrorUnknown if
+    /// it cannot be loaded.
+    QString httpModule = QStringLiteral("wzt-http.so");
 };

@@ -4,7 +4,10 @@
 
 #include "platform/foundation/url/NSURLSessionDataTask.h"
 
-TaskQueue::TaskQueue(const NSURLSessionConfiguration &configuration) : m_loader(configuration) {}
+TaskQueue::TaskQueue(const NSURLSessionConfiguration &configuration)
+    : m_configuration(configuration)
+{
+}
 
 bool TaskQueue::enqueue(const Task &task)
 {
@@ -13,7 +16,7 @@ bool TaskQueue::enqueue(const Task &task)
         return false;
     }
     m_incoming.push_back(task);
-    m_loader.wake();
+    wake();
     return true;
 }
 
@@ -21,7 +24,17 @@ void TaskQueue::stop()
 {
     const std::lock_guard lock(m_mutex);
     m_stopping = true;
-    m_loader.wake();
+    wake();
+}
+
+/// With the mutex held.
+void TaskQueue::wake()
+{
+    if (m_loader) {
+        m_loader->wake();
+    } else {
+        m_wake.notify_one();
+    }
 }
 
 void TaskQueue::run()
@@ -34,22 +47,46 @@ void TaskQueue::run()
         if (incoming.stopping) {
             break;
         }
-        m_loader.wait();
+        if (m_loader) {
+            m_loader->wait();
+        }
     }
-    m_loader.cancelAll();
+    if (m_loader) {
+        m_loader->cancelAll();
+    }
     cancelIncoming();
 }
 
+/// Without a loader, waits until there is something to take.
 TaskQueue::Incoming TaskQueue::takeIncoming()
 {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
+    if (!m_loader) {
+        m_wake.wait(lock, [this] { return m_stopping || !m_incoming.empty(); });
+    }
     return {std::exchange(m_incoming, {}), m_stopping};
+}
+
+/// Null if its module cannot be loaded.
+HTTPLoader *TaskQueue::loader()
+{
+    if (!m_loader) {
+        std::unique_ptr<HTTPLoader> loaded = HTTPLoader::load(m_configuration, m_proxy);
+        const std::lock_guard lock(m_mutex);
+        m_loader = std::move(loaded);
+    }
+    return m_loader.get();
 }
 
 void TaskQueue::start(const Task &task)
 {
-    m_loader.start(task->originalRequest(),
-                   [this, task](const HTTPLoader::Result &result) { complete(task, result); });
+    HTTPLoader *const loaded = loader();
+    if (!loaded) {
+        complete(task, {{}, NSURLErrorUnknown});
+        return;
+    }
+    loaded->start(task->originalRequest(),
+                  [this, task](const HTTPLoader::Result &result) { complete(task, result); });
 }
 
 void TaskQueue::complete(const Task &task, const HTTPLoader::Result &result) const

@@ -5,6 +5,7 @@
 #include "platform/foundation/url/HTTPLoader.h"
 
 #include <atomic>
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -16,6 +17,7 @@ class TaskQueue {
 public:
     using Task = std::shared_ptr<NSURLSessionDataTask>;
 
+    /// Reads the proxy variables of the environment.
     explicit TaskQueue(const NSURLSessionConfiguration &configuration);
 
     /// False once run() accepts no more tasks. Any thread.
@@ -35,14 +37,20 @@ private:
         std::vector<Task> tasks;
         bool stopping = false;
     };
+    void wake();
     Incoming takeIncoming();
+    HTTPLoader *loader();
     void start(const Task &task);
     void complete(const Task &task, const HTTPLoader::Result &result) const;
     void cancelIncoming();
 
-    HTTPLoader m_loader;
+    const NSURLSessionConfiguration m_configuration;
+    const HTTPProxy m_proxy = HTTPProxy::fromEnvironment();
     std::atomic<bool> m_abandoned = false;
     std::mutex m_mutex;
+    std::condition_variable m_wake;
+    /// Made for the first task, by run().
+    std::unique_ptr<HTTPLoader> m_loader;
     std::vector<Task> m_incoming;
     bool m_stopping = false;
     bool m_closed = false;

@@ -7,10 +7,10 @@ import QtQuick
 /// Lengths that everything drawn shares, in points.
 QtObject {
     /// One device pixel.
-    readonly property real hairline: 1 / Qt.application.screens[0].devicePixelRatio // qmllint disable
+    readonly property real hairline: 1 / Traits.displayScale
 
     /// Where lines are read to: 1 for the right, -1 for the left.
-    readonly property int direction: Qt.application.layoutDirection === Qt.RightToLeft ? -1 : 1 // qmllint disable
+    readonly property int direction: Traits.isRightToLeft ? -1 : 1
 
     readonly property real margin: 16
     readonly property real row: 44

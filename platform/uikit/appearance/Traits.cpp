@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/appearance/Traits.h"
 
+#include <QGuiApplication>
 #include <QJSEngine>
+#include <QScreen>
 
 namespace {
 Traits *sharedTraits = nullptr;
@@ -12,6 +14,9 @@ Traits::Traits(const DesktopAppearance &desktop) : m_desktop(desktop)
 {
     Q_ASSERT(!sharedTraits);
     sharedTraits = this;
+    if (auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        connect(application, &QGuiApplication::layoutDirectionChanged, this, &Traits::changed);
+    }
 }
 
 Traits::~Traits()
@@ -29,6 +34,16 @@ Traits *Traits::create(QQmlEngine *, QJSEngine *)
 {
     QJSEngine::setObjectOwnership(sharedTraits, QJSEngine::CppOwnership);
     return sharedTraits;
+}
+
+bool Traits::isRightToLeft() const
+{
+    return QGuiApplication::isRightToLeft();
+}
+
+double Traits::displayScale() const
+{
+    return QGuiApplication::primaryScreen()->devicePixelRatio();
 }
 
 void Traits::setDesktopAppearance(const DesktopAppearance &appearance)

@@ -12,8 +12,8 @@
 class QJSEngine;
 class QQmlEngine;
 
-/// The style, the text scale and the motion that everything drawn follows, live, and the version of
-/// the platform that screens ask for. An override holds; the rest is what the desktop says.
+/// The style, the text scale, the motion and the direction that everything drawn follows, live, and
+/// the version of the platform that screens ask for. An override holds; the rest is what the desktop says.
 class Traits : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,6 +21,8 @@ class Traits : public QObject {
     Q_PROPERTY(bool dark READ isDark NOTIFY changed FINAL)
     Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed FINAL)
+    Q_PROPERTY(bool isRightToLeft READ isRightToLeft NOTIFY changed FINAL)
+    Q_PROPERTY(double displayScale READ displayScale NOTIFY changed FINAL)
 
 public:
     /// The application's traits from now on, until they are destroyed. There is one object at a
@@ -37,6 +39,11 @@ public:
     /// Factor on every text size, 1.0 for none.
     [[nodiscard]] double textScale() const { return effective().textScale; }
     [[nodiscard]] bool reduceMotion() const { return effective().reduceMotion; }
+
+    /// Whether lines are read from the right. An application with a window only.
+    [[nodiscard]] bool isRightToLeft() const;
+    /// The device pixels of a point. An application with a window only.
+    [[nodiscard]] double displayScale() const;
 
     /// Sets what the desktop says.
     void setDesktopAppearance(const DesktopAppearance &appearance);

@@ -16,14 +16,13 @@ constexpr int frame = 48;
 
 } // namespace
 
-DesktopWindow::DesktopWindow(UIWindow &window, const QString &title, const QIcon &icon)
+DesktopWindow::DesktopWindow(UIWindow &window, const QString &title, const QString &iconFile)
 {
     QQmlEngine &engine = *m_view.engine();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(),
                      &QCoreApplication::quit);
     m_view.setTitle(title);
-    m_view.setIcon(icon);
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.setMinimumSize({320, 568});
     m_view.resize(QSize(390, 844)
@@ -31,6 +30,11 @@ DesktopWindow::DesktopWindow(UIWindow &window, const QString &title, const QIcon
                       .expandedTo(m_view.minimumSize()));
     m_view.setInitialProperties({{QStringLiteral("control"), QVariant::fromValue(&window)}});
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/UIKit/UIWindowView.qml")));
+    // The icon is drawn after the first frame: whoever starts the application waits for that one.
+    const auto drawIcon = [this, iconFile] { m_view.setIcon(QIcon(iconFile)); };
+    QObject::connect(
+        &m_view, &QQuickWindow::frameSwapped, &m_view, drawIcon,
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 DesktopWindow::~DesktopWindow() = default;

@@ -13,8 +13,8 @@ class UIWindow;
 /// application's main loop. Which renderer draws it is left to Qt and to the environment.
 class DesktopWindow {
 public:
-    /// `window` outlives the host.
-    DesktopWindow(UIWindow &window, const QString &title, const QIcon &icon);
+    /// `window` outlives the host. `iconFile`: the file of the icon, empty for none.
+    DesktopWindow(UIWindow &window, const QString &title, const QString &iconFile);
     ~DesktopWindow();
 
     /// Shows the window, or brings it to the front.

@@ -10,7 +10,7 @@ FocusScope {
     required property UIWindow control
 
     focus: true
-    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Traits.isRightToLeft
     LayoutMirroring.childrenInherit: true
 
     Rectangle {

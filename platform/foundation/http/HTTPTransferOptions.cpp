@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/HTTPTransfer.h"
+#include "platform/foundation/http/HTTPTransfer.h"
 
 #include <curl/curl.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/HTTPBody.h"
+#include "platform/foundation/http/HTTPBody.h"
 
 #define ZLIB_CONST
 #include <zlib.h>

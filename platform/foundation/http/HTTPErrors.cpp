@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/HTTPErrors.h"
+#include "platform/foundation/http/HTTPErrors.h"
 
 #include <curl/curl.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/HTTPSecurity.h"
+#include "platform/foundation/http/HTTPSecurity.h"
 
 #include <curl/curl.h>
 #include <openssl/ssl.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/url/HTTPTransfer.h"
+#include "platform/foundation/http/HTTPTransfer.h"
 
-#include "platform/foundation/url/HTTPErrors.h"
+#include "platform/foundation/http/HTTPErrors.h"
 
 #include <curl/curl.h>
 

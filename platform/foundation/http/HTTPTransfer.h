@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/url/HTTPBody.h"
+#include "platform/foundation/http/HTTPBody.h"
+#include "platform/foundation/http/HTTPSecurity.h"
+#include "platform/foundation/http/URLOrigin.h"
 #include "platform/foundation/url/HTTPProxy.h"
-#include "platform/foundation/url/HTTPSecurity.h"
 #include "platform/foundation/url/NSMutableURLRequest.h"
-#include "platform/foundation/url/URLOrigin.h"
 
 #include <chrono>
 #include <cstdint>
