@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int count = 31'000;
-constexpr int rounds = 9;
+constexpr int decodingRounds = 9;
 
 QByteArray reply()
 {
@@ -53,7 +53,7 @@ void measureDecoding(const QStringList &)
     const QByteArray body = reply();
     QList<double> records;
     QList<double> document;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < decodingRounds; ++round) {
         records.append(timed([&] {
             if (decode(body) != count) {
                 qFatal("not every issue was read");

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rounds = 3;
+constexpr int frameRounds = 3;
 /// A frame that takes longer is seen to come late.
 constexpr double aim = 33;
 constexpr double shares[] = {0.5, 0.95, 1};
@@ -28,7 +28,7 @@ Sample play(const Scene &scene, Stage &stage)
 {
     FrameClock clock(stage.view());
     Sample sample;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < frameRounds; ++round) {
         scene.prepare(stage);
         clock.start();
         sample.time +=

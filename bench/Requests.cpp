@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rounds = 300;
+constexpr int requestRounds = 300;
 const auto package = u"example.wzt.tessaroo"_s;
 
 /// From the call to its completion, which decodes the reply.
@@ -38,7 +38,7 @@ void measureRequests(const QStringList &)
         + " HTTP/1.1\r\nHost: localhost\r\nAccept: */*\r\n\r\n";
     QList<double> figures;
     QList<double> floor;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < requestRounds; ++round) {
         figures.append(timed(listIssues));
         floor.append(timed([&] {
             BareConnection connection(app.service().port(), app.service().caFile());

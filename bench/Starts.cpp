@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rounds = 15;
+constexpr int startRounds = 15;
 constexpr int patience = 10'000;
 
 struct Program {
@@ -115,7 +115,7 @@ void measureStarts(const QStringList &arguments)
         program.milliseconds.clear();
         program.mebibytes.clear();
     }
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < startRounds; ++round) {
         for (Program &program : programs) {
             run(program);
         }

@@ -9,7 +9,7 @@
 
 namespace {
 
-using Refusal = std::tuple<const char *, QByteArray>;
+using ListRefusal = std::tuple<const char *, QByteArray>;
 
 QByteArray xml(const QByteArray &value)
 {
@@ -36,7 +36,7 @@ private Q_SLOTS:
         const QByteArray opening = QByteArray("<array>").repeated(65);
         const QByteArray closing = QByteArray("</array>").repeated(65);
         QVERIFY(PropertyList::fromData(xml("<string>&lt;&#228;<![CDATA[<]]></string>")));
-        addCases<Refusal>({
+        addCases<ListRefusal>({
             {"too long", xml("<array>" + QByteArray(65536, ' ') + "</array>")},
             {"empty", xml("")},
             {"two values", xml("<true/><true/>")},
@@ -52,7 +52,7 @@ private Q_SLOTS:
         });
     }
 
-    void invalidXML() { QVERIFY(!PropertyList::fromData(std::get<1>(currentCase<Refusal>()))); }
+    void invalidXML() { QVERIFY(!PropertyList::fromData(std::get<1>(currentCase<ListRefusal>()))); }
 
     void invalidBinary_data()
     {
@@ -79,7 +79,7 @@ private Q_SLOTS:
         places[0] = 0;
         QVERIFY(PropertyList::fromData(of(chain.mid(1) << "\x09"
                                                        << "\x09")));
-        addCases<Refusal>({
+        addCases<ListRefusal>({
             {"huge count of objects", of({"\x09"}, ~0ULL)},
             {"huge count of items", of({"\xaf\x13" + number(~0ULL, 8)})},
             {"huge length of text", of({"\x5f\x13" + number(~0ULL >> 1, 8)})},
@@ -95,7 +95,10 @@ private Q_SLOTS:
         });
     }
 
-    void invalidBinary() { QVERIFY(!PropertyList::fromData(std::get<1>(currentCase<Refusal>()))); }
+    void invalidBinary()
+    {
+        QVERIFY(!PropertyList::fromData(std::get<1>(currentCase<ListRefusal>())));
+    }
 
     /// Each of ten lists holds the next one ten times: ten thousand million values, written out.
     void equalValuesAreWrittenOnce()

@@ -18,11 +18,11 @@ namespace {
 
 using SettingGroups = QMap<QString, QVariantMap>;
 
-constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
-constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
+constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto portalInterface = "org.freedesktop.portal.Settings"_L1;
 const QString looks = u"org.freedesktop.appearance"_s;
 const QString desktop = u"org.gnome.desktop.interface"_s;
-const QString scheme = u"color-scheme"_s;
+const QString colorScheme = u"color-scheme"_s;
 constexpr auto neither = UIUserInterfaceStyle::Unspecified;
 constexpr auto light = UIUserInterfaceStyle::Light;
 constexpr auto dark = UIUserInterfaceStyle::Dark;
@@ -34,12 +34,14 @@ QVariant wrapped(const QVariant &value)
 
 struct Portal : FakeService {
     explicit Portal(const SettingGroups &settings = {})
-        : FakeService(u"org.freedesktop.portal.Desktop"_s, path, QVariant::fromValue(settings))
+        : FakeService(u"org.freedesktop.portal.Desktop"_s, portalPath,
+                      QVariant::fromValue(settings))
     {
     }
     void change(const QString &group, const QString &key, const QVariant &value) const
     {
-        QDBusMessage signal = QDBusMessage::createSignal(path, interface, u"SettingChanged"_s);
+        QDBusMessage signal =
+            QDBusMessage::createSignal(portalPath, portalInterface, u"SettingChanged"_s);
         bus.send(signal << group << key << wrapped(value));
     }
 };
@@ -99,7 +101,7 @@ private Q_SLOTS:
             const ObservedHost host;
             QTRY_COMPARE(portal.calls.size(), 1);
             QCOMPARE(portal.calls[0],
-                     (QVariantList{interface, u"ReadAll"_s, QStringList{looks, desktop}}));
+                     (QVariantList{portalInterface, u"ReadAll"_s, QStringList{looks, desktop}}));
             if (live) {
                 portal.change(group, key, value);
             }
@@ -117,7 +119,7 @@ private Q_SLOTS:
     {
         const ObservedHost host;
         for (const auto &[value, style] : {std::pair(1U, dark), {2U, light}, {0U, neither}}) {
-            const Portal portal(SettingGroups{{looks, {{scheme, value}}}});
+            const Portal portal(SettingGroups{{looks, {{colorScheme, value}}}});
             QTRY_COMPARE(host.last().style, style);
         }
         QCOMPARE(host.told.size(), 3);
@@ -131,9 +133,9 @@ private Q_SLOTS:
         QTRY_COMPARE(portal.calls.size(), 1);
         QGuiApplication::setPalette(QPalette(Qt::white, Qt::black));
         QTRY_COMPARE(host.last().style, dark);
-        portal.change(looks, scheme, 2U);
+        portal.change(looks, colorScheme, 2U);
         QTRY_COMPARE(host.last().style, light);
-        portal.change(looks, scheme, 0U);
+        portal.change(looks, colorScheme, 0U);
         QTRY_COMPARE(host.last().style, dark);
         QGuiApplication::setPalette(before);
         QTRY_COMPARE(host.last(), DesktopAppearance());

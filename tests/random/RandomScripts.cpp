@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint32 runs = 8000;
-constexpr int stepsOfARun = 60;
+constexpr quint32 scripts = 8000;
+constexpr int stepsOfAScript = 60;
 
 using Controller = std::shared_ptr<UIViewController>;
 using Cover = TransitionStack::Cover;
@@ -46,7 +46,7 @@ public:
 
     QString run()
     {
-        for (int i = 0; i < stepsOfARun && m_world.faults.isEmpty(); ++i) {
+        for (int i = 0; i < stepsOfAScript && m_world.faults.isEmpty(); ++i) {
             step();
             compare();
         }
@@ -291,7 +291,7 @@ private Q_SLOTS:
     void followTheRules()
     {
         QTest::failOnWarning(QRegularExpression(u"."_s));
-        RandomRuns::each(runs, [](quint32 seed) { return Script(seed).run(); });
+        RandomRuns::each(scripts, [](quint32 seed) { return Script(seed).run(); });
     }
 };
 

@@ -19,8 +19,8 @@ namespace {
 using sandbox::Fault;
 
 /// The Account tab.
-struct Stage : ScreenStage {
-    explicit Stage(const Options &options = {.size = {390, 844}, .appearance = {}})
+struct AccountStage : ScreenStage {
+    explicit AccountStage(const Options &options = {.size = {390, 844}, .appearance = {}})
         : ScreenStage("Account", options)
     {
     }
@@ -50,7 +50,7 @@ struct Stage : ScreenStage {
     [[nodiscard]] bool isRefreshing() { return table()->refreshControl()->isRefreshing(); }
 };
 
-struct Fit {
+struct AccountFit {
     const char *name;
     int width;
     double textScale;
@@ -59,12 +59,6 @@ struct Fit {
 };
 
 using Refresh = std::tuple<const char *, double, bool>;
-
-// Centres fall on whole points.
-bool isNear(double some, double other)
-{
-    return qAbs(some - other) <= 0.51;
-}
 
 } // namespace
 
@@ -77,7 +71,7 @@ private Q_SLOTS:
     {
         const QString name = u"Maximiliane "_s.repeated(8);
         const QString email = QString(90, u'x') + u"@wzt.example"_s;
-        addCases<Fit>({
+        addCases<AccountFit>({
             {"short", 390, 1, u"Jo"_s, u"jo@wzt.example"_s},
             {"short and large", 320, 2, u"Jo"_s, u"jo@wzt.example"_s},
             {"long", 768, 1, name, email},
@@ -87,8 +81,8 @@ private Q_SLOTS:
 
     void relations()
     {
-        const auto &[tag, width, textScale, userName, address] = currentCase<Fit>();
-        Stage stage({{width, 844}, {.textScale = textScale}, {1, address, userName}});
+        const auto &[tag, width, textScale, userName, address] = currentCase<AccountFit>();
+        AccountStage stage({{width, 844}, {.textScale = textScale}, {1, address, userName}});
         WZTAccountTableViewCell &cell = stage.card();
         const QRectF row = stage.rect(&cell);
         const QRectF card = stage.rect(cell.cardBackgroundView());
@@ -124,7 +118,7 @@ private Q_SLOTS:
 
     void smallCells()
     {
-        Stage stage(Stage::Options{});
+        AccountStage stage(AccountStage::Options{});
         auto &header = stage.cell<WZTHeaderTableViewCell>(1);
         const QRectF logo = stage.rect(header.logoImageView());
         const QRectF row = stage.rect(&header);
@@ -147,7 +141,7 @@ private Q_SLOTS:
 
     void theCardCutsTheFirstDivider()
     {
-        Stage stage({{390, 844}, {.style = UIUserInterfaceStyle::Light}});
+        AccountStage stage({{390, 844}, {.style = UIUserInterfaceStyle::Light}});
         const QImage image = stage.grab();
         const QRect divider = stage.rect(stage.card().dividerOneView()).toAlignedRect();
         const auto color = [&](int x) { return image.pixelColor(x, divider.top()); };
@@ -159,7 +153,7 @@ private Q_SLOTS:
 
     void aFingerOnTheButton()
     {
-        Stage stage;
+        AccountStage stage;
         const QPoint at = stage.rect(&stage.logout()).center().toPoint();
         Finger scrolling(stage.view(), at);
         scrolling.move(at + QPoint(0, 70));
@@ -184,7 +178,7 @@ private Q_SLOTS:
 
     void pullsToRefresh()
     {
-        Stage stage;
+        AccountStage stage;
         stage.service().updateAccount(
             {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
         stage.service().stage("/user.php", Fault::delay(std::chrono::milliseconds(600)));
@@ -204,7 +198,7 @@ private Q_SLOTS:
 
     void refreshesByKeyWhereItIsSeen()
     {
-        Stage stage({.size = {320, 400}});
+        AccountStage stage({.size = {320, 400}});
         stage.service().stage("/user.php", Fault::silence(), -1);
         stage.card().editButton()->activate();
         stage.settle();
@@ -241,7 +235,8 @@ private Q_SLOTS:
     void aRefreshThatEndsAtOnceLeavesTheTableInPlace()
     {
         const auto &[name, textScale, pulls] = currentCase<Refresh>();
-        Stage stage({textScale > 1 ? QSize(320, 568) : QSize(390, 844), {.textScale = textScale}});
+        AccountStage stage(
+            {textScale > 1 ? QSize(320, 568) : QSize(390, 844), {.textScale = textScale}});
         stage.service().stage("/user.php", Fault::close());
         if (pulls) {
             Finger finger(stage.view(), {30, 60});
@@ -260,7 +255,7 @@ private Q_SLOTS:
     /// as before it.
     void theCurrentControlOutlivesAnAlert()
     {
-        Stage stage;
+        AccountStage stage;
         QQuickItem *drawing = stage.drawing(stage.table());
         const auto *keyboard = drawing->findChild<TableKeyboard *>();
         for (int i = 0; i < 5 && !keyboard->hasActiveFocus(); ++i) {
@@ -277,7 +272,7 @@ private Q_SLOTS:
 
     void tabReachesWhatIsOutOfSight()
     {
-        Stage stage({.appearance = {.textScale = 2}});
+        AccountStage stage({.appearance = {.textScale = 2}});
         const QQuickItem *button = stage.drawing(&stage.logout());
         for (int i = 0; i < 10 && !button->hasActiveFocus(); ++i) {
             stage.key(Qt::Key_Tab);

@@ -20,8 +20,8 @@ constexpr char another[] = R"({"userTavloID":1,"userEmail":"jo@wzt.example","use
 const QString updated = u"Great!|Account successfully updated.|(Dismiss)"_s;
 
 // Jo is signed in and looks at the Account tab.
-struct Stage : TestApp {
-    Stage()
+struct AccountStage : TestApp {
+    AccountStage()
     {
         launchSignedIn();
         delegate().tabController()->setSelectedIndex(1);
@@ -87,7 +87,7 @@ private Q_SLOTS:
     void refreshes()
     {
         const auto &[name, reply, shown] = currentCase<Refresh>();
-        Stage stage;
+        AccountStage stage;
         stage.service().updateAccount(
             {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
         stage.service().stage("/user.php", reply);
@@ -125,7 +125,7 @@ private Q_SLOTS:
     void updates()
     {
         const auto &[name, texts, reply, sent, alert] = currentCase<Update>();
-        Stage stage;
+        AccountStage stage;
         if (!reply.isEmpty()) {
             stage.service().stage("/update.php", Fault::json(reply));
         }
@@ -155,7 +155,7 @@ private Q_SLOTS:
     void signingOutHolds()
     {
         const auto &[name, updates, next, alert] = currentCase<LateReply>();
-        Stage stage;
+        AccountStage stage;
         const auto screen = weak(&stage.screen());
         const auto holders = screen.use_count();
         stage.service().stage(updates ? "/update.php" : "/user.php",

@@ -29,8 +29,8 @@ Fault listOf(const QByteArrayList &titles)
 }
 
 // The projects are listed, and the service answers as staged.
-struct Stage : TestApp {
-    Stage()
+struct HomeStage : TestApp {
+    HomeStage()
     {
         launchSignedIn();
         delegate().rootVC()->showIssueProjectList();
@@ -75,7 +75,7 @@ class HomeTest : public QObject {
 private Q_SLOTS:
     void rowsAndTheirLinks()
     {
-        Stage stage;
+        HomeStage stage;
         TestApp &app = stage;
         WZTRootViewController &home = *app.delegate().rootVC();
         home.loadViewIfNeeded();
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
     void theAddButtonOpensTheForm()
     {
-        Stage stage;
+        HomeStage stage;
         WZTPackageIssuesViewController &screen = stage.open(1);
         QVERIFY(!stage.projects().tableView()->indexPathForSelectedRow());
         QTRY_COMPARE(stage.requests(), 1);
@@ -138,7 +138,7 @@ private Q_SLOTS:
             {listOf({"z", "a", "z"}), {u"z"_s, u"a"_s, u"z"_s}},
             {Fault::close(), {}},
         };
-        Stage stage;
+        HomeStage stage;
         stage.service().stage(path, Fault::close());
         WZTPackageIssuesViewController &screen = stage.open(0);
         QStringList before;
@@ -158,7 +158,7 @@ private Q_SLOTS:
 
     void aRowShowsWhatItsIssueHas()
     {
-        Stage stage;
+        HomeStage stage;
         stage.service().stage(path, Fault::json(R"([{"title":"One","description":"More"},
             {"title":"One"},{"description":"More"},{},{"title":"One","description":null}])"));
         WZTPackageIssuesViewController &screen = stage.open(0);
@@ -179,7 +179,7 @@ private Q_SLOTS:
     void lateReplies()
     {
         for (const bool cancelled : {false, true}) {
-            Stage stage;
+            HomeStage stage;
             stage.service().stage(path, listOf({"first"}).after(300ms));
             const QPointer<WZTPackageIssuesViewController> screen = &stage.open(0);
             QTRY_COMPARE(stage.requests(), 1);

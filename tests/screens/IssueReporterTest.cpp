@@ -23,8 +23,8 @@ const QString failure = u"Submission Error|There was a problem submitting your i
                         "If this persists, let WZT know.|(Dismiss)"_s;
 
 // Jo is signed in and has the form open for the first project.
-struct Stage : TestApp {
-    Stage()
+struct ReporterStage : TestApp {
+    ReporterStage()
     {
         launchSignedIn();
         open();
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void outcomes()
     {
         const auto &[name, title, notes, fault, sent, alert] = currentCase<Outcome>();
-        Stage stage;
+        ReporterStage stage;
         if (fault) {
             stage.service().stage("/submitissue.php", *fault);
         }
@@ -117,7 +117,7 @@ private Q_SLOTS:
 
     void everyTapIsASubmission()
     {
-        Stage stage;
+        ReporterStage stage;
         stage.title().edit(u"Twice"_s);
         stage.submit();
         stage.submit();
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void cancelSendsNothingAndHearsNothing()
     {
-        Stage stage;
+        ReporterStage stage;
         stage.title().edit(u"Never"_s);
         stage.cancel();
         QCOMPARE(stage.shown(), 1);

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Stage : ScreenStage {
-    Stage() : ScreenStage("Home", {.size = {390, 844}}) {}
+struct IssuesStage : ScreenStage {
+    IssuesStage() : ScreenStage("Home", {.size = {390, 844}}) {}
 };
 
 // A way to choose the item of that name.
@@ -53,7 +53,7 @@ private Q_SLOTS:
     void anIssueIsReported()
     {
         const auto choose = std::get<1>(currentCase<Way>());
-        Stage stage;
+        IssuesStage stage;
         TestWindow &window = stage;
         const auto go = [&](const QString &to) {
             choose(window, to);
@@ -96,7 +96,7 @@ private Q_SLOTS:
 
     void aDoubleTapGoesOneScreenFurther()
     {
-        Stage stage;
+        IssuesStage stage;
         const QPoint row = stage.centre(u"Bug Reporter"_s);
         for (int i = 0; i < 2; ++i) { // a project comes to the same place
             stage.tap(row);
@@ -107,7 +107,7 @@ private Q_SLOTS:
 
     void aSwipeBackChoosesAndScrollsNothing()
     {
-        Stage stage;
+        IssuesStage stage;
         stage.delegate().rootVC()->showIssueProjectList();
         stage.settle();
         const QPoint row(10, stage.centre(u"Marrow!"_s).y());
@@ -122,7 +122,7 @@ private Q_SLOTS:
 
     void theSpinnerIsOverTheMiddle()
     {
-        Stage stage;
+        IssuesStage stage;
         QVERIFY2(!stage.named(u"indicator"_s)->isVisible(), "Home");
         stage.service().stage("/issues.php", sandbox::Fault::silence());
         auto issues = make<WZTPackageIssuesViewController>(WZTPackage::allPackages().front());

@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Stage : ScreenStage {
-    explicit Stage(const QSize &size = {390, 844}, const DesktopAppearance &appearance = {})
+struct LoginStage : ScreenStage {
+    explicit LoginStage(const QSize &size = {390, 844}, const DesktopAppearance &appearance = {})
         : ScreenStage("Login", {size, appearance})
     {
     }
@@ -24,13 +24,7 @@ struct Stage : ScreenStage {
     WZTLoginViewController *login = top<WZTLoginViewController>();
 };
 
-using Fit = std::tuple<const char *, int, double>;
-
-// A centred text may start on a half point.
-bool isNear(double some, double other)
-{
-    return qAbs(some - other) <= 0.51;
-}
+using LoginFit = std::tuple<const char *, int, double>;
 
 } // namespace
 
@@ -41,13 +35,13 @@ class LoginDrawingTest : public QObject {
 private Q_SLOTS:
     void relations_data()
     {
-        addCases<Fit>({{"phone", 390, 1}, {"tablet", 768, 1}, {"small and large", 320, 2}});
+        addCases<LoginFit>({{"phone", 390, 1}, {"tablet", 768, 1}, {"small and large", 320, 2}});
     }
 
     void relations()
     {
-        const auto &[name, width, textScale] = currentCase<Fit>();
-        Stage stage({width, 844}, {.textScale = textScale});
+        const auto &[name, width, textScale] = currentCase<LoginFit>();
+        LoginStage stage({width, 844}, {.textScale = textScale});
         stage.login->activityIndicator()->startAnimating();
         const auto rect = [&](const QObject *control) { return stage.rect(control); };
         const QRectF logo = rect(stage.login->logoImageView());
@@ -78,7 +72,7 @@ private Q_SLOTS:
 
     void signInByKeyboard()
     {
-        Stage stage;
+        LoginStage stage;
         stage.service().addAccount({.email = u"jo@wzt.example"_s, .name = u"Jo"_s}, u"secret"_s);
         stage.type(u"jo@wzt.example"_s); // the keyboard is in the e-mail field
         stage.key(Qt::Key_Return);
@@ -90,7 +84,7 @@ private Q_SLOTS:
 
     void taps()
     {
-        Stage stage;
+        LoginStage stage;
         const auto edits = [](const UITextField *field) { return field->isFirstResponder(); };
         for (int i = 0; i < 2; ++i) { // one in the field that is edited ends nothing
             stage.tap(stage.login->passwordTextField());
@@ -107,7 +101,7 @@ private Q_SLOTS:
 
     void aHeldReturnActsOnce()
     {
-        Stage stage;
+        LoginStage stage;
         stage.key(Qt::Key_Tab);
         stage.hold(Qt::Key_Return); // nothing is typed: an alert
         QVERIFY(stage.top<UIAlertController>());
@@ -116,7 +110,7 @@ private Q_SLOTS:
 
     void closedScreensDieWithWhatDrewThem()
     {
-        Stage stage({390, 844}, {.reduceMotion = true});
+        LoginStage stage({390, 844}, {.reduceMotion = true});
         WZTTabBarController &tabs = *stage.delegate().tabController();
         const QObject *root = stage.view().contentItem();
         std::vector<QPointer<QObject>> closed;

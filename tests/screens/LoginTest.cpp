@@ -5,8 +5,8 @@
 #include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
-#include "screens/login/WZTLoginViewController.h"
 #include "service/TavloCategoryExtension.h"
+#include "tests/screens/LoginScreen.h"
 
 using namespace Qt::StringLiterals;
 using sandbox::Fault;
@@ -14,12 +14,6 @@ using sandbox::Fault;
 namespace {
 
 constexpr char aUser[] = R"({"userTavloID":42,"userEmail":"jo@wzt.example","userName":"Jo"})";
-
-WZTLoginViewController &login(TestApp &app)
-{
-    const auto controllers = app.delegate().window()->presentation()->controllers();
-    return dynamic_cast<WZTLoginViewController &>(*controllers.at(1));
-}
 
 void answerAlert(TestApp &app, const QString &text)
 {

@@ -7,7 +7,7 @@
 #include "screens/account/WZTUserViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
 #include "screens/issues/WZTRootIssueViewController.h"
-#include "screens/login/WZTLoginViewController.h"
+#include "tests/screens/LoginScreen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,11 +26,6 @@ struct Alert {
     QString alert;
     std::vector<UITextInputTraits> traits;
 };
-
-WZTLoginViewController &login(TestApp &app)
-{
-    return *app.top<WZTLoginViewController>();
-}
 
 bool isDrawnAs(const UIColor &color, const UIColor &expected)
 {

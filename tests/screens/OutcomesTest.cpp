@@ -6,7 +6,7 @@
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
-#include "screens/login/WZTLoginViewController.h"
+#include "tests/screens/LoginScreen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,11 +29,6 @@ struct Operation {
     std::optional<NSUInteger> userCode; // the code that may come with a user
     QStringList outcomes; // by code: an alert's title and message, or `closes`, or nothing
 };
-
-WZTLoginViewController &login(TestApp &app)
-{
-    return *app.top<WZTLoginViewController>();
-}
 
 } // namespace
 

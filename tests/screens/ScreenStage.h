@@ -25,6 +25,12 @@ struct Screen {
 /// The rectangle of an item, or of the text in it, in the window.
 [[nodiscard]] QRectF painted(const QQuickItem *item);
 
+/// Within half a point, where a centred text may start.
+[[nodiscard]] inline bool isNear(double some, double other)
+{
+    return qAbs(some - other) <= 0.51;
+}
+
 /// The application in its window, at one of its screens.
 class ScreenStage : public TestApp, public TestWindow {
 public:

@@ -12,14 +12,14 @@ namespace {
 
 /// A page and over it an alert of "Dismiss" and other actions; `triggered` gets the title of the
 /// one chosen.
-struct Stage : WindowStage {
+struct AlertStage : WindowStage {
     QString triggered;
     std::shared_ptr<TestPage> root = make<TestPage>(u"Root"_s);
     std::shared_ptr<UIAlertController> alert;
 
-    explicit Stage(const QStringList &fields, const QStringList &others = {},
-                   const QString &message = {}, const QSize &size = {390, 844},
-                   double textScale = 1)
+    explicit AlertStage(const QStringList &fields, const QStringList &others = {},
+                        const QString &message = {}, const QSize &size = {390, 844},
+                        double textScale = 1)
         : WindowStage({.textScale = textScale}), alert(make<UIAlertController>(u"Title"_s, message))
     {
         for (const QString &field : fields) {
@@ -43,7 +43,7 @@ const QStringList none;
 const QStringList both{u"Name"_s, u"Email"_s};
 const QStringList reset{u"Reset"_s};
 
-using Fit = std::tuple<const char *, QSize, double, QString, QStringList, bool>;
+using AlertFit = std::tuple<const char *, QSize, double, QString, QStringList, bool>;
 using Keys = std::tuple<const char *, QStringList, QStringList, QList<Qt::Key>, QString>;
 } // namespace
 
@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         const QString sentence = u"A sentence that takes several lines of the alert. "_s;
         const QStringList many{u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s, u"Five"_s, u"Six"_s};
-        addCases<Fit>({
+        addCases<AlertFit>({
             {"one", {390, 844}, 1, sentence, none, false},
             {"two", {320, 568}, 1, {}, reset, true},
             {"long", {768, 1024}, 1, {}, {u"Reset the whole password"_s}, false},
@@ -67,8 +67,8 @@ private Q_SLOTS:
 
     void fits()
     {
-        const auto &[name, size, textScale, message, others, sideBySide] = currentCase<Fit>();
-        Stage stage(both, others, message, size, textScale);
+        const auto &[name, size, textScale, message, others, sideBySide] = currentCase<AlertFit>();
+        AlertStage stage(both, others, message, size, textScale);
         stage.settle();
         const QList<QQuickItem *> parts = stage.items(u"RevealingFlickable"_s);
         QCOMPARE(parts.size(), 2);
@@ -111,7 +111,7 @@ private Q_SLOTS:
     void keysTrigger()
     {
         const auto &[name, fields, others, keys, triggered] = currentCase<Keys>();
-        Stage stage(fields, others);
+        AlertStage stage(fields, others);
         stage.keys(keys);
         stage.settle();
         QCOMPARE(stage.triggered, triggered);
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void touchesTriggerAndStayInside()
     {
-        Stage stage({}, reset);
+        AlertStage stage({}, reset);
         stage.settle();
         // The page below is dimmed and not touched.
         QQuickItem *page = stage.item(u"TransitionStackView"_s)->childItems().value(0);
@@ -146,7 +146,7 @@ private Q_SLOTS:
 
     void theKeyboardComesBack()
     {
-        Stage stage(both, reset);
+        AlertStage stage(both, reset);
         stage.key(Qt::Key_Tab);
         const auto second = make<UIAlertController>(u"Second"_s, QString());
         second->addAction(u"Dismiss"_s, UIAlertAction::Style::Cancel, [] {});

@@ -28,8 +28,8 @@ struct Swipe {
 using Transition = std::tuple<const char *, bool, bool, bool>;
 
 /// The page "Root" within a navigation controller.
-struct Stage : WindowStage {
-    explicit Stage(const DesktopAppearance &appearance = {}) : WindowStage(appearance)
+struct TransitionStage : WindowStage {
+    explicit TransitionStage(const DesktopAppearance &appearance = {}) : WindowStage(appearance)
     {
         show(navigation);
     }
@@ -105,7 +105,7 @@ private Q_SLOTS:
         }
         const int direction = swipe.mirrored ? -1 : 1;
         const auto at = [&](int x) { return QPoint(swipe.mirrored ? 389 - x : x, 400); };
-        Stage stage({.reduceMotion = swipe.reduceMotion});
+        TransitionStage stage({.reduceMotion = swipe.reduceMotion});
         const auto page = make<TestPage>(u"Page"_s);
         stage.navigation->pushViewController(page, false);
         const QList<QQuickItem *> entries = stage.items(u"TransitionEntryView"_s).mid(1);
@@ -143,7 +143,7 @@ private Q_SLOTS:
     // under an alert.
     void someSwipesMoveNothing()
     {
-        Stage stage;
+        TransitionStage stage;
         const auto page = make<TestPage>(u"Page"_s);
         const auto alert = make<UIAlertController>(u"Alert"_s, QString());
         const auto swipe = [&](const std::function<void()> &meanwhile = [] {}) {
@@ -185,7 +185,7 @@ private Q_SLOTS:
     void aScrollFromTheEdgeStaysOne()
     {
         const auto &[name, way, scrolls] = currentCase<std::tuple<const char *, QPoint, bool>>();
-        Stage stage;
+        TransitionStage stage;
         const auto table = make<SampleTable>(std::vector{100});
         stage.navigation->pushViewController(table, false);
         const QQuickItem *page = stage.items(u"TransitionEntryView"_s).value(2);
@@ -208,7 +208,7 @@ private Q_SLOTS:
     {
         for (const bool mirrored : {false, true}) {
             QGuiApplication::setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
-            Stage stage;
+            TransitionStage stage;
             stage.navigation->pushViewController(make<TestPage>(u"Page"_s), false);
             const QQuickItem *page = stage.items(u"TransitionEntryView"_s).value(2);
             QQuickView &view = stage.view();
@@ -235,7 +235,7 @@ private Q_SLOTS:
     // A page goes while it comes; another follows; a modal comes over both and goes while it comes.
     void interruptedTransitionsEnd()
     {
-        Stage stage;
+        TransitionStage stage;
         const auto page = make<TestPage>(u"Page"_s);
         const auto modal = make<TestPage>(u"Modal"_s);
         const auto second = make<TestPage>(u"Second"_s);
@@ -256,7 +256,7 @@ private Q_SLOTS:
 
     void closedWindowEndsTransitions()
     {
-        Stage stage;
+        TransitionStage stage;
         const auto modal = make<TestPage>(u"Modal"_s);
         stage.root->presentViewController(modal, true, modal->counted());
         stage.close();

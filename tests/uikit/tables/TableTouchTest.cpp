@@ -12,7 +12,7 @@ namespace {
 using Stage = TableStage;
 
 /// A touch of a table of a hundred rows, and how often it chooses the second row.
-struct Touch {
+struct TableTouch {
     const char *name;
     void (*run)(Stage &);
     int chosen;
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void rowsActWhenLetGoOf_data()
     {
-        addCases<Touch>({
+        addCases<TableTouch>({
             {"a tap", tap, 1},
             {"two quick taps", [](Stage &stage) { tap(stage), tap(stage); }, 2},
             {"a double click",
@@ -118,7 +118,7 @@ private Q_SLOTS:
 
     void rowsActWhenLetGoOf()
     {
-        const Touch &touch = currentCase<Touch>();
+        const TableTouch &touch = currentCase<TableTouch>();
         TableStage stage({100});
         touch.run(stage);
         QCOMPARE(stage.table->chosen,

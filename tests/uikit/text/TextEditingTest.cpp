@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A page whose name is "one two three", with the keyboard there and "clip" to be pasted.
-struct Stage : ControlsPage {
-    Stage()
+struct TextStage : ControlsPage {
+    TextStage()
     {
         QGuiApplication::clipboard()->setText(u"clip"_s);
         name.setText(u"one two three"_s);
@@ -40,26 +40,26 @@ struct Stage : ControlsPage {
     }
 };
 
-void longPress(Stage &stage)
+void longPress(TextStage &stage)
 {
     Finger finger(stage.window, stage.word());
     QTRY_VERIFY(!stage.menu().isEmpty());
     finger.lift();
 }
 
-void doubleTap(Stage &stage)
+void doubleTap(TextStage &stage)
 {
     stage.tap(stage.word());
     stage.tap(stage.word());
     stage.key(Qt::Key_Menu);
 }
 
-void rightClick(Stage &stage)
+void rightClick(TextStage &stage)
 {
     QTest::mouseClick(&stage.window, Qt::RightButton, {}, stage.word());
 }
 
-void selectAll(Stage &stage)
+void selectAll(TextStage &stage)
 {
     stage.key(Qt::Key_A, Qt::ControlModifier);
     stage.key(Qt::Key_F10, Qt::ShiftModifier);
@@ -69,7 +69,7 @@ void selectAll(Stage &stage)
 /// and the clipboard.
 struct Use {
     const char *name;
-    void (*open)(Stage &);
+    void (*open)(TextStage &);
     QString offered;
     QList<Qt::Key> keys;
     QString text;
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void editsArriveAndShow()
     {
-        Stage stage;
+        TextStage stage;
         EventLog log(stage.name);
         stage.key(Qt::Key_Backspace);
         stage.key(Qt::Key_Return);
@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     void linesPastedInOneMayBeTakenBack()
     {
-        Stage stage;
+        TextStage stage;
         EventLog log(stage.name);
         QGuiApplication::clipboard()->setText(u"1\n2\u20283"_s);
         for (const Qt::Key key : {Qt::Key_V, Qt::Key_Z, Qt::Key_V, Qt::Key_Z, Qt::Key_Y}) {
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
     void theMarkIsInSightWheneverAFieldHasTheKeyboard()
     {
-        Stage stage;
+        TextStage stage;
         stage.name.setText(u"many words "_s.repeated(9));
         stage.key(Qt::Key_End);
         const QQuickItem *editor = stage.window.activeFocusItem();
@@ -149,7 +149,7 @@ private Q_SLOTS:
 
     void secretsStaySecret()
     {
-        Stage stage;
+        TextStage stage;
         stage.secret.becomeFirstResponder();
         stage.type(u"hunter2"_s);
         for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_X}) {
@@ -196,7 +196,7 @@ private Q_SLOTS:
     void theMenuIsUsed()
     {
         const Use &use = currentCase<Use>();
-        Stage stage;
+        TextStage stage;
         EventLog button(stage.button);
         if (use.clipboard.isEmpty()) {
             QGuiApplication::clipboard()->clear();
@@ -217,7 +217,7 @@ private Q_SLOTS:
 
     void theMenuStaysInTheWindow()
     {
-        Stage stage;
+        TextStage stage;
         stage.window.resize(320, 568);
         stage.application.traits().setOverride(DesktopAppearance{.textScale = 2});
         const QRect window(stage.window.mapToGlobal(QPoint()), QSize(320, 568));
