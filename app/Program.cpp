@@ -16,6 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The size of most texts. What asks for the size of a text before it knows the text's font takes this
+/// one, and another font need not be loaded for it.
+constexpr int bodySize = 17;
+
 QString displayName()
 {
     return QString::fromUtf8(BuildConstants::displayName);
@@ -50,7 +54,9 @@ Program::Program(int &argc, char *argv[], const NSURLSessionConfiguration &urlSe
     QGuiApplication::setApplicationDisplayName(displayName());
     QGuiApplication::setApplicationVersion(QString::fromLatin1(BuildConstants::version));
     QGuiApplication::setDesktopFileName(applicationId());
-    QGuiApplication::setFont(QFont(u"Inter"_s));
+    QFont font(u"Inter"_s);
+    font.setPixelSize(bodySize);
+    QGuiApplication::setFont(font);
 }
 
 Program::~Program() = default;

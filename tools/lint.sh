@@ -74,7 +74,7 @@ rules() {
     forbid '\.qml$' '^import QtQuick\.Controls' 'Qt Quick Controls are not used'
     forbid '\.qml$' '\bproperty var\b' 'Properties have a type'
     forbid '\.(h|cpp)$' '\bsetContextProperty\b' 'QML is given properties, no context'
-    local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|FocusFollower|ReadingOrder|SecretTextFilter|TableKeyboard|TableList)\.'
+    local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|FocusFollower|ReadingOrder|SecretTextFilter|Separator|TableKeyboard|TableList)\.'
     forbid "^(?!platform/uikit/($drawn)|harness/|tests/|bench/|tools/|app/).*\.(h|cpp)$" '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     forbid '^(?!platform/foundation/http/\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP client's sources only"
     forbid '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'

@@ -16,7 +16,7 @@ UIViewView {
         id: page
 
         anchors.fill: parent
-        anchors.bottomMargin: Metrics.covered(root.height)
+        anchors.bottomMargin: Metrics.covered(root.height, Metrics.keyboard)
         contentHeight: indicator.y + indicator.implicitHeight + Metrics.margin
 
         UIImageViewView {

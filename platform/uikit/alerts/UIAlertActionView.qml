@@ -61,9 +61,10 @@ PressArea {
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }
-    Separator { anchors.top: parent.top }
+    Separator { width: parent.width }
     Separator {
         vertical: true
+        height: parent.height
         visible: root.beside
     }
     FocusRing {

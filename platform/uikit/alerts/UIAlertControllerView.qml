@@ -10,7 +10,7 @@ FocusScope {
 
     required property UIAlertController controller
 
-    readonly property real room: height - Metrics.covered(height) - 2 * Metrics.margin
+    readonly property real room: height - Metrics.covered(height, Metrics.keyboard) - 2 * Metrics.margin
 
     focus: true
 

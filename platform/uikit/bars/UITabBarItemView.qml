@@ -37,7 +37,7 @@ PressArea {
         height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
-        font: Theme.tabTitleFont
+        font: text ? Theme.tabTitleFont : Theme.bodyFont // an empty text loads its font, too
         fontSizeMode: Text.VerticalFit
         minimumPixelSize: 9
         color: root.shown

@@ -54,5 +54,5 @@ FocusScope {
             }
         }
     }
-    Separator { anchors.top: parent.top }
+    Separator { width: parent.width }
 }

@@ -27,7 +27,7 @@ Item {
         height: 20
 
         Repeater {
-            model: root.spokes
+            model: root.visible ? root.spokes : 0
 
             Rectangle {
                 id: spoke

@@ -14,7 +14,8 @@ Text {
     height: text ? implicitHeight : 0
     text: control.text
     textFormat: Text.PlainText
-    font: control.font.toQFont(Traits.textScale)
+    // An empty text loads its font, too.
+    font: text ? control.font.toQFont(Traits.textScale) : Theme.bodyFont
     color: control.textColor.toQColor(Traits.dark)
     elide: lines > 0 ? Text.ElideRight : Text.ElideNone
     wrapMode: lines === 1 ? Text.NoWrap : Text.Wrap

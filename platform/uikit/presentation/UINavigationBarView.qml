@@ -15,23 +15,34 @@ Rectangle {
     /// The room beside the centred title.
     readonly property real side: (width - title.width) / 2 - Metrics.margin
 
+    readonly property UIBarButtonItem leftItem: page?.navigationItem.leftBarButtonItem ?? null
+    readonly property UIBarButtonItem rightItem: page?.navigationItem.rightBarButtonItem ?? null
+
+    /// A place for a button, which is loaded once there is one.
+    component Place: Loader {
+        required property bool needed
+
+        height: parent.height
+        visible: needed
+        function load(file: string, properties: var) {
+            if (needed && status === Loader.Null)
+                setSource(file, properties)
+        }
+    }
+
     implicitHeight: Metrics.navigationBar
     color: Theme.barColor
 
-    BackButton {
+    Place {
         anchors.left: parent.left
-        height: parent.height
-        visible: root.controller.canGoBack && !left.visible
-        title: root.controller.backTitle
-        room: root.side
-        onTriggered: root.controller.goBack()
+        needed: root.controller.canGoBack && !left.needed
+        onNeededChanged: load("BackButton.qml", {"bar": root})
     }
-    UIBarButtonItemView {
+    Place {
         id: left
         anchors.left: parent.left
-        height: parent.height
-        item: root.page?.navigationItem.leftBarButtonItem ?? null
-        room: root.buttonRoom
+        needed: root.leftItem !== null
+        onNeededChanged: load("UIBarButtonItemView.qml", {"bar": root, "trailing": false})
     }
     TextMetrics {
         id: natural
@@ -65,12 +76,11 @@ Rectangle {
             duration: Durations.title
         }
     }
-    UIBarButtonItemView {
+    Place {
         id: right
         anchors.right: parent.right
-        height: parent.height
-        item: root.page?.navigationItem.rightBarButtonItem ?? null
-        room: root.buttonRoom
+        needed: root.rightItem !== null
+        onNeededChanged: load("UIBarButtonItemView.qml", {"bar": root, "trailing": true})
     }
     Connections {
         target: root.controller
@@ -79,5 +89,8 @@ Rectangle {
                 appearing.restart()
         }
     }
-    Separator { anchors.bottom: parent.bottom }
+    Separator {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
 }

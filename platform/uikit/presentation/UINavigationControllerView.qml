@@ -41,11 +41,13 @@ FocusScope {
         stack: root.controller.pages
         pages: true
     }
-    BackSwipe {
+    Loader {
+        readonly property bool needed: root.controller.canGoBack
+
         anchors.top: pageStack.top
         anchors.bottom: pageStack.bottom
         anchors.left: parent.left
-        controller: root.controller
-        pages: pageStack
+        onNeededChanged: if (needed && status === Loader.Null)
+            setSource("BackSwipe.qml", {"controller": root.controller, "pages": pageStack})
     }
 }

@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// One entry of a table: a row, or the text or space above or below a section.
+/// One entry of a table: a row, or the text or space above or below a section. A space has no drawing.
 Loader {
     id: root
 
@@ -15,10 +15,17 @@ Loader {
     required property int position
     required property int rows
 
-    width: ListView.view?.width ?? 0
-    height: fixedHeight >= 0 ? fixedHeight : implicitHeight
+    function load() {
+        if (status === Loader.Null && (cell || text))
+            setSource(cell ? "TableRowView.qml" : "TableFooterView.qml", {"entry": root})
+    }
 
-    Component.onCompleted: setSource(cell ? "TableRowView.qml" : "TableSpaceView.qml", {"entry": root})
+    width: ListView.view?.width ?? 0
+    height: fixedHeight >= 0 ? fixedHeight : cell || text ? implicitHeight
+        : index === 0 ? 2 * Metrics.sectionSpace : Metrics.sectionSpace
+
+    onTextChanged: load()
+    Component.onCompleted: load()
     Component.onDestruction: if (cell)
         table?.cellHidden(cell)
 

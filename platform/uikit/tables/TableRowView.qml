@@ -46,15 +46,23 @@ Item {
         anchors.fill: parent
         color: root.cell.backgroundColor.toQColor(Traits.dark)
     }
-    Rectangle {
-        objectName: "selection"
-        anchors.fill: parent
-        color: Theme.selectedRowColor
-        opacity: root.cell.drawsSelection ? 1 : 0
+    Loader {
+        // Few rows are ever selected.
+        readonly property bool needed: root.cell.drawsSelection
 
-        Behavior on opacity {
-            enabled: root.cell.animatesSelection && !Traits.reduceMotion
-            NumberAnimation { duration: Durations.deselection }
+        anchors.fill: parent
+        active: false
+        onNeededChanged: if (needed)
+            active = true
+        sourceComponent: Rectangle {
+            objectName: "selection"
+            color: Theme.selectedRowColor
+            opacity: root.cell.drawsSelection ? 1 : 0
+
+            Behavior on opacity {
+                enabled: root.cell.animatesSelection && !Traits.reduceMotion
+                NumberAnimation { duration: Durations.deselection }
+            }
         }
     }
     PressArea {
@@ -76,10 +84,13 @@ Item {
         }
     }
     Separator {
+        width: parent.width
         visible: root.entry.table.drawsSeparators && root.entry.position === 1
     }
     Separator {
         objectName: "separator"
+        anchors.left: parent.left
+        anchors.right: parent.right
         anchors.leftMargin: root.entry.position < root.entry.rows ? root.separatorInset : 0
         y: root.height - height
         visible: root.entry.table.drawsSeparators

@@ -71,7 +71,7 @@ Rectangle {
         // a row leaves there and the heights of unseen rows are estimated anew.
         boundsMovement: Flickable.StopAtBounds
         contentItem.transform: Translate { y: -list.verticalOvershoot }
-        bottomMargin: Metrics.covered(root.Window.height)
+        bottomMargin: Metrics.covered(root.Window.height, Metrics.keyboard)
         onBottomMarginChanged: returnToBounds()
     }
     FocusRing {

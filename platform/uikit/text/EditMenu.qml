@@ -16,7 +16,7 @@ KeyGrabber {
     /// The place in the window that the menu stands above, or below where there is no room.
     required property rect place
 
-    readonly property real room: height - Metrics.covered(height)
+    readonly property real room: height - Metrics.covered(height, Metrics.keyboard)
     property int line: -1
 
     function move(step: int) {

@@ -42,6 +42,8 @@ PressArea {
         Accessible.ignored: true
     }
     Separator {
+        anchors.left: parent.left
+        anchors.right: parent.right
         anchors.leftMargin: Metrics.margin
         visible: !root.first
     }

@@ -9,13 +9,13 @@ import UIKit
 PressArea {
     id: root
 
-    required property string title
-    /// How wide the button may be.
-    required property real room
+    required property UINavigationBarView bar
 
+    readonly property string title: bar.controller.backTitle
     readonly property real inset: 28
 
     implicitWidth: Math.max(Metrics.row, label.visible ? inset + label.width : 0)
+    onTriggered: bar.controller.goBack()
     opacity: highlighted ? Metrics.highlightedOpacity : 1
 
     Accessible.role: Accessible.Button
@@ -47,7 +47,7 @@ PressArea {
         anchors.left: parent.left
         anchors.leftMargin: root.inset
         height: parent.height
-        visible: root.inset + implicitWidth <= root.room
+        visible: root.inset + implicitWidth <= root.bar.side
         text: root.title
         textFormat: Text.PlainText
         font: Theme.bodyFont

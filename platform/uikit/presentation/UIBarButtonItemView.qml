@@ -4,18 +4,17 @@ import QtQuick
 import UIKit
 
 /// A button of a navigation bar: a text that becomes smaller where there is no room for it, or a
-/// plus. Without an item it takes no width.
+/// plus.
 PressArea {
     id: root
 
-    required property UIBarButtonItem item
-    /// How wide the button may be.
-    required property real room
+    required property UINavigationBarView bar
+    required property bool trailing
 
+    readonly property UIBarButtonItem item: trailing ? bar.rightItem : bar.leftItem
     readonly property real content: item?.drawsPlus ? Metrics.barGlyph : Math.ceil(natural.advanceWidth)
 
-    implicitWidth: item ? Math.max(Metrics.row, Math.min(content + 2 * Metrics.margin, room)) : 0
-    visible: item !== null
+    implicitWidth: item ? Math.max(Metrics.row, Math.min(content + 2 * Metrics.margin, bar.buttonRoom)) : 0
     opacity: highlighted ? Metrics.highlightedOpacity : 1
     onTriggered: item.trigger()
 

@@ -3,15 +3,13 @@
 import QtQuick
 import UIKit
 
-/// The space above or below a section, with the text of its footer, if it has one.
+/// The text below a section.
 Item {
     id: root
 
     required property TableEntryView entry
 
-    readonly property real space: entry.index === 0 ? 2 * Metrics.sectionSpace : Metrics.sectionSpace
-
-    implicitHeight: entry.text ? Metrics.footerSpaceAbove + label.implicitHeight + Metrics.footerSpaceBelow : space
+    implicitHeight: Metrics.footerSpaceAbove + label.implicitHeight + Metrics.footerSpaceBelow
 
     Text {
         id: label
