@@ -22,7 +22,7 @@ namespace {
 constexpr auto duration = 30s;
 /// Until the last transition is over, and what was only needed for it is gone.
 constexpr auto settling = 3s;
-constexpr int patience = 60'000;
+constexpr int idlePatience = 60'000;
 /// Of a second: a text cursor that appears and disappears.
 constexpr int blinks = 2;
 
@@ -37,7 +37,7 @@ std::unique_ptr<QProcess> start(const Rest &rest)
 
 void awaitRest(QProcess &process)
 {
-    if (!process.waitForReadyRead(patience)) {
+    if (!process.waitForReadyRead(idlePatience)) {
         qFatal("the application does not come to rest");
     }
 }
@@ -45,7 +45,7 @@ void awaitRest(QProcess &process)
 void end(QProcess &process)
 {
     process.terminate();
-    process.waitForFinished(patience);
+    process.waitForFinished(idlePatience);
 }
 
 /// What each thread has done in between.

@@ -47,9 +47,9 @@ void NSURLSessionDataTask::resume()
     complete(currentReply, std::nullopt);
 }
 
-void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<URLErrorCode>)
+void NSURLSessionDataTask::complete(QByteArray data, std::optional<URLErrorCode>)
 {
-    m_completion(data, std::nullopt);
+    m_completion(std::move(data), std::nullopt);
 }
 
 void completeEveryTaskWith(const QByteArray &reply)

@@ -151,7 +151,7 @@ private Q_SLOTS:
 
     void theMarkBlinksOnlyWhereItIsSeen()
     {
-        Stage stage;
+        TextStage stage;
         const QList<QObject *> parts = stage.window.activeFocusItem()->findChildren<QObject *>();
         const auto isTimer = [](const QObject *part) { return part->property("lit").isValid(); };
         const auto timer = std::find_if(parts.begin(), parts.end(), isTimer);
