@@ -35,6 +35,11 @@ void Renderer::choose()
     if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     }
+    // Qt waits 5 ms for further changes, by a timer. Animations change everything at
+    // the same time, and the window system joins movements.
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME")) {
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    }
 }
 
 void Renderer::fallBack()

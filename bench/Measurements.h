@@ -13,5 +13,7 @@ void measureStarts(const QStringList &arguments);
 void measureFrames(const QStringList &arguments);
 /// As many issues as fit a reply.
 void measureDecoding(const QStringList &arguments);
+/// What the application does while nothing happens.
+void measureIdle(const QStringList &arguments);
 /// A request over a connection that is there.
 void measureRequests(const QStringList &arguments);

@@ -102,15 +102,23 @@ void pullToRefresh(Stage &stage)
     Stage::wait(2 * moment);
 }
 
+void hideWhileEditing(Stage &stage)
+{
+    showAccountAndEdit(stage);
+    stage.view().hide();
+}
+
 void nothing(Stage &) {}
 
 } // namespace
 
-Stage::Stage()
+Stage::Stage(bool isSignedIn)
 {
     m_app.service().addAccount({.email = email, .name = u"Jo"_s}, u"secret"_s);
     m_app.service().addIssues(sandbox::demoIssues());
-    m_app.keepUser(WZTUser(1, email, u"Jo"_s));
+    if (isSignedIn) {
+        m_app.keepUser(WZTUser(1, email, u"Jo"_s));
+    }
     m_app.launch();
     m_host = std::make_unique<DesktopWindow>(*m_app.delegate().window(), QString(), QString());
     m_host->show();
@@ -150,5 +158,17 @@ std::vector<Scene> allScenes()
         {"an alert with fields comes", showAccount, edit, dismiss},
         {"an alert with fields goes", showAccountAndEdit, dismiss, nothing},
         {"a table is pulled to refresh", showAccount, pullToRefresh, showHome},
+    };
+}
+
+std::vector<Rest> allRests()
+{
+    return {
+        {"Login", false, true, nothing},
+        {"Home", true, false, nothing},
+        {"Account", true, false, showAccount},
+        {"2,000 issues", true, false, presentManyIssues},
+        {"an alert with a field", true, true, showAccountAndEdit},
+        {"the same in a hidden window", true, false, hideWhileEditing},
     };
 }

@@ -9,10 +9,10 @@
 #include <memory>
 #include <vector>
 
-/// Home of a signed-in user in a window, over a service with issues to show.
+/// Home of a signed-in user, or Login, in a window, over a service with issues to show.
 class Stage {
 public:
-    Stage();
+    explicit Stage(bool isSignedIn = true);
 
     [[nodiscard]] AppDelegate &delegate() { return m_app.delegate(); }
     [[nodiscard]] QQuickView &view() { return m_host->view(); }
@@ -39,3 +39,15 @@ struct Scene {
 };
 
 [[nodiscard]] std::vector<Scene> allScenes();
+
+/// A place at which nothing happens until a person does something.
+struct Rest {
+    const char *name;
+    bool isSignedIn;
+    /// Whether a text cursor blinks there.
+    bool hasCursor;
+    /// Brings the window from where it begins to there.
+    std::function<void(Stage &stage)> reach;
+};
+
+[[nodiscard]] std::vector<Rest> allRests();

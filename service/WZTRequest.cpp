@@ -28,6 +28,13 @@ NSMutableURLRequest urlRequest(const WZTRequest &request)
 
 void WZTRequest::send(std::function<void(const Reply &)> completion) const
 {
+    sendForBody([completion = std::move(completion)](const Body &body) {
+        completion(body ? QJsonDocument::fromJson(*body) : Reply());
+    });
+}
+
+void WZTRequest::sendForBody(std::function<void(Body)> completion) const
+{
     NSURLSession *session = NSURLSession::sharedSession();
     if (!session) {
         completion(std::nullopt);
@@ -36,8 +43,8 @@ void WZTRequest::send(std::function<void(const Reply &)> completion) const
     session
         ->dataTaskWithRequest(urlRequest(*this),
                               [completion = std::move(completion)](
-                                  const QByteArray &data, const std::optional<NSError> &error) {
-                                  completion(error ? Reply() : QJsonDocument::fromJson(data));
+                                  QByteArray data, const std::optional<NSError> &error) {
+                                  completion(error ? Body() : std::move(data));
                               })
         ->resume();
 }

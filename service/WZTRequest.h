@@ -17,6 +17,8 @@ struct WZTRequest {
     /// Nil for a transport error; a null document for a body that is neither a JSON object nor
     /// a JSON list.
     using Reply = std::optional<QJsonDocument>;
+    /// Nil for a transport error.
+    using Body = std::optional<QByteArray>;
 
     /// "GET" or "POST".
     QByteArray method;
@@ -28,4 +30,6 @@ struct WZTRequest {
     /// Sends the request over the shared URL session and returns at once. `completion` runs exactly
     /// once, on the session's thread; without a session it runs on this one, before the return.
     void send(std::function<void(const Reply &)> completion) const;
+    /// The same for a reply that is read otherwise. Nobody else holds the body.
+    void sendForBody(std::function<void(Body)> completion) const;
 };

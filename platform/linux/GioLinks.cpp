@@ -28,7 +28,8 @@ Owned<GAppInfo> handlerOf(const QByteArray &url)
 Owned<GAppLaunchContext> cleanContext()
 {
     Owned<GAppLaunchContext> context(g_app_launch_context_new());
-    for (const char *name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
+    for (const char *name :
+         {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID", "QT_QPA_UPDATE_IDLE_TIME"}) {
         g_app_launch_context_unsetenv(context.get(), name);
     }
     if (qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:") {

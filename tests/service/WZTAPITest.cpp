@@ -213,6 +213,14 @@ private Q_SLOTS:
     {
         // The code, and the titles where a list is handed over.
         const QByteArray most = '[' + QByteArray("1,{},").repeated(100'000);
+        // Longer than the pieces that a list is read in.
+        const QByteArray gap(70'000, ' ');
+        QByteArrayList elements;
+        QStringList distinct;
+        for (int i = 0; i < 5'000; ++i) {
+            elements.append(u"{\"title\":\"\\\"},{\\\\%1\\\\\",\"\":[{},[1,2]]}"_s.arg(i).toUtf8());
+            distinct.append(u"\"},{\\%1\\"_s.arg(i));
+        }
         const std::tuple<QByteArray, NSUInteger, std::optional<QStringList>> rows[] = {
             {"[]", 0, {}},
             {most + "1]", 1, QStringList(100'000, u"nil"_s)},
@@ -222,6 +230,13 @@ private Q_SLOTS:
             {R"({"title":"a"})", 2, {}},
             {R"([{"title":"a"})", 2, {}},
             {"[] and", 2, {}},
+            {'[' + elements.join(',') + ']', 1, distinct},
+            {'[' + elements.join(',') + "]]", 2, {}},
+            {'[' + elements.join(','), 2, {}},
+            {"[{}" + gap + ",{}" + gap + ']', 1, {{u"nil"_s, u"nil"_s}}},
+            {"[{}" + gap + ',' + gap + ']', 2, {}},
+            {"[{}" + gap + ',' + gap + ",{}]", 2, {}},
+            {R"({"title":"a")" + gap + R"(,"open":1})", 2, {}},
             {"[\"\xff\"]", 2, {}},
         };
         for (const auto &[body, code, titles] : rows) {

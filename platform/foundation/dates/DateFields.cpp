@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/dates/DateFields.h"
 
-#include <QList>
+#include <QStringView>
 
 #include <algorithm>
 
@@ -23,7 +23,7 @@ constexpr Letter letters[] = {
 /// Reads a text once from beginning to end.
 class FieldReader {
 public:
-    explicit FieldReader(const QString &text) : m_text(text.toUcs4()) {}
+    explicit FieldReader(QStringView text) : m_text(text) {}
 
     [[nodiscard]] bool isAtEnd() const { return m_place == m_text.size(); }
 
@@ -32,25 +32,56 @@ public:
         if (isAtEnd()) {
             return false;
         }
-        const char32_t c = m_text[m_place++];
+        const char32_t c = next();
         return expected.isSpace() ? QChar::isSpace(c) : c == expected.unicode();
     }
 
     std::optional<int> number(qsizetype minimumDigits)
     {
-        while (!isAtEnd() && QChar::isSpace(m_text[m_place])) {
+        while (!isAtEnd() && m_text[m_place].isSpace()) {
             ++m_place;
         }
-        const qsizetype first = m_place;
         int number = 0;
-        for (; !isAtEnd() && QChar::isDigit(m_text[m_place]); ++m_place) {
-            number = std::min(number * 10 + QChar::digitValue(m_text[m_place]), maximumField);
+        qsizetype digits = 0;
+        for (auto digit = nextDigit(); digit; digit = nextDigit()) {
+            number = std::min(number * 10 + *digit, maximumField);
+            ++digits;
         }
-        return m_place - first < minimumDigits ? std::nullopt : std::optional(number);
+        return digits < minimumDigits ? std::nullopt : std::optional(number);
     }
 
 private:
-    const QList<uint> m_text;
+    char32_t next()
+    {
+        const QChar c = m_text[m_place++];
+        if (!c.isSurrogate()) {
+            return c.unicode();
+        }
+        if (!c.isHighSurrogate() || isAtEnd() || !m_text[m_place].isLowSurrogate()) {
+            return QChar::ReplacementCharacter;
+        }
+        return QChar::surrogateToUcs4(c, m_text[m_place++]);
+    }
+
+    /// Stays before anything else.
+    std::optional<int> nextDigit()
+    {
+        if (isAtEnd()) {
+            return std::nullopt;
+        }
+        const qsizetype before = m_place;
+        const char32_t c = next();
+        if (c >= U'0' && c <= U'9') {
+            return static_cast<int>(c - U'0');
+        }
+        if (QChar::isDigit(c)) {
+            return QChar::digitValue(c);
+        }
+        m_place = before;
+        return std::nullopt;
+    }
+
+    const QStringView m_text;
     qsizetype m_place = 0;
 };
 

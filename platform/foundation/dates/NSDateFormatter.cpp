@@ -10,6 +10,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/gregocal.h>
 
+#include <chrono>
 #include <cmath>
 #include <memory>
 
@@ -66,8 +67,25 @@ std::unique_ptr<icu::Calendar> makeCalendar()
     return U_SUCCESS(status) ? std::move(calendar) : nullptr;
 }
 
-/// The local time with these fields, in seconds; nil if it does not exist.
-std::optional<qint64> localTimeOf(const DateFields &fields)
+/// The same as calendarTimeOf, for the years in which the calendars of ICU and of std::chrono
+/// agree: ICU's is the Julian one until 1582, and ends.
+std::optional<qint64> gregorianTimeOf(const DateFields &fields)
+{
+    using namespace std::chrono;
+    // A month or a day of 257 would be taken for the first.
+    if (fields.month > 12 || fields.day > 31 || fields.hour > 23 || fields.minute > 59
+        || fields.second > 59) {
+        return std::nullopt;
+    }
+    const year_month_day date(year(fields.year), month(static_cast<unsigned>(fields.month)),
+                              day(static_cast<unsigned>(fields.day)));
+    const sys_seconds time =
+        sys_days(date) + hours(fields.hour) + minutes(fields.minute) + seconds(fields.second);
+    return date.ok() ? std::optional(qint64{time.time_since_epoch().count()}) : std::nullopt;
+}
+
+/// The same for every year. Slow.
+std::optional<qint64> calendarTimeOf(const DateFields &fields)
 {
     thread_local const std::unique_ptr<icu::Calendar> calendar = makeCalendar();
     if (!calendar) {
@@ -81,6 +99,13 @@ std::optional<qint64> localTimeOf(const DateFields &fields)
     return U_SUCCESS(status)
         ? std::optional(static_cast<qint64>(milliseconds / millisecondsPerSecond))
         : std::nullopt;
+}
+
+/// The local time with these fields, in seconds; nil if it does not exist.
+std::optional<qint64> localTimeOf(const DateFields &fields)
+{
+    const bool isSimple = fields.year > 1582 && fields.year < 10000;
+    return isSimple ? gregorianTimeOf(fields) : calendarTimeOf(fields);
 }
 
 } // namespace

@@ -56,7 +56,7 @@ std::unique_ptr<RunningTransfer> CurlLoader::detach(const RunningTransfer *runni
 void CurlLoader::finish(const RunningTransfer *running, std::optional<URLErrorCode> error)
 {
     const std::unique_ptr<RunningTransfer> detached = detach(running);
-    detached->finished({error ? QByteArray() : detached->transfer.body(), error});
+    detached->finished({error ? QByteArray() : detached->transfer.takeBody(), error});
 }
 
 void CurlLoader::handleEnd(RunningTransfer &running, CURLcode result)

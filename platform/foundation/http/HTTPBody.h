@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 struct z_stream_s;
 
@@ -31,7 +32,8 @@ public:
     /// False if bytes are missing at the end of a gzip body. Always true for a plain one.
     [[nodiscard]] bool isComplete() const { return !m_inflater || m_isComplete; }
 
-    [[nodiscard]] const QByteArray &decoded() const { return m_decoded; }
+    /// What was decoded, which is not kept.
+    [[nodiscard]] QByteArray takeDecoded() { return std::exchange(m_decoded, {}); }
 
 private:
     [[nodiscard]] std::optional<URLErrorCode> add(const char *bytes, size_t length);

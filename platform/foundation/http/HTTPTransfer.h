@@ -44,8 +44,8 @@ public:
     /// Prepares the transfer to send `next`. An error if the redirect must not be followed.
     [[nodiscard]] std::optional<URLErrorCode> redirect(const NSMutableURLRequest &next);
 
-    /// The decoded body of a complete reply.
-    [[nodiscard]] const QByteArray &body() const { return m_body.decoded(); }
+    /// The decoded body of a complete reply. Once.
+    [[nodiscard]] QByteArray takeBody() { return m_body.takeDecoded(); }
 
 private:
     template <typename T>

@@ -21,7 +21,7 @@ public:
         std::optional<URLErrorCode> error;
     };
     /// Called once for each transfer, from start(), wait() or cancelAll(). May call start().
-    using Finished = std::function<void(const Result &)>;
+    using Finished = std::function<void(Result)>;
 
     /// A loader from the module that the configuration names; null if it cannot be loaded.
     [[nodiscard]] static std::unique_ptr<HTTPLoader>

@@ -21,13 +21,13 @@ void NSURLSessionDataTask::resume()
     }
 }
 
-void NSURLSessionDataTask::complete(const QByteArray &data, std::optional<URLErrorCode> code)
+void NSURLSessionDataTask::complete(QByteArray data, std::optional<URLErrorCode> code)
 {
     // Destroys the objects that the completion holds as soon as it has run.
     const Completion completion = std::exchange(m_completion, {});
     if (code) {
         completion({}, NSError{QString::fromUtf16(NSURLErrorDomain), *code});
     } else {
-        completion(data, std::nullopt);
+        completion(std::move(data), std::nullopt);
     }
 }

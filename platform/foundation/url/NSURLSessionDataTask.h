@@ -15,9 +15,9 @@ class TaskQueue;
 /// One request of a session. Made by NSURLSession::dataTaskWithRequest.
 class NSURLSessionDataTask : public std::enable_shared_from_this<NSURLSessionDataTask> {
 public:
-    /// `data`: the decoded body, whatever the HTTP status was; empty when `error` is set.
-    using Completion =
-        std::function<void(const QByteArray &data, const std::optional<NSError> &error)>;
+    /// `data`: the decoded body, whatever the HTTP status was; empty when `error` is set. Nobody
+    /// else holds it.
+    using Completion = std::function<void(QByteArray data, const std::optional<NSError> &error)>;
 
     NSURLSessionDataTask(NSMutableURLRequest request, Completion completion,
                          std::weak_ptr<TaskQueue> queue);
@@ -30,7 +30,7 @@ public:
 
 private:
     friend class TaskQueue;
-    void complete(const QByteArray &data, std::optional<URLErrorCode> code);
+    void complete(QByteArray data, std::optional<URLErrorCode> code);
 
     NSMutableURLRequest m_request;
     Completion m_completion;

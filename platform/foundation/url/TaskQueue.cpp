@@ -86,13 +86,13 @@ void TaskQueue::start(const Task &task)
         return;
     }
     loaded->start(task->originalRequest(),
-                  [this, task](const HTTPLoader::Result &result) { complete(task, result); });
+                  [this, task](HTTPLoader::Result result) { complete(task, std::move(result)); });
 }
 
-void TaskQueue::complete(const Task &task, const HTTPLoader::Result &result) const
+void TaskQueue::complete(const Task &task, HTTPLoader::Result result) const
 {
     if (!m_abandoned) {
-        task->complete(result.body, result.error);
+        task->complete(std::move(result.body), result.error);
     }
 }
 

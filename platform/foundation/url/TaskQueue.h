@@ -41,7 +41,7 @@ private:
     Incoming takeIncoming();
     HTTPLoader *loader();
     void start(const Task &task);
-    void complete(const Task &task, const HTTPLoader::Result &result) const;
+    void complete(const Task &task, HTTPLoader::Result result) const;
     void cancelIncoming();
 
     const NSURLSessionConfiguration m_configuration;

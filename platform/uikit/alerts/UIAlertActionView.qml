@@ -64,6 +64,7 @@ PressArea {
     Separator { width: parent.width }
     Separator {
         vertical: true
+        anchors.left: parent.left
         height: parent.height
         visible: root.beside
     }

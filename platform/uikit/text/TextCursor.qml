@@ -3,7 +3,8 @@
 import QtQuick
 import UIKit
 
-/// The insertion mark of a text editor: blinks at the desktop's pace, and stands still at each move.
+/// The insertion mark of a text editor: blinks at the desktop's pace, and stands still at each move
+/// and where nobody sees it.
 Rectangle {
     id: root
 
@@ -25,7 +26,8 @@ Rectangle {
         id: blink
         interval: Qt.styleHints.cursorFlashTime / 2 // qmllint disable
         repeat: true
-        running: root.visible && interval > 0
+        running: root.visible && interval > 0 && root.Window.visibility !== Window.Hidden
+            && root.Window.visibility !== Window.Minimized
         onTriggered: lit = !lit
         onRunningChanged: lit = true
     }

@@ -7,6 +7,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -145,6 +147,21 @@ private Q_SLOTS:
             const QRectF mark = editor->property("cursorRectangle").toRectF();
             QCOMPARE(mark.left() <= editor->width(), !away);
         }
+    }
+
+    void theMarkBlinksOnlyWhereItIsSeen()
+    {
+        Stage stage;
+        const QList<QObject *> parts = stage.window.activeFocusItem()->findChildren<QObject *>();
+        const auto isTimer = [](const QObject *part) { return part->property("lit").isValid(); };
+        const auto timer = std::find_if(parts.begin(), parts.end(), isTimer);
+        QVERIFY(timer != parts.end());
+        QVERIFY((*timer)->property("running").toBool());
+        stage.window.setVisible(false);
+        QVERIFY(!(*timer)->property("running").toBool());
+        stage.window.setVisible(true);
+        stage.window.setVisibility(QWindow::Minimized);
+        QVERIFY(!(*timer)->property("running").toBool());
     }
 
     void secretsStaySecret()

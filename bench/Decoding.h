@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// What a process of its own does for measureDecoding: reads the body in a file in the way that the
+/// first argument names, and prints the most memory that it had, in MiB.
+void decode(const QStringList &arguments);

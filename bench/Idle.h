@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The WZT Companion authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// What a process of its own does for measureIdle: brings the application to the place that is the
+/// argument, says so in a line, and stays there until it is ended.
+void rest(const QStringList &arguments);
