@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 WZTPackageIssuesViewController::WZTPackageIssuesViewController(std::shared_ptr<WZTPackage> package)
     : m_package(std::move(package))
 {
-    using Issues = WZTPackageIssuesViewController;
+    using Page = WZTPackageIssuesViewController;
     navigationItem()->setRightBarButtonItem(
-        make<UIBarButtonItem>(UIBarButtonSystemItem::Add, this, &Issues::addNewIssue));
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Add, this, &Page::addNewIssue));
     navigationItem()->setLeftBarButtonItem(
-        make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &Issues::cancel));
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &Page::cancel));
     navigationItem()->setTitle(u"%1 Issues"_s.arg(m_package->name));
     tableView()->registerClass<UITableViewCell>(u"reuseIdentifier"_s);
 }
