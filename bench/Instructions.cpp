@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int valgrindPatience = 600'000;
+constexpr int patienceWithValgrind = 600'000;
 
 double totalOf(const QString &report)
 {
@@ -41,8 +41,8 @@ double millionInstructions(const Command &command, const QString &report)
                   QStringList{u"--quiet"_s, u"--tool=callgrind"_s,
                               u"--callgrind-out-file="_s + report, command.program}
                       + command.arguments);
-    if (!process.waitForFinished(valgrindPatience) || process.exitStatus() != QProcess::NormalExit
-        || process.exitCode() != 0) {
+    if (!process.waitForFinished(patienceWithValgrind)
+        || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         qFatal("%s does not end well under valgrind", qPrintable(command.program));
     }
     return totalOf(report) / 1e6;

@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 WZTPackageIssuesViewController::WZTPackageIssuesViewController(std::shared_ptr<WZTPackage> package)
     : m_package(std::move(package))
 {
-    using Screen = WZTPackageIssuesViewController;
+    using Page = WZTPackageIssuesViewController;
     navigationItem()->setRightBarButtonItem(
-        make<UIBarButtonItem>(UIBarButtonSystemItem::Add, this, &Screen::addNewIssue));
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Add, this, &Page::addNewIssue));
     navigationItem()->setLeftBarButtonItem(
-        make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &Screen::cancel));
+        make<UIBarButtonItem>(UIBarButtonSystemItem::Cancel, this, &Page::cancel));
     navigationItem()->setTitle(u"%1 Issues"_s.arg(m_package->name));
     tableView()->registerClass<UITableViewCell>(u"reuseIdentifier"_s);
 }

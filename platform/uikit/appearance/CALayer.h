@@ -4,6 +4,8 @@
 
 #include "platform/uikit/appearance/CAGradientLayer.h"
 
+#include <QObject>
+
 /// The look of a view beside its background. Lengths in points.
 struct CALayer {
     Q_GADGET

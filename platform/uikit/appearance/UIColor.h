@@ -5,6 +5,7 @@
 #include "platform/uikit/appearance/UITraitCollection.h"
 
 #include <QColor>
+#include <QObject>
 #include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>

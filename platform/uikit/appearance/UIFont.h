@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QObject>
 #include <QtQmlIntegration/qqmlintegration.h>
 
 enum class UIFontTextStyle { Title2, Headline, Body, Footnote, Caption, TabTitle };

@@ -4,6 +4,7 @@
 
 #include "platform/uikit/base/TargetAction.h"
 
+#include <QObject>
 #include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
 #include <QtQmlIntegration/qqmlintegration.h>
 
 /// Room at the edges, in points.
