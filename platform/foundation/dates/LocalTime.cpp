@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 aDay = 24LL * 60 * 60;
+constexpr qint64 secondsPerDay = 24LL * 60 * 60;
 
 /// Seconds by which local time is ahead of UTC.
 std::optional<qint64> offsetAt(qint64 utc)
@@ -31,8 +31,8 @@ std::optional<qint64> LocalTime::toUtc(qint64 local)
 {
     tzset();
     // No zone is a day from UTC, so these are the offsets before and after a nearby change.
-    const auto before = offsetAt(local - aDay);
-    const auto after = offsetAt(local + aDay);
+    const auto before = offsetAt(local - secondsPerDay);
+    const auto after = offsetAt(local + secondsPerDay);
     if (before == after) {
         return before ? std::optional(local - *before) : std::nullopt;
     }
