@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The size of most texts. What asks for the size of a text before it knows the text's font takes this
-/// one, and another font need not be loaded for it.
+/// The size of most texts. What asks for the size of a text before it knows the text's font takes
+/// this one, and another font need not be loaded for it.
 constexpr int bodySize = 17;
 
 QString displayName()

@@ -6,9 +6,9 @@
 #include "platform/foundation/coding/NSKeyedArchiver.h"
 #include "platform/foundation/coding/NSKeyedUnarchiver.h"
 #include "platform/foundation/dates/NSDateFormatter.h"
+#include "platform/foundation/http/URLOrigin.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 #include "platform/foundation/url/NSURLComponents.h"
-#include "platform/foundation/http/URLOrigin.h"
 #include "service/WZTAPI.h"
 #include "tests/fuzz/FixedReply.h"
 

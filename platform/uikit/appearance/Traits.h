@@ -13,7 +13,8 @@ class QJSEngine;
 class QQmlEngine;
 
 /// The style, the text scale, the motion and the direction that everything drawn follows, live, and
-/// the version of the platform that screens ask for. An override holds; the rest is what the desktop says.
+/// the version of the platform that screens ask for. An override holds; the rest is what the
+/// desktop says.
 class Traits : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -46,23 +46,15 @@ Item {
         anchors.fill: parent
         color: root.cell.backgroundColor.toQColor(Traits.dark)
     }
-    Loader {
-        // Few rows are ever selected.
-        readonly property bool needed: root.cell.drawsSelection
-
+    Rectangle {
+        objectName: "selection"
         anchors.fill: parent
-        active: false
-        onNeededChanged: if (needed)
-            active = true
-        sourceComponent: Rectangle {
-            objectName: "selection"
-            color: Theme.selectedRowColor
-            opacity: root.cell.drawsSelection ? 1 : 0
+        color: Theme.selectedRowColor
+        opacity: root.cell.drawsSelection ? 1 : 0
 
-            Behavior on opacity {
-                enabled: root.cell.animatesSelection && !Traits.reduceMotion
-                NumberAnimation { duration: Durations.deselection }
-            }
+        Behavior on opacity {
+            enabled: root.cell.animatesSelection && !Traits.reduceMotion
+            NumberAnimation { duration: Durations.deselection }
         }
     }
     PressArea {

@@ -131,8 +131,7 @@ private Q_SLOTS:
         const auto marked = [&] {
             QList<int> entries;
             for (const int entry : {1, 2, 3}) {
-                const QQuickItem *selection = stage.part(entry, "selection");
-                if (selection && selection->opacity() > 0) {
+                if (stage.part(entry, "selection")->opacity() > 0) {
                     entries.append(entry);
                 }
             }
