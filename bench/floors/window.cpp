@@ -12,7 +12,9 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     QQuickView view;
     if (argc > 1) {
-        QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+        QFont font(QStringLiteral("Inter"));
+        font.setPixelSize(17);
+        QGuiApplication::setFont(font);
         fillTextWindow(view, QString::fromLocal8Bit(argv[1]));
     } else {
         fillBareWindow(view);
