@@ -37,8 +37,9 @@ PressArea {
         height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
-        font: text ? Theme.tabTitleFont : Theme.bodyFont // an empty text loads its font, too
-        fontSizeMode: Text.VerticalFit
+        // An empty text loads its font, too, and one for each size that is tried.
+        font: text ? Theme.tabTitleFont : Theme.bodyFont
+        fontSizeMode: text ? Text.VerticalFit : Text.FixedSize
         minimumPixelSize: 9
         color: root.shown
         elide: Text.ElideRight
