@@ -5,7 +5,6 @@
 #include "platform/linux/ActivationTokens.h"
 
 #include <QDebug>
-#include <QTimer>
 
 #include <utility>
 
@@ -27,8 +26,15 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
       m_path(u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_')),
       m_opened(std::move(opened))
 {
-    // The allocator would take the buffer of a large call for a reason to give back less from then
-    // on, and the arena of another thread gives back only what is above this threshold.
+    // A call may be large, and the allocator keeps freed memory. The thread of the bus connection
+    // frees its copy within a second, or on a busy machine within some more.
+    using namespace std::chrono_literals;
+    for (size_t i = 0; i < std::size(m_trims); ++i) {
+        m_trims[i].setSingleShot(true);
+        m_trims[i].setInterval(i == 0 ? 1s : 10s);
+        m_trims[i].callOnTimeout([] { malloc_trim(0); });
+    }
+    // Its arena gives back only what is above this threshold, which a large buffer would raise.
     mallopt(M_TRIM_THRESHOLD, trimThreshold);
     // Before the name is claimed: its first calls may come at once.
     m_bus.registerObject(m_path, this, QDBusConnection::ExportAllSlots);
@@ -104,21 +110,9 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
         const ActivationTokens::Scope tokens(platformData);
         m_opened(urls);
     }
-    scheduleMemoryTrim();
-}
-
-// A call may be large, and the allocator keeps freed memory. After a second the thread of the bus
-// connection has freed its copy as well.
-void SingleInstance::scheduleMemoryTrim()
-{
-    if (std::exchange(m_isTrimScheduled, true)) {
-        return;
+    for (QTimer &trim : m_trims) {
+        trim.start();
     }
-    const auto trim = [this] {
-        m_isTrimScheduled = false;
-        malloc_trim(0);
-    };
-    QTimer::singleShot(std::chrono::seconds(1), this, trim);
 }
 
 // The desktop entry has no actions, so a call of one only activates the application.

@@ -7,6 +7,7 @@
 #include <QDeadlineTimer>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantMap>
 
 #include <functional>
@@ -46,11 +47,9 @@ private:
     [[nodiscard]] bool handOver(const QStringList &urls, QDeadlineTimer deadline);
     [[nodiscard]] QDBusMessage busCall(const QString &method, const QVariantList &arguments) const;
 
-    void scheduleMemoryTrim();
-
     QDBusConnection m_bus;
     QString m_name;
     QString m_path;
     std::function<void(const QStringList &)> m_opened;
-    bool m_isTrimScheduled = false;
+    QTimer m_trims[2];
 };
