@@ -31,12 +31,13 @@ void Renderer::choose()
 {
     const bool fellBack = qEnvironmentVariableIsSet(restartMark);
     qunsetenv(restartMark);
-    // Programs that a link starts would inherit Qt's variable.
+    // Programs that a link starts would inherit Qt's variable for this.
     if (fellBack || (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsHardware())) {
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     }
-    // Qt waits 5 ms for further changes, by a timer. Animations change everything at
-    // the same time, and the window system joins movements.
+    // Qt waits 5 ms for further changes before it draws, by a timer, which wakes the processor a
+    // second time. Animations change everything at the same time, and the window system joins
+    // movements. GioLinks removes the variable for other programs.
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME")) {
         qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     }

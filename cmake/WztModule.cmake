@@ -54,6 +54,7 @@ function(wzt_loadable target)
         PREFIX ""
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
+        BUILD_RPATH ""
         LIBRARY_OUTPUT_DIRECTORY ${WZT_MODULES})
     target_link_libraries(${target} PRIVATE Qt6::Core ${ARG_LIBS})
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/wzt-companion)

@@ -16,7 +16,9 @@ int main(int argc, char *argv[])
 {
 #ifdef QT_GUI_LIB
     const QGuiApplication application(argc, argv);
-    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    QFont font(QStringLiteral("Inter"));
+    font.setPixelSize(17);
+    QGuiApplication::setFont(font);
 #else
     const QCoreApplication application(argc, argv);
 #endif

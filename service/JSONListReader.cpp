@@ -8,7 +8,7 @@
 
 namespace {
 
-/// At least, but for the last; some hundred elements.
+/// The least length of a piece, in bytes. The last piece may be shorter.
 constexpr qsizetype pieceLength = 64LL * 1024;
 
 /// The place after the string whose first quote is at `quote`, or the end of a text without its
@@ -27,8 +27,8 @@ qsizetype endOfString(const QByteArray &text, qsizetype quote)
     return text.size();
 }
 
-/// Commas between elements of the outermost list, so far apart. In a text that is no JSON these may
-/// be any commas: whoever reads the pieces finds that out.
+/// Commas between elements of the outermost list, at least `pieceLength` apart. In a text that is
+/// no JSON these may be any commas: whoever reads the pieces finds that out.
 QList<qsizetype> commasIn(const QByteArray &text)
 {
     QList<qsizetype> commas;

@@ -15,7 +15,8 @@
 ///     while (reader.hasMore()) {
 ///         const auto elements = reader.takeLast();
 ///
-/// What is taken is the list that QJsonDocument would read, if no call returns nil.
+/// If no call returns nil, the pieces together are the list that QJsonDocument would read.
+/// Otherwise QJsonDocument would refuse the text, or it is no list.
 class JSONListReader {
 public:
     /// A `text` that is shared is copied.

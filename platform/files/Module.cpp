@@ -8,7 +8,9 @@
 
 void *Module::symbol(const char *file, const char *name)
 {
-    // A plain name is searched in the run path of the program, which this code is linked into.
+    // A plain name is searched in the run path of the program, which this code is linked into. A
+    // sanitizer's dlopen calls from a library of its own: RUNPATH does not hold for that, RPATH
+    // does.
     void *module = dlopen(file, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     void *found = module ? dlsym(module, name) : nullptr;
     if (!found) {

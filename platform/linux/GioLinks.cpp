@@ -3,11 +3,14 @@
 
 // The module behind Links: GIO is loaded when a link is first looked at.
 
+#include "platform/linux/LinksModule.h"
+
 #include <QByteArray>
 
 #include <gio/gio.h>
 
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -57,3 +60,6 @@ extern "C" Q_DECL_EXPORT void openLink(const QByteArray &url)
     GList urls{bytes.data(), nullptr, nullptr};
     g_app_info_launch_uris(handler.get(), &urls, cleanContext().get(), nullptr);
 }
+
+static_assert(std::is_same_v<decltype(linkHasHandler), LinkHasHandler>);
+static_assert(std::is_same_v<decltype(openLink), OpenLink>);

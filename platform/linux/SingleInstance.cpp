@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The allocator's own at the start, in bytes.
+/// The threshold with which the allocator starts, in bytes.
 constexpr int trimThreshold = 128 * 1024;
 
 } // namespace
@@ -34,7 +34,8 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
         m_trims[i].setInterval(i == 0 ? 1s : 10s);
         m_trims[i].callOnTimeout([] { malloc_trim(0); });
     }
-    // Its arena gives back only what is above this threshold, which a large buffer would raise.
+    // The arena of that thread gives back only what is above this threshold. A large buffer would
+    // raise the threshold.
     mallopt(M_TRIM_THRESHOLD, trimThreshold);
     // Before the name is claimed: its first calls may come at once.
     m_bus.registerObject(m_path, this, QDBusConnection::ExportAllSlots);
@@ -111,7 +112,9 @@ void SingleInstance::Open(const QStringList &urls, const QVariantMap &platformDa
         m_opened(urls);
     }
     for (QTimer &trim : m_trims) {
-        trim.start();
+        if (!trim.isActive()) {
+            trim.start();
+        }
     }
 }
 

@@ -6,6 +6,7 @@
 #include <curl/curl.h>
 
 #include <algorithm>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -168,3 +169,4 @@ extern "C" Q_DECL_EXPORT HTTPLoader *makeHTTPLoader(const NSURLSessionConfigurat
 {
     return new CurlLoader(configuration, proxy);
 }
+static_assert(std::is_same_v<decltype(makeHTTPLoader), MakeHTTPLoader>);

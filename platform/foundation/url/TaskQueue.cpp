@@ -74,6 +74,9 @@ HTTPLoader *TaskQueue::loader()
         std::unique_ptr<HTTPLoader> loaded = HTTPLoader::load(m_configuration, m_proxy);
         const std::lock_guard lock(m_mutex);
         m_loader = std::move(loaded);
+        if (m_loader) {
+            m_loader->wake(); // nobody was woken for what has come meanwhile
+        }
     }
     return m_loader.get();
 }

@@ -16,6 +16,7 @@ Traits::Traits(const DesktopAppearance &desktop) : m_desktop(desktop)
     sharedTraits = this;
     if (auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         connect(application, &QGuiApplication::layoutDirectionChanged, this, &Traits::changed);
+        connect(application, &QGuiApplication::primaryScreenChanged, this, &Traits::changed);
     }
 }
 
@@ -43,7 +44,8 @@ bool Traits::isRightToLeft() const
 
 double Traits::displayScale() const
 {
-    return QGuiApplication::primaryScreen()->devicePixelRatio();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1;
 }
 
 void Traits::setDesktopAppearance(const DesktopAppearance &appearance)

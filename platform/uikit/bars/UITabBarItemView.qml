@@ -37,7 +37,7 @@ PressArea {
         height: parent.height - y - 2
         text: root.item.title
         textFormat: Text.PlainText
-        // An empty text loads its font, too, and one for each size that is tried.
+        // Qt loads the font of an empty text as well, and one for each size that it tries.
         font: text ? Theme.tabTitleFont : Theme.bodyFont
         fontSizeMode: text ? Text.VerticalFit : Text.FixedSize
         minimumPixelSize: 9

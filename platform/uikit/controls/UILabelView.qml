@@ -14,7 +14,7 @@ Text {
     height: text ? implicitHeight : 0
     text: control.text
     textFormat: Text.PlainText
-    // An empty text loads its font, too.
+    // Qt loads the font of an empty text as well, so it takes one that is loaded already.
     font: text ? control.font.toQFont(Traits.textScale) : Theme.bodyFont
     color: control.textColor.toQColor(Traits.dark)
     elide: lines > 0 ? Text.ElideRight : Text.ElideNone

@@ -19,7 +19,7 @@ Rectangle {
     readonly property UIBarButtonItem rightItem: page?.navigationItem.rightBarButtonItem ?? null
 
     /// A place for a button, which is loaded once there is one.
-    component Place: Loader {
+    component ButtonPlace: Loader {
         required property bool needed
 
         height: parent.height
@@ -33,12 +33,12 @@ Rectangle {
     implicitHeight: Metrics.navigationBar
     color: Theme.barColor
 
-    Place {
+    ButtonPlace {
         anchors.left: parent.left
         needed: root.controller.canGoBack && !left.needed
         onNeededChanged: load("BackButton.qml", {"bar": root})
     }
-    Place {
+    ButtonPlace {
         id: left
         anchors.left: parent.left
         needed: root.leftItem !== null
@@ -76,7 +76,7 @@ Rectangle {
             duration: Durations.title
         }
     }
-    Place {
+    ButtonPlace {
         id: right
         anchors.right: parent.right
         needed: root.rightItem !== null

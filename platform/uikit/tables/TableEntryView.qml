@@ -3,7 +3,7 @@
 import QtQuick
 import UIKit
 
-/// One entry of a table: a row, or the text or space above or below a section. A space has no drawing.
+/// One entry of a table: a row, or the text or space above or below a section. A space draws nothing.
 Loader {
     id: root
 
@@ -21,7 +21,7 @@ Loader {
     }
 
     width: ListView.view?.width ?? 0
-    height: fixedHeight >= 0 ? fixedHeight : cell || text ? implicitHeight
+    height: fixedHeight >= 0 ? fixedHeight : item ? implicitHeight
         : index === 0 ? 2 * Metrics.sectionSpace : Metrics.sectionSpace
 
     onTextChanged: load()
