@@ -68,7 +68,8 @@ private Q_SLOTS:
         }
     }
 
-    /// They come with the first request and the first link.
+    /// They come with the first request and the first link. Qt itself may need other builds of
+    /// curl.
     void startsWithoutWhatLoginDoesNotNeed()
     {
         QProcess program;
@@ -84,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(maps.open(QFile::ReadOnly));
         const QByteArray files = maps.readAll();
         QVERIFY(files.contains("libQt6Quick"));
-        for (const char *library : {"libcurl", "libssl", "libgio", "wzt-http.so"}) {
+        for (const char *library : {"libcurl.so", "wzt-http.so", "wzt-links.so"}) {
             QVERIFY2(!files.contains(library), library);
         }
         kill(pid, SIGTERM);
