@@ -21,7 +21,7 @@ Loader {
     }
 
     width: ListView.view?.width ?? 0
-    height: fixedHeight >= 0 ? fixedHeight : item ? implicitHeight
+    height: fixedHeight >= 0 ? fixedHeight : cell || text ? implicitHeight
         : index === 0 ? 2 * Metrics.sectionSpace : Metrics.sectionSpace
 
     onTextChanged: load()

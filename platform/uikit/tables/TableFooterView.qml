@@ -9,7 +9,7 @@ Item {
 
     required property TableEntryView entry
 
-    implicitHeight: !entry.text ? Metrics.sectionSpace : Metrics.footerSpaceAbove + label.implicitHeight + Metrics.footerSpaceBelow
+    implicitHeight: Metrics.footerSpaceAbove + label.implicitHeight + Metrics.footerSpaceBelow
 
     Text {
         id: label
