@@ -5,5 +5,5 @@
 class QByteArray;
 
 /// The functions of the module behind Links. `url` is in UTF-8.
-using LinkHasHandler = bool(const QByteArray &url);
-using OpenLink = void(const QByteArray &url);
+using LinkHasHandler = auto(const QByteArray &url) -> bool;
+using OpenLink = auto(const QByteArray &url) -> void;
