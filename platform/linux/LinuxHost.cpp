@@ -13,8 +13,12 @@
 #include <QDeadlineTimer>
 #include <QDebug>
 
+#include <malloc.h>
+
 std::chrono::milliseconds LinuxHost::prepare()
 {
+    // The arena of another thread would never give back the free memory at its end.
+    mallopt(M_ARENA_MAX, 1);
     ActivationTokens::prepareEnvironment();
     const QDeadlineTimer deadline(startTimeout);
     if (!SessionBus::probe(deadline)) {

@@ -12,13 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The threshold with which the allocator starts, in bytes.
-constexpr int trimThreshold = 128 * 1024;
-
-} // namespace
-
 SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applicationId,
                                std::function<void(const QStringList &)> opened)
     : m_bus(bus),
@@ -34,9 +27,6 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applic
         m_trims[i].setInterval(i == 0 ? 1s : 10s);
         m_trims[i].callOnTimeout([] { malloc_trim(0); });
     }
-    // The arena of that thread gives back only what is above this threshold. A large buffer would
-    // raise the threshold.
-    mallopt(M_TRIM_THRESHOLD, trimThreshold);
     // Before the name is claimed: its first calls may come at once.
     m_bus.registerObject(m_path, this, QDBusConnection::ExportAllSlots);
 }
