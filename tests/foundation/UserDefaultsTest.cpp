@@ -79,14 +79,10 @@ private Q_SLOTS:
     void keepsBytes()
     {
         using namespace BinaryList;
-        const QByteArrayList keys{"\x51"
-                                  "a",
-                                  "\x52\xff\xc3", "\x52ä", "\x61\xdc" + QByteArray(1, '\0'),
-                                  QByteArray("\x53x\0y", 4)};
+        const QByteArrayList keys{"\x51\x61", "\x52\xff\xc3", "\x52ä",
+                                  "\x61\xdc" + QByteArray(1, '\0'), QByteArray("\x53x\0y", 4)};
         const QByteArrayList values{QByteArray(1, '\0'), "\x22\x3f\xc0\0\1"_ba,
-                                    "\x14" + number(1, 8) + number(2, 8),
-                                    "\x82"
-                                    "abc",
+                                    "\x14" + number(1, 8) + number(2, 8), "\x82\x61\x62\x63",
                                     QByteArray("\x53p\0q", 4)};
         QByteArray top = "\xd7";
         for (int i = 1; i <= 7; ++i) {
