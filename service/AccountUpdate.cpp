@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result updateResults[] = {
+constexpr AccountReplyCodes::Result updateResults[] = {
     {"User Not Found"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies updateCodes{
+constexpr AccountReplyCodes updateCodes{
     .transportError = 3,
     .user = 1,
     .results = updateResults,

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result loginResults[] = {
+constexpr AccountReplyCodes::Result loginResults[] = {
     {"User Does Not Exist"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies loginCodes{
+constexpr AccountReplyCodes loginCodes{
     .transportError = 3,
     .user = 1,
     .results = loginResults,

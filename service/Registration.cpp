@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result registrationResults[] = {
+constexpr AccountReplyCodes::Result registrationResults[] = {
     {"User Exists"_L1, 0},
     {"Improper request"_L1, 1},
 };
-constexpr WZTAccountReplies registrationCodes{
+constexpr AccountReplyCodes registrationCodes{
     .transportError = 4,
     .user = 2,
     .results = registrationResults,

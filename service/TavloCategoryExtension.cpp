@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "service/TavloCategoryExtension.h"
 
-#include <QCryptographicHash>
+#include "platform/foundation/base/Overwrite.h"
 
-#include <cstring>
+#include <QCryptographicHash>
 
 QString SHA256(const QString &text)
 {
     QByteArray bytes = text.toUtf8();
     const QByteArray digest =
         QCryptographicHash::hash(QByteArrayView(bytes.constData()), QCryptographicHash::Sha256);
-    explicit_bzero(bytes.data(), static_cast<size_t>(bytes.size()));
+    overwrite(bytes);
     return QString::fromLatin1(digest.toHex());
 }
