@@ -19,10 +19,11 @@ constexpr AccountReplyCodes loginCodes{
 
 } // namespace
 
-void WZTAPI::loginToAccount(const Text &email, const Text &passwordDigest,
-                            UserCompletion completion)
+void WZTAPI::loginToAccount(const Text &email, Text passwordDigest, UserCompletion completion)
 {
     const WZTRequest request{
-        "GET", u"/login.php"_s, {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}}};
+        "GET",
+        u"/login.php"_s,
+        {{u"userEmail"_s, email}, {u"userPassword"_s, std::move(passwordDigest)}}};
     sendAccountRequest(request, loginCodes, std::move(completion));
 }

@@ -19,12 +19,13 @@ constexpr AccountReplyCodes registrationCodes{
 
 } // namespace
 
-void WZTAPI::registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
+void WZTAPI::registerEmail(const Text &email, const Text &userName, Text passwordDigest,
                            UserCompletion completion)
 {
-    const WZTRequest request{
-        "GET",
-        u"/register.php"_s,
-        {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}, {u"userName"_s, userName}}};
+    const WZTRequest request{"GET",
+                             u"/register.php"_s,
+                             {{u"userEmail"_s, email},
+                              {u"userPassword"_s, std::move(passwordDigest)},
+                              {u"userName"_s, userName}}};
     sendAccountRequest(request, registrationCodes, std::move(completion));
 }

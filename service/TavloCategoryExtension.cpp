@@ -9,8 +9,12 @@
 QString SHA256(const QString &text)
 {
     QByteArray bytes = text.toUtf8();
-    const QByteArray digest =
+    QByteArray digest =
         QCryptographicHash::hash(QByteArrayView(bytes.constData()), QCryptographicHash::Sha256);
+    QByteArray digits = digest.toHex();
+    const QString result = QString::fromLatin1(digits);
     overwrite(bytes);
-    return QString::fromLatin1(digest.toHex());
+    overwrite(digest);
+    overwrite(digits);
+    return result;
 }
