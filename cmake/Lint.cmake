@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 
 # A build that only looks: clang-tidy reads each source, which is then preprocessed to know its headers, and
-# neither compiled nor linked: its object is the list of its macros. What has changed, a source, a header or a flag, is looked at again; the
-# configuration's hash is one of the flags. Nearly all of the time goes into the headers of Qt and of the
-# standard library; that several sources are looked at as one helps here most of all.
+# neither compiled nor linked: its object is the list of its macros. A source is looked at again when it, a
+# header or a flag has changed; the configuration's hash is one of the flags. Nearly all of the time goes into
+# the headers of Qt and of the standard library; that several sources are looked at as one helps here most of
+# all.
 if(WZT_LINT)
     file(SHA256 ${PROJECT_SOURCE_DIR}/.clang-tidy hash)
     set(CMAKE_CXX_CLANG_TIDY clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option
