@@ -49,7 +49,8 @@ verb_package() {
         cmake "${constants[@]}" -P packaging/debian/MakeDebian.cmake
         dpkg-buildpackage --no-sign "${cross[@]}"
     )
-    lintian --fail-on error,warning "$made"/*.changes
+    # By a relative path: lintian does not find what is below a folder with umlauts.
+    (cd -- "$made" && lintian --fail-on error,warning ./*.changes)
     say "The packages:"
     printf '%s\n' "$made"/*.deb
 }
