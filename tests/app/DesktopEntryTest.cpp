@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/Files.h"
 #include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
@@ -59,9 +59,7 @@ private Q_SLOTS:
              {"id: "_L1 + id, "command: "_L1 + program}},
         };
         for (const auto &[path, lines] : rows) {
-            QFile file(path);
-            QVERIFY2(file.open(QFile::ReadOnly), qPrintable(file.fileName()));
-            const QString text = QString::fromUtf8(file.readAll());
+            const QString text = QString::fromUtf8(Files::content(path));
             for (const QString &line : lines) {
                 const QRegularExpression start(u"^ *"_s + QRegularExpression::escape(line),
                                                QRegularExpression::MultilineOption);
