@@ -51,8 +51,6 @@ struct AccountStage : TestApp {
     }
 };
 
-using Refresh = std::tuple<const char *, Fault, QString>;
-
 struct Update {
     const char *name;
     QString texts;
@@ -61,12 +59,8 @@ struct Update {
     QString alert;
 };
 
-struct LateReply {
-    const char *name;
-    bool updates;
-    QString next;
-    QString alert;
-};
+// A reply to an update or a refresh, who is signed in when it comes, and the alert.
+using LateReply = std::tuple<const char *, bool, QString, QString>;
 
 } // namespace
 
@@ -75,32 +69,26 @@ class AccountTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void refreshes_data()
-    {
-        addCases<Refresh>({
-            {"as the service has it", Fault::delay(100ms), u"Joanna"_s},
-            {"no such user", Fault::json(R"({"result":"No User"})"), u"Jo"_s},
-            {"half an answer", Fault::reset(), u"Jo"_s},
-        });
-    }
-
     void refreshes()
     {
-        const auto &[name, reply, shown] = currentCase<Refresh>();
-        AccountStage stage;
-        stage.service().updateAccount(
-            {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
-        stage.service().stage("/user.php", reply);
-        stage.refreshControl().pull();
-        stage.refreshControl().pull(); // under way already
-        QVERIFY(stage.refreshControl().isRefreshing());
-        QTRY_VERIFY(!stage.refreshControl().isRefreshing());
-        QCOMPARE(stage.service().requests().size(), 1);
-        QCOMPARE(stage.name(), shown);
-        const auto card = stage.screen().cellForRowAtIndexPath({1, 0});
-        QCOMPARE(dynamic_cast<WZTAccountTableViewCell &>(*card).userNameLabel()->text(), shown);
-        QCOMPARE(stage.alert(), QString());
-        QCOMPARE(stage.host().taps, 0);
+        for (const auto &[reply, shown] : {std::pair(Fault::delay(100ms), u"Joanna"_s),
+                                           {Fault::json(R"({"result":"No User"})"), u"Jo"_s},
+                                           {Fault::reset(), u"Jo"_s}}) {
+            AccountStage stage;
+            stage.service().updateAccount(
+                {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
+            stage.service().stage("/user.php", reply);
+            stage.refreshControl().pull();
+            stage.refreshControl().pull(); // under way already
+            QVERIFY(stage.refreshControl().isRefreshing());
+            QTRY_VERIFY(!stage.refreshControl().isRefreshing());
+            QCOMPARE(stage.service().requests().size(), 1);
+            QCOMPARE(stage.name(), shown);
+            const auto card = stage.screen().cellForRowAtIndexPath({1, 0});
+            QCOMPARE(dynamic_cast<WZTAccountTableViewCell &>(*card).userNameLabel()->text(), shown);
+            QCOMPARE(stage.alert(), QString());
+            QCOMPARE(stage.host().taps, 0);
+        }
     }
 
     void updates_data()

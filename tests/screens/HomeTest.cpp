@@ -124,10 +124,6 @@ private Q_SLOTS:
         const auto *form = dynamic_cast<WZTIssueReporterViewController *>(
             stage.top<UINavigationController>()->topViewController());
         QCOMPARE(form->package(), screen.package());
-
-        stage.service().stage(path, listOf({"new"}));
-        stage.top()->dismissViewControllerAnimated(true);
-        QTRY_COMPARE(titles(&screen), QStringList{u"new"_s}); // fetched as it appears again
     }
 
     void everyOutcomeReplacesTheList()

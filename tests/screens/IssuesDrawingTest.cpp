@@ -105,21 +105,6 @@ private Q_SLOTS:
         QVERIFY(stage.accessible(u"Projects"_s));
     }
 
-    void aSwipeBackChoosesAndScrollsNothing()
-    {
-        IssuesStage stage;
-        stage.delegate().rootVC()->showIssueProjectList();
-        stage.settle();
-        const QPoint row(10, stage.centre(u"Marrow!"_s).y());
-        Finger finger(stage.view(), row);
-        finger.move(row + QPoint(300, 60));
-        QCOMPARE(stage.items(u"QQuickListView"_s).last()->property("contentY"), 0.0);
-        finger.lift();
-        stage.settle();
-        QVERIFY(stage.accessible(u"Bug Reporter"_s));
-        QVERIFY(!stage.accessible(u"Marrow! Issues"_s));
-    }
-
     void theSpinnerIsOverTheMiddle()
     {
         IssuesStage stage;

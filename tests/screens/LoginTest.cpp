@@ -67,12 +67,8 @@ struct Ending {
     QString alert; // none for somebody who is signed in
 };
 
-struct Late {
-    const char *name;
-    const Flow *flow;
-    Fault reply;
-    bool signsOut;
-};
+// A flow, its reply, and whether the user signs out before that comes.
+using Late = std::tuple<const char *, const Flow *, Fault, bool>;
 
 } // namespace
 

@@ -32,9 +32,26 @@ bool isDrawnAs(const UIColor &color, const UIColor &expected)
     return color.toQColor(true) == expected.toQColor(true);
 }
 
+using User = std::optional<WZTUser>;
+
+const WZTUser jo(7, u"jo@wzt.example"_s, u"Jo"_s);
+const QString unknown = u"Error|An unknown error occured."_s;
+const QString noAccount = u"Error|An account was not found for the supplied email."_s;
+// The screen closes without a message.
+const QString closes = u"closes"_s;
+
+struct Operation {
+    const char *name;
+    bool signedIn;
+    void (*report)(TestApp &app, NSUInteger code, const User &user);
+    std::optional<NSUInteger> userCode; // the code that may come with a user
+    QStringList outcomes; // by code: an alert's title and message, or `closes`, or nothing
+};
+
 } // namespace
 
-/// Colours of the screens, keyboards of their fields.
+/// What the screens show: their alerts, and those that answer every code of an operation, with and
+/// without a user; colours; keyboards of fields.
 class LooksTest : public QObject {
     Q_OBJECT
 
@@ -86,6 +103,77 @@ private Q_SLOTS:
                 }
                 QVERIFY2(field.inputTraits() == expected, qPrintable(field.placeholder()));
                 QCOMPARE(field.borderStyle(), UITextField::BorderStyle::RoundedRect);
+            }
+        }
+    }
+
+    void everyCode_data()
+    {
+        addCases<Operation>({
+            {"sign-in",
+             false,
+             [](TestApp &app, auto code, auto &user) { login(app).loginCompleted(code, user); },
+             1,
+             {u"Error|Account details did not match any account"_s,
+              closes,
+              noAccount,
+              unknown,
+              {}}},
+            {"reset",
+             false,
+             [](TestApp &app, auto code, auto &) { login(app).resetCompleted(code); },
+             {},
+             {u"Great!|A reset email has been sent."_s,
+              u"Error|An account doesn't exists for this email."_s,
+              unknown,
+              u"Error|There was an error sending reset email"_s,
+              {}}},
+            {"registration",
+             false,
+             [](TestApp &app, auto code, auto &user) {
+                 login(app).registrationCompleted(code, user);
+             },
+             2,
+             {u"Error|An account already exists for this email."_s,
+              u"Error|Account request couldn't be made at this time."_s,
+              closes,
+              u"Error|Received an unexpected response from server."_s,
+              unknown,
+              {}}},
+            {"update",
+             true,
+             [](TestApp &app, auto code, auto &user) {
+                 app.delegate().userVC()->updateCompleted(code, user, jo.email);
+             },
+             1,
+             {u"Error|Entered password did not match this account"_s,
+              u"Great!|Account successfully updated."_s,
+              noAccount,
+              unknown,
+              {}}},
+        });
+    }
+
+    void everyCode()
+    {
+        const Operation &operation = currentCase<Operation>();
+        const WZTUser updated(7, jo.email, u"Joanna"_s);
+        const User before = operation.signedIn ? User(jo) : User();
+        TestApp app;
+        for (const User &user : {User(), User(updated)}) {
+            for (NSUInteger code = 0; code < NSUInteger(operation.outcomes.size()); ++code) {
+                if (user && code != operation.userCode) {
+                    continue;
+                }
+                operation.signedIn ? app.keepUser(jo) : app.forgetUser();
+                app.launch();
+                const QPointer<UIViewController> screen = app.top();
+                operation.report(app, code, user);
+                const QString &outcome = operation.outcomes[static_cast<qsizetype>(code)];
+                const bool shows = !outcome.isEmpty() && outcome != closes;
+                QCOMPARE(app.alert(), shows ? outcome + u"|(Dismiss)"_s : QString());
+                QVERIFY(shows || (app.top() == screen) == outcome.isEmpty());
+                QVERIFY(app.delegate().currentUser() == (user ? user : before));
             }
         }
     }
