@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "tests/uikit/TestPage.h"
 #include "tests/uikit/tables/TableStage.h"
