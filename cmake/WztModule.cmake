@@ -25,18 +25,23 @@ endfunction()
 # The drawings of a room, compiled ahead of time by Qt's tools, are to the compiler one source: what each of
 # them includes costs more than its own lines.
 function(wzt_join_drawings target)
+    set(join ${PROJECT_SOURCE_DIR}/cmake/JoinDrawings.awk)
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
     foreach(source IN LISTS sources)
         cmake_path(GET source PARENT_PATH room)
         cmake_path(GET room FILENAME room)
         list(APPEND rooms ${room})
-        string(APPEND drawings_${room} "#include \"${source}\"\n")
+        list(APPEND drawings_${room} ${source})
     endforeach()
     list(REMOVE_DUPLICATES rooms)
     foreach(room IN LISTS rooms)
         set(joined ${CMAKE_CURRENT_BINARY_DIR}/drawings/${room}.cpp)
-        file(CONFIGURE OUTPUT ${joined} CONTENT "${drawings_${room}}")
+        add_custom_command(OUTPUT ${joined}
+            COMMAND awk -f ${join} ${drawings_${room}} > ${joined}
+            DEPENDS ${drawings_${room}} ${join}
+            COMMENT "Joining the drawings of ${room}"
+            VERBATIM)
         set_source_files_properties(${joined} PROPERTIES COMPILE_OPTIONS -w SKIP_AUTOGEN ON)
         target_sources(${target} PRIVATE ${joined})
     endforeach()

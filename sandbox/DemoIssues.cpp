@@ -45,8 +45,9 @@ constexpr QStringView sentences[] = {
     u"If you need anything else, ask.",
     u"Das passiert auch bei größer als üblich eingestelltem Text und übermäßig vielen Symbolen.",
 };
-constexpr auto steps = u"Steps:\n1. Open Settings\n2. Switch it off and on again\n3. Lock the "
-                       u"device and wait\n\nExpected: all is as before\nActual: ";
+constexpr auto repeatedSteps =
+    u"Steps:\n1. Open Settings\n2. Switch it off and on again\n3. Lock the "
+    u"device and wait\n\nExpected: all is as before\nActual: ";
 
 /// What every twelfth issue adds, so that a dozen has one of each.
 struct Oddity {
@@ -94,7 +95,7 @@ std::optional<QString> description(Dice &dice)
     constexpr quint32 longest[] = {0, 1, 1, 2, 2, 3, 4, 12};
     const quint32 kind = dice.below(10);
     if (kind >= std::size(longest)) {
-        return steps + dice.one(symptoms) + u' ' + dice.one(occasions);
+        return repeatedSteps + dice.one(symptoms) + u' ' + dice.one(occasions);
     }
     if (longest[kind] == 0) {
         return {};

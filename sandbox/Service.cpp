@@ -3,7 +3,7 @@
 #include "sandbox/Service.h"
 
 #include "sandbox/http/HttpMessage.h"
-#include "sandbox/storage/PrivateFile.h"
+#include "sandbox/storage/StateFiles.h"
 
 #include <boost/asio/post.hpp>
 #include <boost/asio/thread_pool.hpp>
@@ -53,7 +53,7 @@ Service::~Service()
 QString Service::start()
 {
     const std::array<std::function<QString()>, 6> steps{
-        [this] { return makePrivateDirectory(directory); },
+        [this] { return makeStateFolder(directory); },
         [this] { return m_lock.take(directory); },
         [this] { return hasher.isReady() ? QString() : u"password hashes cannot be made"_s; },
         [this] { return database.open(directory + u"/service.sqlite"_s); },

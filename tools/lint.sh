@@ -18,7 +18,7 @@ drawings() {
 descriptions() {
     desktop-file-validate "build/$preset/packaging/"*.desktop &&
         appstreamcli validate --no-net "build/$preset/packaging/"*.metainfo.xml &&
-        [[ ! $(cd "build/$preset/packaging" && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null | tee /dev/stderr) ]]
+        ! (cd "build/$preset/packaging" && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null) | grep . >&2
 }
 
 # clang-tidy runs as part of this build, and so for the sources that have changed since.

@@ -18,9 +18,9 @@ namespace {
 using Values = DesktopSettings::Values;
 using Groups = QMap<QString, QVariantMap>;
 
-constexpr auto service = "org.freedesktop.portal.Desktop"_L1;
-constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
-constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
+constexpr auto portalService = "org.freedesktop.portal.Desktop"_L1;
+constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto portalInterface = "org.freedesktop.portal.Settings"_L1;
 constexpr auto appearanceGroup = "org.freedesktop.appearance"_L1;
 constexpr auto desktopGroup = "org.gnome.desktop.interface"_L1;
 
@@ -89,11 +89,11 @@ void setValue(Values &values, const QString &group, const QString &key, const QV
 
 DesktopSettings::DesktopSettings(const QDBusConnection &bus, std::function<void()> changed)
     : m_bus(bus),
-      m_portal(service, bus, QDBusServiceWatcher::WatchForRegistration),
+      m_portal(portalService, bus, QDBusServiceWatcher::WatchForRegistration),
       m_changed(std::move(changed))
 {
     // Without the signal the values would become outdated.
-    if (!m_bus.connect(service, path, interface, u"SettingChanged"_s, this,
+    if (!m_bus.connect(portalService, portalPath, portalInterface, u"SettingChanged"_s, this,
                        SLOT(settingChanged(QDBusMessage)))) {
         return;
     }
@@ -120,7 +120,8 @@ void DesktopSettings::settingChanged(const QDBusMessage &message)
 
 void DesktopSettings::readAll()
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, u"ReadAll"_s);
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, u"ReadAll"_s);
     message << QStringList{appearanceGroup, desktopGroup};
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &DesktopSettings::readAllFinished);

@@ -3,7 +3,7 @@
 #include "sandbox/certificates/Certificates.h"
 
 #include "sandbox/certificates/TlsContext.h"
-#include "sandbox/storage/PrivateFile.h"
+#include "sandbox/storage/StateFiles.h"
 
 #include <QFile>
 
@@ -38,9 +38,8 @@ std::optional<Certificate> readPair(const QString &stem)
 
 QString writePair(const QString &stem, const Certificate &certificate)
 {
-    const QString error = writePrivateFile(stem + u".key"_s, certificate.keyPem());
-    return error.isEmpty() ? writePrivateFile(stem + u".pem"_s, certificate.certificatePem())
-                           : error;
+    const QString error = writeStateFile(stem + u".key"_s, certificate.keyPem());
+    return error.isEmpty() ? writeStateFile(stem + u".pem"_s, certificate.certificatePem()) : error;
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/endpoints/Outbox.h"
 
-#include "sandbox/storage/PrivateFile.h"
+#include "sandbox/storage/StateFiles.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -14,13 +14,13 @@ namespace sandbox {
 
 bool Outbox::write(const QByteArray &message)
 {
-    if (!makePrivateDirectory(m_directory).isEmpty()) {
+    if (!makeStateFolder(m_directory).isEmpty()) {
         return false;
     }
     const QString name = u"%1/%2-%3.eml"_s.arg(
         m_directory, QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd'T'HHmmss.zzz'Z'"),
         u"%1"_s.arg(++m_written, 6, 10, '0'_L1));
-    return writePrivateFile(name, message).isEmpty();
+    return writeStateFile(name, message).isEmpty();
 }
 
 QByteArrayList Outbox::messages() const

@@ -7,6 +7,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const Screen &screenNamed(const char *name)
+{
+    const auto isNamed = [name](const Screen &each) { return qstrcmp(each.name, name) == 0; };
+    return *std::ranges::find_if(allScreens(), isNamed);
+}
+
+} // namespace
+
 const std::vector<Screen> &allScreens()
 {
     static const std::vector<Screen> screens{
@@ -61,10 +71,7 @@ ScreenStage::ScreenStage(const Screen &screen, const Options &options)
 }
 
 ScreenStage::ScreenStage(const char *screen, const Options &options)
-    : ScreenStage(
-        *std::ranges::find_if(allScreens(),
-                              [=](const Screen &each) { return !qstrcmp(each.name, screen); }),
-        options)
+    : ScreenStage(screenNamed(screen), options)
 {
 }
 

@@ -29,9 +29,11 @@ QByteArray realContent(double value)
 
 double realIn(const QByteArray &content)
 {
-    return content.size() == sizeof(float) ? static_cast<double>(
-               std::bit_cast<float>(static_cast<quint32>(numberFromBigEndian(content))))
-                                           : std::bit_cast<double>(numberFromBigEndian(content));
+    const quint64 bits = numberFromBigEndian(content);
+    if (content.size() == sizeof(float)) {
+        return static_cast<double>(std::bit_cast<float>(static_cast<quint32>(bits)));
+    }
+    return std::bit_cast<double>(bits);
 }
 
 QByteArray utf16Content(const QString &text)

@@ -3,7 +3,7 @@
 #include "platform/foundation/storage/NSUserDefaults.h"
 
 #include "platform/foundation/coding/PropertyList.h"
-#include "platform/foundation/storage/PrivateFile.h"
+#include "platform/foundation/storage/DefaultsFile.h"
 
 #include <QStandardPaths>
 
@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The values of the file, none for an absent file; nil for a damaged one.
-std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray &content)
+std::optional<PropertyList> valuesIn(DefaultsFile::State state, const QByteArray &content)
 {
-    if (state == PrivateFile::State::Absent) {
+    if (state == DefaultsFile::State::Absent) {
         return PropertyList::dictionary();
     }
     std::optional<PropertyList> values;
-    if (state == PrivateFile::State::Read) {
+    if (state == DefaultsFile::State::Read) {
         values = PropertyList::fromData(content);
     }
     return values && values->isDictionary() ? std::move(values) : std::nullopt;
@@ -26,11 +26,11 @@ std::optional<PropertyList> valuesIn(PrivateFile::State state, const QByteArray 
 
 /// The values for a change. Moves a damaged file aside. Nil if the file can be neither read nor
 /// moved.
-std::optional<PropertyList> readForChange(const PrivateFile &file, const PrivateFile::Lock &lock)
+std::optional<PropertyList> readForChange(const DefaultsFile &file, const DefaultsFile::Lock &lock)
 {
     QByteArray content;
-    const PrivateFile::State state = file.read(&content);
-    if (!lock.isHeld() || state == PrivateFile::State::Unavailable) {
+    const DefaultsFile::State state = file.read(&content);
+    if (!lock.isHeld() || state == DefaultsFile::State::Unavailable) {
         return std::nullopt;
     }
     std::optional<PropertyList> values = valuesIn(state, content);
@@ -41,7 +41,7 @@ std::optional<PropertyList> readForChange(const PrivateFile &file, const Private
 }
 
 /// Reads the data back before it replaces the file.
-bool write(const PrivateFile &file, const PrivateFile::Lock &lock, const PropertyList &values,
+bool write(const DefaultsFile &file, const DefaultsFile::Lock &lock, const PropertyList &values,
            const QString &key)
 {
     const QByteArray content = values.toData();
@@ -64,12 +64,12 @@ NSUserDefaults::NSUserDefaults(const QString &applicationId, const QString &fold
 std::optional<QByteArray> NSUserDefaults::dataForKey(const QString &key) const
 {
     QByteArray content;
-    const PrivateFile::State state = m_file.read(&content);
+    const DefaultsFile::State state = m_file.read(&content);
     if (const std::optional<PropertyList> values = valuesIn(state, content)) {
         return values->item(key).data();
     }
     // The file is damaged, unless another process has just replaced it.
-    const PrivateFile::Lock lock(m_file);
+    const DefaultsFile::Lock lock(m_file);
     const std::optional<PropertyList> values = readForChange(m_file, lock);
     return values ? values->item(key).data() : std::nullopt;
 }
@@ -79,7 +79,7 @@ bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QStr
     if (!data) {
         return removeObjectForKey(key);
     }
-    const PrivateFile::Lock lock(m_file);
+    const DefaultsFile::Lock lock(m_file);
     std::optional<PropertyList> values = readForChange(m_file, lock);
     if (!values) {
         return false;
@@ -91,7 +91,7 @@ bool NSUserDefaults::setObject(const std::optional<QByteArray> &data, const QStr
 bool NSUserDefaults::removeObjectForKey(const QString &key)
 {
     QByteArray content;
-    const PrivateFile::State state = m_file.read(&content);
+    const DefaultsFile::State state = m_file.read(&content);
     const std::optional<PropertyList> values = valuesIn(state, content);
     const bool isAbsent = values && !values->item(key).isPresent();
     if (isAbsent) {
@@ -103,7 +103,7 @@ bool NSUserDefaults::removeObjectForKey(const QString &key)
 
 bool NSUserDefaults::writeWithout(const QString &key)
 {
-    const PrivateFile::Lock lock(m_file);
+    const DefaultsFile::Lock lock(m_file);
     std::optional<PropertyList> values = readForChange(m_file, lock);
     if (!values) {
         return false;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/storage/PrivateFile.h"
+#include "platform/foundation/storage/DefaultsFile.h"
 
 #include <QByteArray>
 #include <QString>
@@ -39,5 +39,5 @@ public:
 private:
     [[nodiscard]] bool writeWithout(const QString &key);
 
-    PrivateFile m_file;
+    DefaultsFile m_file;
 };

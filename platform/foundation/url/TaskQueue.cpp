@@ -39,13 +39,9 @@ void TaskQueue::wake()
 
 void TaskQueue::run()
 {
-    for (;;) {
-        const Incoming incoming = takeIncoming();
-        for (const Task &task : incoming.tasks) {
+    while (const std::optional<std::vector<Task>> tasks = takeIncoming()) {
+        for (const Task &task : *tasks) {
             start(task);
-        }
-        if (incoming.stopping) {
-            break;
         }
         if (m_loader) {
             m_loader->wait();
@@ -57,39 +53,35 @@ void TaskQueue::run()
     cancelIncoming();
 }
 
-/// Without a loader, waits until there is something to take.
-TaskQueue::Incoming TaskQueue::takeIncoming()
+/// Nothing once the queue is stopping. Without a loader, waits for the first task and makes one:
+/// tasks that come meanwhile are taken as well, those that come later wake it.
+std::optional<std::vector<TaskQueue::Task>> TaskQueue::takeIncoming()
 {
     std::unique_lock lock(m_mutex);
     if (!m_loader) {
         m_wake.wait(lock, [this] { return m_stopping || !m_incoming.empty(); });
     }
-    return {std::exchange(m_incoming, {}), m_stopping};
-}
-
-/// Null if its module cannot be loaded.
-HTTPLoader *TaskQueue::loader()
-{
-    if (!m_loader) {
+    if (!m_loader && !m_stopping) {
+        lock.unlock();
         std::unique_ptr<HTTPLoader> loaded = HTTPLoader::load(m_configuration, m_proxy);
-        const std::lock_guard lock(m_mutex);
+        lock.lock();
         m_loader = std::move(loaded);
-        if (m_loader) {
-            m_loader->wake(); // nobody was woken for what has come meanwhile
-        }
     }
-    return m_loader.get();
+    if (m_stopping) {
+        return std::nullopt;
+    }
+    return std::exchange(m_incoming, {});
 }
 
+/// Without a loader its module could not be loaded.
 void TaskQueue::start(const Task &task)
 {
-    HTTPLoader *const loaded = loader();
-    if (!loaded) {
+    if (!m_loader) {
         complete(task, {{}, NSURLErrorUnknown});
         return;
     }
-    loaded->start(task->originalRequest(),
-                  [this, task](HTTPLoader::Result result) { complete(task, std::move(result)); });
+    m_loader->start(task->originalRequest(),
+                    [this, task](HTTPLoader::Result result) { complete(task, std::move(result)); });
 }
 
 void TaskQueue::complete(const Task &task, HTTPLoader::Result result) const

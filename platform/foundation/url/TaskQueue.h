@@ -8,6 +8,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 class NSURLSessionDataTask;
@@ -33,13 +34,8 @@ public:
     void run();
 
 private:
-    struct Incoming {
-        std::vector<Task> tasks;
-        bool stopping = false;
-    };
     void wake();
-    Incoming takeIncoming();
-    HTTPLoader *loader();
+    std::optional<std::vector<Task>> takeIncoming();
     void start(const Task &task);
     void complete(const Task &task, HTTPLoader::Result result) const;
     void cancelIncoming();

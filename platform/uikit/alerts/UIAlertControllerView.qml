@@ -39,7 +39,7 @@ FocusScope {
             height: Math.min(contentHeight, root.room - buttons.height)
             contentHeight: texts.height
 
-            AlertTextsView {
+            AlertContentView {
                 id: texts
                 width: parent.width
                 controller: root.controller

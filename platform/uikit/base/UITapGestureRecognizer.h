@@ -10,8 +10,7 @@ class UITapGestureRecognizer {
 public:
     template <typename Target, typename Method>
     UITapGestureRecognizer(Target *target, Method action)
-        : m_action(
-            std::make_unique<MethodAction<UITapGestureRecognizer, Target, Method>>(target, action))
+        : m_action(new MethodAction<UITapGestureRecognizer, Target, Method>(target, action))
     {
     }
 

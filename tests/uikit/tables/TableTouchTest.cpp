@@ -52,20 +52,17 @@ class TableTouchTest : public QObject {
 private Q_SLOTS:
     void aRowIsChosenOnce()
     {
-        void (*const ways[])(TableStage &) = {
-            [](TableStage &stage) {
-                QTest::mouseClick(&stage.view(), Qt::LeftButton, {}, stage.second());
-            },
-            [](TableStage &stage) {
-                stage.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-            },
-            [](TableStage &stage) {
-                stage.keys({Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space});
-            },
-            [](TableStage &stage) {
-                stage.press(stage.table->text({0, 1}));
-            },
+        const auto byMouse = [](TableStage &stage) {
+            QTest::mouseClick(&stage.view(), Qt::LeftButton, {}, stage.second());
         };
+        const auto byReturn = [](TableStage &stage) {
+            stage.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Return});
+        };
+        const auto bySpace = [](TableStage &stage) {
+            stage.keys({Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Space});
+        };
+        const auto byReader = [](TableStage &stage) { stage.press(stage.table->text({0, 1})); };
+        void (*const ways[])(TableStage &) = {byMouse, byReturn, bySpace, byReader};
         for (const auto choose : ways) {
             TableStage stage({2, 0, 2});
             // The action itself reloads the table.

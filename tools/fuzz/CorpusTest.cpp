@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "harness/TestRunner.h"
-#include "tests/fuzz/FuzzTargets.h"
+#include "tools/fuzz/FuzzTargets.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,8 +4,8 @@
 #include "harness/TestRunner.h"
 #include "harness/TestWindow.h"
 #include "sandbox/DemoIssues.h"
-#include "tests/random/RandomRuns.h"
-#include "tests/random/WindowRules.h"
+#include "tools/random/RandomRuns.h"
+#include "tools/random/WindowRules.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

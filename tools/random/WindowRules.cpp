@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/random/WindowRules.h"
+#include "tools/random/WindowRules.h"
 
 #include "harness/TestRunner.h"
 #include "harness/TestWindow.h"

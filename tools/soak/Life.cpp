@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/soak/Life.h"
+#include "tools/soak/Life.h"
 
 #include "app/AppDelegate.h"
 #include "app/Program.h"
@@ -15,8 +15,8 @@
 #include "screens/login/WZTLoginViewController.h"
 #include "service/TavloCategoryExtension.h"
 #include "service/WZTAPI.h"
-#include "tests/random/RandomRuns.h"
-#include "tests/soak/Journal.h"
+#include "tools/random/RandomRuns.h"
+#include "tools/soak/Journal.h"
 
 #include <QQuickView>
 #include <QRegularExpression>

@@ -10,9 +10,9 @@
 #include "sandbox/DemoIssues.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/endpoints/Packages.h"
-#include "tests/random/RandomRuns.h"
-#include "tests/soak/Ledger.h"
-#include "tests/soak/Life.h"
+#include "tools/random/RandomRuns.h"
+#include "tools/soak/Ledger.h"
+#include "tools/soak/Life.h"
 
 #include <QCoreApplication>
 #include <QDir>

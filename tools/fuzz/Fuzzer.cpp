@@ -3,7 +3,7 @@
 
 // libFuzzer's side: the target that WZT_FUZZ_TARGET names, over and over.
 
-#include "tests/fuzz/FuzzTargets.h"
+#include "tools/fuzz/FuzzTargets.h"
 
 #include <algorithm>
 #include <cstdio>

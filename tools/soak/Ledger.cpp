@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/soak/Ledger.h"
+#include "tools/soak/Ledger.h"
 
 #include <algorithm>
 #include <cstdio>

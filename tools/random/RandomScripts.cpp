@@ -6,8 +6,8 @@
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/uikit/presentation/UITabBarController.h"
 #include "platform/uikit/presentation/UIWindow.h"
-#include "tests/random/RandomRuns.h"
-#include "tests/random/ScriptPage.h"
+#include "tools/random/RandomRuns.h"
+#include "tools/random/ScriptPage.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>

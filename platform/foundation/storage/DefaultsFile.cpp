@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/storage/PrivateFile.h"
+#include "platform/foundation/storage/DefaultsFile.h"
 
-#include "platform/files/PrivateFiles.h"
+#include "platform/files/PrivateFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +27,7 @@ constexpr auto lockTimeout = 90ms;
 constexpr auto lockRetryInterval = 10ms;
 constexpr auto damagedSuffix = ".damaged-";
 
-using State = PrivateFile::State;
+using State = DefaultsFile::State;
 
 /// Stops beyond `maximumLength`: the size that the system reports may be 0 or out of date.
 State readAll(int descriptor, qsizetype maximumLength, QByteArray *content)
@@ -72,22 +72,22 @@ bool lockWithTimeout(int descriptor, std::chrono::milliseconds timeout)
 
 } // namespace
 
-PrivateFile::Lock::Lock(const PrivateFile &file) : m_folder(PrivateFiles::openFolder(file.m_folder))
+DefaultsFile::Lock::Lock(const DefaultsFile &file) : m_folder(PrivateFolder::open(file.m_folder))
 {
     const bool isPrivate = m_folder.isOpen()
-        && (isLink(file.m_folder) || fchmod(m_folder.get(), PrivateFiles::folderMode) == 0);
+        && (isLink(file.m_folder) || fchmod(m_folder.get(), PrivateFolder::mode) == 0);
     m_held = isPrivate && lockWithTimeout(m_folder.get(), file.m_waitsForLock ? lockTimeout : 0ms);
     file.m_waitsForLock = m_held || !isPrivate;
 }
 
-PrivateFile::PrivateFile(const QString &folder, const QString &name, qsizetype maximumLength)
+DefaultsFile::DefaultsFile(const QString &folder, const QString &name, qsizetype maximumLength)
     : m_folder(QFile::encodeName(folder)),
       m_name(QFile::encodeName(name)),
       m_maximumLength(maximumLength)
 {
 }
 
-PrivateFile::State PrivateFile::read(QByteArray *content) const
+DefaultsFile::State DefaultsFile::read(QByteArray *content) const
 {
     const FileDescriptor file(open(path().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen()) {
@@ -99,12 +99,12 @@ PrivateFile::State PrivateFile::read(QByteArray *content) const
                                                    : State::Unreadable;
 }
 
-bool PrivateFile::write(const Lock &lock, const QByteArray &content) const
+bool DefaultsFile::write(const Lock &lock, const QByteArray &content) const
 {
-    return lock.isHeld() && PrivateFiles::replace(lock.m_folder.get(), m_name, content);
+    return lock.isHeld() && PrivateFolder::replace(lock.m_folder.get(), m_name, content);
 }
 
-bool PrivateFile::remove() const
+bool DefaultsFile::remove() const
 {
     // First: a stopped writer that goes on would rename it to the removed file.
     removeTemporary();
@@ -116,12 +116,12 @@ bool PrivateFile::remove() const
     return true;
 }
 
-void PrivateFile::removeTemporary() const
+void DefaultsFile::removeTemporary() const
 {
-    unlink(QByteArray(m_folder + '/' + PrivateFiles::temporaryName(m_name)).constData());
+    unlink(QByteArray(m_folder + '/' + PrivateFolder::temporaryName(m_name)).constData());
 }
 
-bool PrivateFile::moveAside(const Lock &lock) const
+bool DefaultsFile::moveAside(const Lock &lock) const
 {
     QByteArray place = path() + damagedSuffix + "XXXXXX";
     if (!lock.isHeld() || !mkdtemp(place.data())) {
@@ -135,7 +135,7 @@ bool PrivateFile::moveAside(const Lock &lock) const
     return true;
 }
 
-bool PrivateFile::removeMovedAside() const
+bool DefaultsFile::removeMovedAside() const
 {
     bool removed = true;
     const QDir folder(QFile::decodeName(m_folder));

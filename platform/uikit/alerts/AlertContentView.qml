@@ -16,12 +16,12 @@ Column {
     bottomPadding: Metrics.alertPadding
     spacing: Metrics.lineSpacing
 
-    AlertTextView {
+    AlertLabelView {
         width: root.width - 2 * root.padding
         text: root.controller.title
         font: Theme.headlineFont
     }
-    AlertTextView {
+    AlertLabelView {
         width: root.width - 2 * root.padding
         text: root.controller.message
         font: Theme.footnoteFont

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/fuzz/FixedReply.h"
+#include "tools/fuzz/FixedReply.h"
 
 #include "platform/foundation/url/NSURLSession.h"
 

@@ -9,10 +9,10 @@ namespace sandbox {
 
 /// Makes the folder and its parents if they are missing, and closes it to other users. Returns an
 /// empty text, or the reason of a failure.
-QString makePrivateDirectory(const QString &path);
+QString makeStateFolder(const QString &path);
 
 /// Writes a file that only its owner may read, whole or not at all; a power cut may undo it.
 /// Returns an empty text, or the reason of a failure.
-QString writePrivateFile(const QString &path, const QByteArray &bytes);
+QString writeStateFile(const QString &path, const QByteArray &bytes);
 
 } // namespace sandbox

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/soak/Journal.h"
+#include "tools/soak/Journal.h"
 
 #include "platform/foundation/coding/NSKeyedArchiver.h"
 

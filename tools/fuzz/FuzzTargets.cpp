@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "tests/fuzz/FuzzTargets.h"
+#include "tools/fuzz/FuzzTargets.h"
 
 #include "app/QueryString.h"
 #include "platform/foundation/coding/NSKeyedArchiver.h"
@@ -10,7 +10,7 @@
 #include "platform/foundation/storage/NSUserDefaults.h"
 #include "platform/foundation/url/NSURLComponents.h"
 #include "service/WZTAPI.h"
-#include "tests/fuzz/FixedReply.h"
+#include "tools/fuzz/FixedReply.h"
 
 #include <QDir>
 #include <QFile>

@@ -9,7 +9,7 @@
 
 /// A small file that only its user may read (0600, in a folder of 0700). A process that is killed
 /// at any moment leaves the old content or the new one.
-class PrivateFile {
+class DefaultsFile {
 public:
     enum class State {
         Read,
@@ -27,18 +27,18 @@ public:
     public:
         /// Makes the folder and its parents if they are missing. Waits for another process for a
         /// tenth of a second at most; after a failure the next lock does not wait at all.
-        explicit Lock(const PrivateFile &file);
+        explicit Lock(const DefaultsFile &file);
         [[nodiscard]] bool isHeld() const { return m_held; }
 
     private:
-        friend class PrivateFile;
+        friend class DefaultsFile;
         FileDescriptor m_folder;
         bool m_held = false;
     };
 
     /// A file longer than `maximumLength` bytes is not read. The folder may be a link; its target
     /// keeps its mode.
-    PrivateFile(const QString &folder, const QString &name, qsizetype maximumLength);
+    DefaultsFile(const QString &folder, const QString &name, qsizetype maximumLength);
 
     /// Appends the file's content to `content`. Never blocks, not even on a pipe.
     [[nodiscard]] State read(QByteArray *content) const;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/files/PrivateFiles.h"
+#include "platform/files/PrivateFolder.h"
 
 #include "platform/files/FileDescriptor.h"
 
@@ -42,20 +42,20 @@ bool writeNew(int folder, const QByteArray &name, const QByteArray &content, boo
 
 } // namespace
 
-int PrivateFiles::openFolder(const QByteArray &path)
+int PrivateFolder::open(const QByteArray &path)
 {
     QDir().mkpath(QFile::decodeName(path) + QStringLiteral("/.."));
-    mkdir(path.constData(), folderMode);
-    return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    mkdir(path.constData(), mode);
+    return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-QByteArray PrivateFiles::temporaryName(const QByteArray &name)
+QByteArray PrivateFolder::temporaryName(const QByteArray &name)
 {
     return name + ".tmp";
 }
 
-bool PrivateFiles::replace(int folder, const QByteArray &name, const QByteArray &content,
-                           Durability durability)
+bool PrivateFolder::replace(int folder, const QByteArray &name, const QByteArray &content,
+                            Durability durability)
 {
     // The name never varies, so a killed writer leaves one file, and the next writer removes it.
     const QByteArray temporary = temporaryName(name);

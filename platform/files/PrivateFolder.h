@@ -8,13 +8,13 @@
 
 /// Files and folders that only their user may use. Paths and names are encoded as the system has
 /// them. Operations that fail leave the reason in errno.
-namespace PrivateFiles {
+namespace PrivateFolder {
 
-inline constexpr mode_t folderMode = 0700;
+inline constexpr mode_t mode = 0700;
 
-/// Opens a folder, made with `folderMode` if it is missing, its parents too. An existing folder
+/// Opens a folder, made with `mode` if it is missing, its parents too. An existing folder
 /// keeps its mode. Negative on failure.
-[[nodiscard]] int openFolder(const QByteArray &path);
+[[nodiscard]] int open(const QByteArray &path);
 
 /// The name under which `replace` writes a file before it renames it.
 [[nodiscard]] QByteArray temporaryName(const QByteArray &name);
@@ -31,4 +31,4 @@ enum class Durability {
 [[nodiscard]] bool replace(int folder, const QByteArray &name, const QByteArray &content,
                            Durability durability = Durability::Synced);
 
-} // namespace PrivateFiles
+} // namespace PrivateFolder
