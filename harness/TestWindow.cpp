@@ -189,6 +189,13 @@ void TestWindow::tap(const QPoint &point) const
     Finger(*m_view, point).lift();
 }
 
+void TestWindow::drag(const QPoint &from, const QPoint &to) const
+{
+    Finger finger(*m_view, from);
+    finger.move(to);
+    finger.lift();
+}
+
 void TestWindow::press(const QString &name) const
 {
     accessible(name)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());

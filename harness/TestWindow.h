@@ -74,6 +74,8 @@ public:
     {
         tap(centre(thing));
     }
+    /// A finger moves from one place to another.
+    void drag(const QPoint &from, const QPoint &to) const;
     /// Takes the press action of the accessible item of that name, in sight or not.
     void press(const QString &name) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "service/TavloCategoryExtension.h"
@@ -51,14 +49,8 @@ struct AccountStage : TestApp {
     }
 };
 
-struct Update {
-    const char *name;
-    QString texts;
-    QByteArray reply; // of the service itself if empty
-    QString sent; // after the address, which is sent with all
-    QString alert;
-};
-
+// Texts, the reply (the service's own if empty), what is sent after the address, and the alert.
+using Update = std::tuple<const char *, QString, QByteArray, QString, QString>;
 // A reply to an update or a refresh, who is signed in when it comes, and the alert.
 using LateReply = std::tuple<const char *, bool, QString, QString>;
 

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
 #include "platform/uikit/bars/UINavigationItem.h"

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "model/WZTPackage.h"
 #include "screens/home/WZTRootViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"

@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
-#include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "screens/issues/WZTIssueReporterViewController.h"
-#include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
 
 #include <QQuickItem>

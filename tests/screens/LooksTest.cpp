@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
 #include "screens/issues/WZTRootIssueViewController.h"
-#include "tests/screens/LoginScreen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,14 +16,9 @@ using Content = UITextContentType;
 using Correction = UITextAutocorrectionType;
 using Keyboard = UIKeyboardType;
 
-// An alert, and its fields' keyboard traits.
-struct Alert {
-    const char *name;
-    bool signedIn;
-    void (*ask)(TestApp &app);
-    QString alert;
-    std::vector<UITextInputTraits> traits;
-};
+// Whether somebody is signed in, how an alert is asked for, the alert, and its fields' keyboards.
+using Alert =
+    std::tuple<const char *, bool, void (*)(TestApp &), QString, std::vector<UITextInputTraits>>;
 
 bool isDrawnAs(const UIColor &color, const UIColor &expected)
 {
@@ -68,12 +61,12 @@ private Q_SLOTS:
         addCases<Alert>({
             {"reset",
              false,
-             [](TestApp &app) { login(app).forgotPasswordButton()->activate(); },
+             [](TestApp &app) { app.login().forgotPasswordButton()->activate(); },
              u"Reset Password||Email|(Dismiss)|Reset"_s,
              {email}},
             {"registration",
              false,
-             [](TestApp &app) { login(app).registerButton()->activate(); },
+             [](TestApp &app) { app.login().registerButton()->activate(); },
              u"New Account||Name|Email|Password|(Dismiss)|Register"_s,
              {name, email, secret(Correction::Default, Content::NewPassword)}},
             {"update",
@@ -112,7 +105,7 @@ private Q_SLOTS:
         addCases<Operation>({
             {"sign-in",
              false,
-             [](TestApp &app, auto code, auto &user) { login(app).loginCompleted(code, user); },
+             [](TestApp &app, auto code, auto &user) { app.login().loginCompleted(code, user); },
              1,
              {u"Error|Account details did not match any account"_s,
               closes,
@@ -121,7 +114,7 @@ private Q_SLOTS:
               {}}},
             {"reset",
              false,
-             [](TestApp &app, auto code, auto &) { login(app).resetCompleted(code); },
+             [](TestApp &app, auto code, auto &) { app.login().resetCompleted(code); },
              {},
              {u"Great!|A reset email has been sent."_s,
               u"Error|An account doesn't exists for this email."_s,
@@ -131,7 +124,7 @@ private Q_SLOTS:
             {"registration",
              false,
              [](TestApp &app, auto code, auto &user) {
-                 login(app).registrationCompleted(code, user);
+                 app.login().registrationCompleted(code, user);
              },
              2,
              {u"Error|An account already exists for this email."_s,
@@ -186,19 +179,19 @@ private Q_SLOTS:
         const auto projects = make<WZTRootIssueViewController>();
         const auto issues = make<WZTPackageIssuesViewController>(WZTPackage::allPackages().front());
         for (UIViewController *screen : std::initializer_list<UIViewController *>{
-                 account.get(), projects.get(), issues.get(), &login(app)}) {
+                 account.get(), projects.get(), issues.get(), &app.login()}) {
             screen->loadViewIfNeeded();
             QVERIFY(isDrawnAs(screen->view()->backgroundColor(),
                               UIColor::systemGroupedBackgroundColor()));
         }
         QVERIFY(!account->tableView()->drawsSeparators());
-        QVERIFY(isDrawnAs(login(app).formContainer()->backgroundColor(),
+        QVERIFY(isDrawnAs(app.login().formContainer()->backgroundColor(),
                           UIColor::secondarySystemGroupedBackgroundColor()));
-        QVERIFY(isDrawnAs(login(app).headerLabel()->textColor(), UIColor::labelColor()));
+        QVERIFY(isDrawnAs(app.login().headerLabel()->textColor(), UIColor::labelColor()));
         const std::pair<UITextField *, UITextInputTraits> fields[] = {
-            {login(app).emailTextField(),
+            {app.login().emailTextField(),
              {Keyboard::EmailAddress, Capitals::None, Correction::Default, Content::EmailAddress}},
-            {login(app).passwordTextField(),
+            {app.login().passwordTextField(),
              {Keyboard::ASCIICapable, Capitals::None, Correction::Default, Content::Password,
               true}},
         };

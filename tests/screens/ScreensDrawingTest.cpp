@@ -1,8 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
-#include "harness/TestWindow.h"
-#include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "harness/WindowStage.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/bars/UINavigationItem.h"
@@ -118,9 +117,7 @@ private Q_SLOTS:
                 break;
             }
             QTRY_COMPARE(entries[1]->x(), 0);
-            Finger next(stage.view(), at(swipe.from));
-            next.move(at(swipe.to));
-            next.lift();
+            stage.drag(at(swipe.from), at(swipe.to));
         }
         QCOMPARE(stage.navigation->topViewController() == stage.root.get(), swipe.leaves);
         QTRY_COMPARE(entries[0]->isVisible(), swipe.leaves);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "harness/TestRunner.h"
 #include "harness/WindowStage.h"
 #include "platform/uikit/tables/TableList.h"
 #include "tests/uikit/tables/SampleTable.h"
