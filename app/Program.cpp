@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The size of most texts. What asks for the size of a text before it knows the text's font takes
-/// this one, and another font need not be loaded for it.
+/// The size of most texts. A text that is measured before its font is set is measured in the
+/// application's font: in this size no other has to be loaded for it.
 constexpr int bodySize = 17;
 
 QString displayName()

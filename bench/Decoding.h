@@ -4,6 +4,6 @@
 
 #include <QStringList>
 
-/// What a process of its own does for measureDecoding: reads the body in a file in the way that the
+/// Runs in the process that measureDecoding starts: reads the body in a file in the way that the
 /// first argument names, and prints the most memory that it had, in MiB.
 void decode(const QStringList &arguments);

@@ -4,6 +4,6 @@
 
 #include <QStringList>
 
-/// What a process of its own does for measureIdle: brings the application to the place that is the
+/// Runs in the process that measureIdle starts: brings the application to the place that is the
 /// argument, says so in a line, and stays there until it is ended.
 void rest(const QStringList &arguments);

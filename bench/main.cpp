@@ -23,7 +23,7 @@ constexpr std::pair<const char *, void (*)(const QStringList &arguments)> measur
     {"requests", measureRequests}, {"idle", measureIdle},
 };
 
-/// What a measurement has a process of its own do.
+/// The parts of measurements that run in a process of their own.
 constexpr std::pair<const char *, void (*)(const QStringList &arguments)> parts[] = {
     {"decode", decode},
     {"rest", rest},

@@ -49,7 +49,7 @@ constexpr auto repeatedSteps =
     u"Steps:\n1. Open Settings\n2. Switch it off and on again\n3. Lock the "
     u"device and wait\n\nExpected: all is as before\nActual: ";
 
-/// What every twelfth issue adds, so that a dozen has one of each.
+/// Unusual texts. Each is added to every twelfth issue, so that a dozen issues have all of them.
 struct Oddity {
     QStringView title;
     QStringView description;

@@ -40,7 +40,7 @@ QString Sandbox::directory() const
 
 QString Sandbox::caFile() const
 {
-    return Certificates::caFile(m_service->directory);
+    return CertificateStore::caFile(m_service->directory);
 }
 
 std::optional<Account> Sandbox::addAccount(const Account &account, const QString &password)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "sandbox/Sandbox.h"
-#include "sandbox/certificates/Certificates.h"
+#include "sandbox/certificates/CertificateStore.h"
 #include "sandbox/endpoints/AccountEndpoints.h"
 #include "sandbox/endpoints/IssueEndpoints.h"
 #include "sandbox/faults/StagedFaults.h"
@@ -55,7 +55,7 @@ private:
     AccountEndpoints m_accountEndpoints;
     IssueEndpoints m_issueEndpoints{issues};
     Router m_router;
-    Certificates m_certificates;
+    CertificateStore m_certificates;
     std::mutex m_mutex;
     QList<Request> m_requests;
     std::unique_ptr<boost::asio::thread_pool> m_pool;

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result fetchResults[] = {
+constexpr AccountReplyCodes::Result fetchResults[] = {
     {"No User"_L1, 1},
     {"Invalid Request"_L1, 2},
 };
-constexpr WZTAccountReplies fetchCodes{
+constexpr AccountReplyCodes fetchCodes{
     .transportError = 2,
     .user = 0,
     .results = fetchResults,

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result updateResults[] = {
+constexpr AccountReplyCodes::Result updateResults[] = {
     {"User Not Found"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies updateCodes{
+constexpr AccountReplyCodes updateCodes{
     .transportError = 3,
     .user = 1,
     .results = updateResults,
@@ -26,13 +26,14 @@ void addUnlessEmpty(QList<NSURLQueryItem> &parameters, const NSURLQueryItem &ite
 
 } // namespace
 
-void WZTAPI::updateAccount(const Text &email, const Text &userName, const Text &passwordDigest,
-                           const Text &newPasswordDigest, UserCompletion completion)
+void WZTAPI::updateAccount(const Text &email, const Text &userName, Text passwordDigest,
+                           Text newPasswordDigest, UserCompletion completion)
 {
-    WZTRequest request{"POST",
-                       u"/update.php"_s,
-                       {{u"userEmail"_s, email}, {u"userOldPassword"_s, passwordDigest}}};
+    WZTRequest request{
+        "POST",
+        u"/update.php"_s,
+        {{u"userEmail"_s, email}, {u"userOldPassword"_s, std::move(passwordDigest)}}};
     addUnlessEmpty(request.parameters, {u"userName"_s, userName});
-    addUnlessEmpty(request.parameters, {u"userNewPassword"_s, newPasswordDigest});
+    addUnlessEmpty(request.parameters, {u"userNewPassword"_s, std::move(newPasswordDigest)});
     sendAccountRequest(request, updateCodes, std::move(completion));
 }

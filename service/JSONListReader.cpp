@@ -27,8 +27,8 @@ qsizetype endOfString(const QByteArray &text, qsizetype quote)
     return text.size();
 }
 
-/// Commas between elements of the outermost list, at least `pieceLength` apart. In a text that is
-/// no JSON these may be any commas: whoever reads the pieces finds that out.
+/// Commas between elements of the outermost list, at least `pieceLength` apart. In invalid JSON
+/// these may be any commas; a piece is then invalid as well.
 QList<qsizetype> commasIn(const QByteArray &text)
 {
     QList<qsizetype> commas;

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result loginResults[] = {
+constexpr AccountReplyCodes::Result loginResults[] = {
     {"User Does Not Exist"_L1, 2},
     {"Incorrect"_L1, 0},
 };
-constexpr WZTAccountReplies loginCodes{
+constexpr AccountReplyCodes loginCodes{
     .transportError = 3,
     .user = 1,
     .results = loginResults,
@@ -19,10 +19,11 @@ constexpr WZTAccountReplies loginCodes{
 
 } // namespace
 
-void WZTAPI::loginToAccount(const Text &email, const Text &passwordDigest,
-                            UserCompletion completion)
+void WZTAPI::loginToAccount(const Text &email, Text passwordDigest, UserCompletion completion)
 {
     const WZTRequest request{
-        "GET", u"/login.php"_s, {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}}};
+        "GET",
+        u"/login.php"_s,
+        {{u"userEmail"_s, email}, {u"userPassword"_s, std::move(passwordDigest)}}};
     sendAccountRequest(request, loginCodes, std::move(completion));
 }

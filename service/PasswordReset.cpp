@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result resetResults[] = {
+constexpr AccountReplyCodes::Result resetResults[] = {
     {"Message has been sent"_L1, 0},
     {"Message could not be sent"_L1, 3},
     {"User Not Found"_L1, 3},
 };
-constexpr WZTAccountReplies resetCodes{
+constexpr AccountReplyCodes resetCodes{
     .transportError = 2,
     .user = std::nullopt,
     .results = resetResults,

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr WZTAccountReplies::Result registrationResults[] = {
+constexpr AccountReplyCodes::Result registrationResults[] = {
     {"User Exists"_L1, 0},
     {"Improper request"_L1, 1},
 };
-constexpr WZTAccountReplies registrationCodes{
+constexpr AccountReplyCodes registrationCodes{
     .transportError = 4,
     .user = 2,
     .results = registrationResults,
@@ -19,12 +19,13 @@ constexpr WZTAccountReplies registrationCodes{
 
 } // namespace
 
-void WZTAPI::registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
+void WZTAPI::registerEmail(const Text &email, const Text &userName, Text passwordDigest,
                            UserCompletion completion)
 {
-    const WZTRequest request{
-        "GET",
-        u"/register.php"_s,
-        {{u"userEmail"_s, email}, {u"userPassword"_s, passwordDigest}, {u"userName"_s, userName}}};
+    const WZTRequest request{"GET",
+                             u"/register.php"_s,
+                             {{u"userEmail"_s, email},
+                              {u"userPassword"_s, std::move(passwordDigest)},
+                              {u"userName"_s, userName}}};
     sendAccountRequest(request, registrationCodes, std::move(completion));
 }

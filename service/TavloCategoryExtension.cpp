@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "service/TavloCategoryExtension.h"
 
-#include <QCryptographicHash>
+#include "platform/foundation/base/Overwrite.h"
 
-#include <cstring>
+#include <QCryptographicHash>
 
 QString SHA256(const QString &text)
 {
     QByteArray bytes = text.toUtf8();
-    const QByteArray digest =
+    QByteArray digest =
         QCryptographicHash::hash(QByteArrayView(bytes.constData()), QCryptographicHash::Sha256);
-    explicit_bzero(bytes.data(), static_cast<size_t>(bytes.size()));
-    return QString::fromLatin1(digest.toHex());
+    QByteArray digits = digest.toHex();
+    const QString result = QString::fromLatin1(digits);
+    overwrite(bytes);
+    overwrite(digest);
+    overwrite(digits);
+    return result;
 }

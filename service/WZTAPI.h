@@ -14,8 +14,8 @@
 /// returns at once. Its completion must not be empty; it runs exactly once, on the session's
 /// thread. Each operation has codes of its own: no code means success in all of them.
 ///
-/// Passwords are digests (see SHA256). An absent text is sent as a name without a value, an empty
-/// one as an empty value.
+/// Passwords are digests (see SHA256), overwritten when the request has been sent. An absent text
+/// is sent as a name without a value, an empty one as an empty value.
 class WZTAPI {
 public:
     using Text = std::optional<QString>;
@@ -29,12 +29,11 @@ public:
     WZTAPI() = delete;
 
     /// Signs in. 1: the user. 2: no such address. 0: wrong password. 3: anything else.
-    static void loginToAccount(const Text &email, const Text &passwordDigest,
-                               UserCompletion completion);
+    static void loginToAccount(const Text &email, Text passwordDigest, UserCompletion completion);
 
     /// Makes an account. 2: its user. 0: the address is taken. 1: refused as improper.
     /// 4: the service was not reached. 3: anything else.
-    static void registerEmail(const Text &email, const Text &userName, const Text &passwordDigest,
+    static void registerEmail(const Text &email, const Text &userName, Text passwordDigest,
                               UserCompletion completion);
 
     /// Asks for a message with a new password. 0: sent. 3: not sent, or no such address.
@@ -43,8 +42,8 @@ public:
 
     /// Changes the name, the password or both; an absent or empty one stays as it is. 1: the
     /// changed user. 2: no such address. 0: wrong current password. 3: anything else.
-    static void updateAccount(const Text &email, const Text &userName, const Text &passwordDigest,
-                              const Text &newPasswordDigest, UserCompletion completion);
+    static void updateAccount(const Text &email, const Text &userName, Text passwordDigest,
+                              Text newPasswordDigest, UserCompletion completion);
 
     /// Fetches the account again. 0: its user. 1: no such address. 2: anything else.
     static void userForAccount(const Text &email, UserCompletion completion);

@@ -3,6 +3,7 @@
 #include "service/WZTRequest.h"
 
 #include "model/BuildConstants.h"
+#include "platform/foundation/base/Overwrite.h"
 #include "platform/foundation/url/NSURLComponents.h"
 #include "platform/foundation/url/NSURLSession.h"
 
@@ -25,6 +26,15 @@ NSMutableURLRequest urlRequest(const WZTRequest &request)
 }
 
 } // namespace
+
+WZTRequest::~WZTRequest()
+{
+    for (NSURLQueryItem &parameter : parameters) {
+        if (parameter.value) {
+            overwrite(*parameter.value);
+        }
+    }
+}
 
 void WZTRequest::send(std::function<void(const Reply &)> completion) const
 {

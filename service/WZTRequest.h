@@ -27,6 +27,9 @@ struct WZTRequest {
     /// empty value.
     QList<NSURLQueryItem> parameters;
 
+    /// Overwrites the values that nobody else holds: one may be a password digest.
+    ~WZTRequest();
+
     /// Sends the request over the shared URL session and returns at once. `completion` runs exactly
     /// once, on the session's thread; without a session it runs on this one, before the return.
     void send(std::function<void(const Reply &)> completion) const;

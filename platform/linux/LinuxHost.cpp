@@ -5,7 +5,7 @@
 #include "platform/linux/ActivationTokens.h"
 #include "platform/linux/DesktopPalette.h"
 #include "platform/linux/DesktopSettings.h"
-#include "platform/linux/Feedback.h"
+#include "platform/linux/HapticFeedback.h"
 #include "platform/linux/Links.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/faults/FaultWords.h"
 
-#include "sandbox/faults/CommandWords.h"
+#include "sandbox/faults/CommandSyntax.h"
 
 #include <array>
 #include <limits>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox/faults/StageCommand.h"
 
-#include "sandbox/faults/CommandWords.h"
+#include "sandbox/faults/CommandSyntax.h"
 #include "sandbox/faults/FaultWords.h"
 #include "sandbox/faults/StagedFaults.h"
 

@@ -3,6 +3,7 @@
 #include "screens/login/WZTLoginViewController.h"
 
 #include "model/WZTSession.h"
+#include "platform/foundation/base/Overwrite.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "screens/common/ContentType.h"
 #include "screens/common/FieldsAlert.h"
@@ -84,7 +85,7 @@ void WZTLoginViewController::login(UIControl *)
 {
     tapHaptically();
     const QString email = trimmedText(m_emailTextField);
-    const QString password = trimmedText(m_passwordTextField);
+    QString password = trimmedText(m_passwordTextField);
     if (email.isEmpty() || password.isEmpty()) {
         displayErrorMessage(u"Ensure all fields are properly filled."_s);
         return;
@@ -92,6 +93,7 @@ void WZTLoginViewController::login(UIControl *)
     m_activityIndicator.startAnimating();
     WZTAPI::loginToAccount(email, SHA256(password),
                            onMainThread(this, &WZTLoginViewController::loginCompleted));
+    overwrite(password);
 }
 
 void WZTLoginViewController::loginCompleted(NSUInteger code, const std::optional<WZTUser> &user)

@@ -71,7 +71,8 @@ void Journal::noteHome()
          + QByteArray::number(pages * ::sysconf(_SC_PAGESIZE) / 1024));
 }
 
-Journal::Session::Session(WZTSession &session) : m_session(session)
+Journal::Session::Session(WZTSession &session, QString disk)
+    : m_session(session), m_disk(std::move(disk))
 {
     install(this);
     note("found " + nameOf(currentUser()));
@@ -80,7 +81,10 @@ Journal::Session::Session(WZTSession &session) : m_session(session)
 void Journal::Session::setCurrentUser(const WZTUser &user)
 {
     // A user who cannot be kept must not leave the previous one in place.
-    const QByteArray kept = m_fullDisk ? "-" : nameOf(user);
+    const QByteArray kept = m_filled ? "-" : nameOf(user);
+    if (m_filled) {
+        m_filled->refill();
+    }
     note("may " + kept);
     m_session.setCurrentUser(user);
     note("is " + kept);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "harness/FullDisk.h"
 #include "model/WZTSession.h"
+#include "tools/soak/SmallDisk.h"
 
 #include <QByteArray>
 
@@ -24,11 +24,11 @@ void noteHome();
 /// The session of the application, each change noted before and after it is kept.
 class Session : public WZTSession {
 public:
-    /// In front of `session`, which outlives it.
-    explicit Session(WZTSession &session);
+    /// In front of `session`, which outlives it. `disk` is the folder of the small disk that the
+    /// session is kept on; empty for none.
+    Session(WZTSession &session, QString disk);
 
-    /// Whether files can grow.
-    void setDiskFull(bool full) { full ? void(m_fullDisk.emplace()) : m_fullDisk.reset(); }
+    void setDiskFull(bool full) { full ? void(m_filled.emplace(m_disk)) : m_filled.reset(); }
 
     [[nodiscard]] const std::optional<WZTUser> &currentUser() const override
     {
@@ -39,7 +39,8 @@ public:
 
 private:
     WZTSession &m_session;
-    std::optional<FullDisk> m_fullDisk;
+    QString m_disk;
+    std::optional<FilledDisk> m_filled;
 };
 
 } // namespace Journal

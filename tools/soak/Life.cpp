@@ -73,7 +73,8 @@ XLFormRowDescriptor &titleOf(const Form &form)
 
 class Person : public QObject {
 public:
-    Person(quint32 life, useconds_t alarm) : m_dice(life), m_life(life), m_alarm(alarm)
+    Person(quint32 life, useconds_t alarm, const char *disk)
+        : m_dice(life), m_life(life), m_alarm(alarm), m_session(m_delegate, QFile::decodeName(disk))
     {
         otherMessages = qInstallMessageHandler(hearLog);
         connect(&m_shown, &TransitionStack::topChanged, this, &Person::hearAlert);
@@ -277,7 +278,7 @@ private:
     AppDelegate &m_delegate = *dynamic_cast<AppDelegate *>(WZTSession::shared());
     TransitionStack &m_shown = *m_delegate.window()->presentation();
     WZTTabBarController &m_tabs = *m_delegate.tabController();
-    Journal::Session m_session{m_delegate};
+    Journal::Session m_session;
 };
 
 } // namespace
@@ -294,6 +295,6 @@ int Life::live(int &argc, char *argv[])
     argc = 1;
     Program program(argc, argv, configuration);
     std::unique_ptr<Person> person;
-    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm); });
+    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm, argv[5]); });
     return program.run({});
 }

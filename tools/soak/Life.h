@@ -15,8 +15,9 @@ inline const QStringList addresses{QStringLiteral("jo@wzt.example"),
 inline const QString password = QStringLiteral("secret");
 
 /// The arguments behind the first: the life's number, which is its seed and tells its reports from
-/// those of others, the service's port, its authority, and after how many microseconds of a change
-/// of the session the process dies; 0 for never. Returns the exit status.
+/// those of others, the service's port, its authority, after how many microseconds of a change of
+/// the session the process dies, 0 for never, and the folder of the small disk that the session is
+/// kept on, empty for none. Returns the exit status.
 [[nodiscard]] int live(int &argc, char *argv[]);
 
 } // namespace Life

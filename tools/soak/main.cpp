@@ -13,6 +13,7 @@
 #include "tools/random/RandomRuns.h"
 #include "tools/soak/Ledger.h"
 #include "tools/soak/Life.h"
+#include "tools/soak/SmallDisk.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -132,10 +133,12 @@ private:
               const std::function<bool(const QByteArray &line)> &isEnough)
     {
         m_ledger.begin();
+        m_disk.empty();
         TestProcess life;
         life.start(QCoreApplication::applicationFilePath(),
                    {QString::number(++m_life), QString::number(m_port),
-                    m_state.filePath(u"ca.pem"_s), QString::number(alarm)});
+                    m_state.filePath(u"ca.pem"_s), QString::number(alarm),
+                    m_disk.isMounted() ? configFolder() : QString()});
         bool isAsked = false;
         const auto takeLines = [&] {
             while (life.canReadLine()) {
@@ -165,8 +168,7 @@ private:
     // Whether a file was found damaged and so was moved aside.
     [[nodiscard]] bool takeDamaged() const
     {
-        const QDir folder(m_session.home() + u"/.config/"_s
-                          + QLatin1StringView(BuildConstants::applicationId));
+        const QDir folder(configFolder() + u'/' + QLatin1StringView(BuildConstants::applicationId));
         const QStringList damaged = folder.entryList({u"*.damaged-*"_s}, QDir::Dirs);
         for (const QString &each : damaged) {
             QDir(folder.filePath(each)).removeRecursively();
@@ -188,7 +190,10 @@ private:
         return all;
     }
 
+    [[nodiscard]] QString configFolder() const { return m_session.home() + u"/.config"_s; }
+
     TestSession m_session;
+    SmallDisk m_disk{configFolder()};
     RandomRuns::Dice m_dice;
     quint32 m_life;
     quint16 m_port = 0;
@@ -202,7 +207,7 @@ private:
 // [SECONDS [SEED]], or the arguments of Life.
 int main(int argc, char *argv[])
 {
-    if (argc == 5) {
+    if (argc == 6) {
         return Life::live(argc, argv);
     }
     const QCoreApplication application(argc, argv);

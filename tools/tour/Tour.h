@@ -6,6 +6,10 @@
 #include "tools/tour/Pictures.h"
 
 #include <QDir>
+#include <QObject>
+#include <QSize>
+
+#include <memory>
 
 class TestWindow;
 

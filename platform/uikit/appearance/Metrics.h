@@ -49,6 +49,8 @@ class Metrics : public QObject {
 public:
     static constexpr double margin = 16;
     static constexpr double row = 44;
+    /// The width and height that a control can be touched in at least.
+    static constexpr double smallestTarget = 44;
     /// Above and below the contents of a row.
     static constexpr double rowMargin = 11;
     /// Between two texts, one below the other.

@@ -68,9 +68,9 @@ public:
     /// The colour for these traits, never dynamic.
     [[nodiscard]] UIColor resolvedColorWithTraitCollection(const UITraitCollection &traits) const;
 
-    // The colour in a model, converted from the model that it was made in. A dynamic colour is
-    // resolved in the application's style now. Nil for no colour, and for one of components alone;
-    // of the latter, one with two components has a hue.
+    // The colour converted to a model; a dynamic colour is resolved first, in the application's
+    // present style. Nil for no colour. A colour that was made of components converts only to a
+    // hue, and only if it has two components.
     [[nodiscard]] std::optional<RGB> getRed() const;
     [[nodiscard]] std::optional<Gray> getWhite() const;
     [[nodiscard]] std::optional<HSB> getHue() const;

@@ -2,19 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/uikit/controls/ControlArea.h"
 
+#include "platform/uikit/appearance/Durations.h"
+#include "platform/uikit/appearance/Metrics.h"
 #include "platform/uikit/input/HitTest.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QQuickWindow>
 
-#include <chrono>
-
 namespace {
-
-constexpr double smallestTarget = 44;
-// A finger that comes to scroll has moved by then, and has pressed nothing.
-constexpr std::chrono::milliseconds pressDelay(100);
 
 bool scrolls(const QQuickItem &item)
 {
@@ -55,8 +51,8 @@ void ControlArea::setReceiver(UIControl *receiver)
 
 QRectF ControlArea::reach() const
 {
-    const double across = qMax(0.0, (smallestTarget - width()) / 2);
-    const double along = qMax(0.0, (smallestTarget - height()) / 2);
+    const double across = qMax(0.0, (Metrics::smallestTarget - width()) / 2);
+    const double along = qMax(0.0, (Metrics::smallestTarget - height()) / 2);
     return boundingRect().adjusted(-across, -along, across, along);
 }
 
@@ -76,7 +72,7 @@ void ControlArea::begin(const QPointF &point)
 {
     m_at = point;
     if (scrolls(*this)) {
-        m_press.start(pressDelay);
+        m_press.start(Durations::press);
     } else {
         press();
     }

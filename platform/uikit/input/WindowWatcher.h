@@ -15,7 +15,7 @@ class WindowWatcher : public QQuickItem {
 protected:
     /// Whether the item watches at all; true unless set.
     void setWatching(bool watching);
-    /// Null for none. Until `itemChange` is through it is the window that the item leaves.
+    /// The window of the item; null for none. Within `itemChange` it is still the previous one.
     [[nodiscard]] QQuickWindow *watched() const { return m_watched; }
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 

@@ -31,7 +31,7 @@ FocusScope {
     readonly property bool arriving: phase === TransitionStack.Entering && !overlay
     readonly property bool slides: !overlay && (swiped || !Traits.reduceMotion)
 
-    // An item that is only made to have the focus loses it to the one that has it already.
+    // Bound to `focus`, a new item would not take the focus from the item that has it.
     function takeFocus() {
         focus = !blocked && !leaving
     }
@@ -50,7 +50,7 @@ FocusScope {
         if (!settled)
             transition.start()
     }
-    /// A finger has the page this far in place; until it is put back or leaves.
+    /// Shows the page so far in place, while a finger drags it. putBack() ends this, and leaving.
     function swipe(to: real) {
         transition.stop()
         swiped = true

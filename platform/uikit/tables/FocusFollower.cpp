@@ -63,7 +63,7 @@ void FocusFollower::reveal()
 
 void FocusFollower::keepInSight(TableList &list)
 {
-    list.forceLayout(); // the row is as high as the text that is typed has made it
+    list.forceLayout(); // typing may have changed the height of the row
     const QRectF place = m_focused->mapRectToItem(list.contentItem(), m_mark);
     const double lowest = place.bottom() + m_margin - m_room;
     list.setContentY(qMin(place.top() - m_margin, qMax(list.contentY(), lowest)));

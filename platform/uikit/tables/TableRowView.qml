@@ -57,6 +57,7 @@ Item {
             NumberAnimation { duration: Durations.deselection }
         }
     }
+    // It decides which touches choose the row: a scroll none, a double click twice.
     PressArea {
         id: touch
         anchors.fill: parent

@@ -21,12 +21,12 @@ Item {
         if (list.dragging)
             return
         if (list.contentY > list.originY || control.refreshing && pulled >= height) {
-            list.topMargin = margin // seen from further down, or the way back ends there by itself
+            list.topMargin = margin // nothing has to move, or the list returns to it by itself
         } else {
             list.cancelFlick()
             moving.from = list.originY - pulled
             moving.to = list.originY - margin
-            list.topMargin = margin // thrown there at once, it is drawn again only when it moves
+            list.topMargin = margin // the list jumps to it, but is drawn again only when it moves
             moving.restart()
         }
     }

@@ -15,7 +15,7 @@ namespace sandbox {
 
 /// The service's authority and certificates. They persist in its directory, and are made anew when
 /// they are missing, damaged or about to expire.
-class Certificates {
+class CertificateStore {
 public:
     /// Reads or makes them; `now` in seconds since 1970. Returns an empty text, or the reason of a
     /// failure.

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/certificates/Certificates.h"
+#include "sandbox/certificates/CertificateStore.h"
 
 #include "sandbox/certificates/TlsContext.h"
 #include "sandbox/storage/StateFiles.h"
@@ -44,12 +44,12 @@ QString writePair(const QString &stem, const Certificate &certificate)
 
 } // namespace
 
-QString Certificates::caFile(const QString &directory)
+QString CertificateStore::caFile(const QString &directory)
 {
     return directory + u"/ca.pem"_s;
 }
 
-QString Certificates::open(const QString &directory, qint64 now)
+QString CertificateStore::open(const QString &directory, qint64 now)
 {
     QString error = openAuthority(directory, now);
     if (error.isEmpty()) {
@@ -63,7 +63,7 @@ QString Certificates::open(const QString &directory, qint64 now)
     return error;
 }
 
-QString Certificates::openAuthority(const QString &directory, qint64 now)
+QString CertificateStore::openAuthority(const QString &directory, qint64 now)
 {
     const QString stem = directory + u"/ca"_s;
     const auto kept = readPair(stem);
@@ -79,7 +79,7 @@ QString Certificates::openAuthority(const QString &directory, qint64 now)
     return writePair(stem, m_authority);
 }
 
-QString Certificates::openLeaf(const QString &directory, qint64 now)
+QString CertificateStore::openLeaf(const QString &directory, qint64 now)
 {
     const QString stem = directory + u"/server"_s;
     const auto kept = readPair(stem);
@@ -95,7 +95,7 @@ QString Certificates::openLeaf(const QString &directory, qint64 now)
     return writePair(stem, m_leaf);
 }
 
-QString Certificates::makeContexts(qint64 now)
+QString CertificateStore::makeContexts(qint64 now)
 {
     const auto stranger = makeAuthority(now);
     if (!stranger) {
@@ -117,7 +117,7 @@ QString Certificates::makeContexts(qint64 now)
     return {};
 }
 
-SSL_CTX *Certificates::context(ConnectionKind kind) const
+SSL_CTX *CertificateStore::context(ConnectionKind kind) const
 {
     const auto index = static_cast<size_t>(kind);
     return index < m_contexts.size() ? m_contexts[index].get() : nullptr;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/WZTAccountReplies.h"
+#include "service/AccountReplyReader.h"
 
 #include <QJsonObject>
 
@@ -8,18 +8,18 @@
 
 namespace {
 
-NSUInteger codeForResult(const QJsonValue &result, const WZTAccountReplies &codes)
+NSUInteger codeForResult(const QJsonValue &result, const AccountReplyCodes &codes)
 {
     if (!result.isString()) {
         return codes.anythingElse;
     }
     const QString text = result.toString();
     const auto row = std::ranges::find_if(
-        codes.results, [&](const WZTAccountReplies::Result &known) { return known.text == text; });
+        codes.results, [&](const AccountReplyCodes::Result &known) { return known.text == text; });
     return row == codes.results.end() ? codes.anythingElse : row->code;
 }
 
-void decodeReply(const WZTRequest::Reply &reply, const WZTAccountReplies &codes,
+void decodeReply(const WZTRequest::Reply &reply, const AccountReplyCodes &codes,
                  const WZTAPI::UserCompletion &completion)
 {
     if (!reply) {
@@ -35,7 +35,7 @@ void decodeReply(const WZTRequest::Reply &reply, const WZTAccountReplies &codes,
 
 } // namespace
 
-void sendAccountRequest(const WZTRequest &request, const WZTAccountReplies &codes,
+void sendAccountRequest(const WZTRequest &request, const AccountReplyCodes &codes,
                         WZTAPI::UserCompletion completion)
 {
     request.send([&codes, completion = std::move(completion)](const WZTRequest::Reply &reply) {

@@ -9,7 +9,7 @@
 
 /// The status codes of one account operation. The first field that matches the reply gives the
 /// code, from top to bottom.
-struct WZTAccountReplies {
+struct AccountReplyCodes {
     struct Result {
         QLatin1StringView text;
         NSUInteger code = 0;
@@ -25,5 +25,5 @@ struct WZTAccountReplies {
 
 /// Sends `request` and calls `completion` with the code and the user of its reply. `codes` is
 /// a constant: it outlives the request.
-void sendAccountRequest(const WZTRequest &request, const WZTAccountReplies &codes,
+void sendAccountRequest(const WZTRequest &request, const AccountReplyCodes &codes,
                         WZTAPI::UserCompletion completion);

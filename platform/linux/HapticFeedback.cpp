@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "platform/linux/Feedback.h"
+#include "platform/linux/HapticFeedback.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

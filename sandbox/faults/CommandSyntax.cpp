@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "sandbox/faults/CommandWords.h"
+#include "sandbox/faults/CommandSyntax.h"
 
 namespace sandbox {
 
