@@ -21,6 +21,7 @@ public:
             qFatal("No socket can be made.");
         }
     }
+    [[nodiscard]] int descriptor() const { return m_descriptor; }
     ~MuteSocket()
     {
         close(m_descriptor);

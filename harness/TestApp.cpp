@@ -4,7 +4,6 @@
 
 #include "harness/TestRunner.h"
 #include "platform/foundation/coding/NSKeyedArchiver.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 
 using namespace Qt::StringLiterals;
 

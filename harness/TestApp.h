@@ -3,9 +3,12 @@
 #pragma once
 
 #include "app/SharedObjects.h"
+#include "app/WZTTabBarController.h"
 #include "harness/RecordingHost.h"
+#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/presentation/UIWindow.h"
 #include "sandbox/Sandbox.h"
+#include "screens/login/WZTLoginViewController.h"
 
 #include <QTemporaryDir>
 
@@ -55,6 +58,12 @@ public:
     [[nodiscard]] Controller *top()
     {
         return qobject_cast<Controller *>(delegate().window()->presentation()->top());
+    }
+    /// Login, with or without an alert over it.
+    [[nodiscard]] WZTLoginViewController &login()
+    {
+        const auto controllers = delegate().window()->presentation()->controllers();
+        return dynamic_cast<WZTLoginViewController &>(*controllers.at(1));
     }
     /// The topmost alert as "title|message|field|...|action|...", brackets around the
     /// action of the cancel style. Empty when the topmost is no alert.

@@ -49,15 +49,14 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
     return nullptr;
 }
 
-void describe(QAccessibleInterface *parent, QStringList &found)
+void collect(const QAccessibleInterface *parent, QList<QAccessibleInterface *> &found)
 {
     for (int i = 0; i < parent->childCount(); ++i) {
         QAccessibleInterface *child = parent->child(i);
-        const QString role = QVariant::fromValue(child->role()).toString();
         if (!child->state().invisible) {
-            found.append(role + u' ' + child->text(QAccessible::Name));
+            found.append(child);
         }
-        describe(child, found);
+        collect(child, found);
     }
 }
 
@@ -148,17 +147,30 @@ QAccessibleInterface *TestWindow::accessible(const QString &name) const
     return findBelow(QAccessible::queryAccessibleInterface(m_view), name);
 }
 
+QList<QAccessibleInterface *> TestWindow::accessibleItems() const
+{
+    QList<QAccessibleInterface *> found;
+    collect(QAccessible::queryAccessibleInterface(m_view), found);
+    return found;
+}
+
 QStringList TestWindow::accessible() const
 {
     QStringList found;
-    describe(QAccessible::queryAccessibleInterface(m_view), found);
+    for (const QAccessibleInterface *item : accessibleItems()) {
+        const QString role = QVariant::fromValue(item->role()).toString();
+        found.append(role + u' ' + item->text(QAccessible::Name));
+    }
     return found;
 }
 
 QString TestWindow::focused() const
 {
-    QAccessibleInterface *item = QAccessible::queryAccessibleInterface(m_view->activeFocusItem());
-    return item ? item->text(QAccessible::Name) : QString();
+    QQuickItem *focus = m_view->activeFocusItem();
+    QAccessibleInterface *item = QAccessible::queryAccessibleInterface(focus);
+    return item                                  ? item->text(QAccessible::Name)
+        : focus && focus->inherits("FocusGroup") ? u"rows"_s
+                                                 : QString();
 }
 
 QRectF TestWindow::rect(const QQuickItem *item)
@@ -175,6 +187,13 @@ QRectF TestWindow::rect(const QString &name) const
 void TestWindow::tap(const QPoint &point) const
 {
     Finger(*m_view, point).lift();
+}
+
+void TestWindow::drag(const QPoint &from, const QPoint &to) const
+{
+    Finger finger(*m_view, from);
+    finger.move(to);
+    finger.lift();
 }
 
 void TestWindow::press(const QString &name) const

@@ -49,9 +49,11 @@ public:
     [[nodiscard]] QQuickItem *drawing(const QObject *control) const;
     /// The accessible item of that name, the topmost first; null for none.
     [[nodiscard]] QAccessibleInterface *accessible(const QString &name) const;
-    /// "role name" of every accessible item, in order.
+    /// Every accessible item, in order.
+    [[nodiscard]] QList<QAccessibleInterface *> accessibleItems() const;
+    /// "role name" of each of them.
     [[nodiscard]] QStringList accessible() const;
-    /// The accessible name of the item with the keyboard focus.
+    /// The accessible name of the item with the keyboard focus; "rows" for those of a table.
     [[nodiscard]] QString focused() const;
 
     /// A rectangle in the window, and its centre: of an item, of the drawing of a view or control,
@@ -72,6 +74,8 @@ public:
     {
         tap(centre(thing));
     }
+    /// A finger moves from one place to another.
+    void drag(const QPoint &from, const QPoint &to) const;
     /// Takes the press action of the accessible item of that name, in sight or not.
     void press(const QString &name) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;

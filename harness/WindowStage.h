@@ -3,6 +3,7 @@
 #pragma once
 
 #include "harness/RecordingHost.h"
+#include "harness/TestRunner.h"
 #include "harness/TestWindow.h"
 #include "platform/uikit/base/Make.h"
 #include "platform/uikit/base/UIApplication.h"

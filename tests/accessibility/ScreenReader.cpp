@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString connectionName = u"accessibility"_s;
 const QString registry = u"org.a11y.atspi.Registry"_s;
 
 constexpr quint64 state(int number)
@@ -64,17 +63,12 @@ constexpr Role roles[] = {
 } // namespace
 
 ScreenReader::ScreenReader(const QString &address)
-    : m_bus(QDBusConnection::connectToBus(address, connectionName))
+    : m_bus(QDBusConnection::connectToBus(address, u"accessibility"_s))
 {
     call({registry, u"/org/a11y/atspi/registry"_s}, u"Registry"_s, u"RegisterEvent"_s,
          {u"object:state-changed"_s, QStringList(), QString()});
     m_bus.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this,
                   SLOT(stateChanged(QDBusMessage)));
-}
-
-ScreenReader::~ScreenReader()
-{
-    QDBusConnection::disconnectFromBus(connectionName);
 }
 
 QVariantList ScreenReader::call(const Node &node, const QString &interface, const QString &method,
@@ -232,16 +226,10 @@ bool ScreenReader::act(const QString &action, const QString &name) const
     return index >= 0 && call(node, u"Action"_s, u"DoAction"_s, {index}).value(0).toBool();
 }
 
-void ScreenReader::type(const QString &text) const
+void ScreenReader::generate(int symbol, const QString &text, quint32 kind) const
 {
     call({registry, u"/org/a11y/atspi/registry/deviceeventcontroller"_s},
-         u"DeviceEventController"_s, u"GenerateKeyboardEvent"_s, {0, text, 4U});
-}
-
-void ScreenReader::key(int symbol) const
-{
-    call({registry, u"/org/a11y/atspi/registry/deviceeventcontroller"_s},
-         u"DeviceEventController"_s, u"GenerateKeyboardEvent"_s, {symbol, QString(), 3U});
+         u"DeviceEventController"_s, u"GenerateKeyboardEvent"_s, {symbol, text, kind});
 }
 
 int ScreenReader::caret(const QString &name) const

@@ -13,7 +13,7 @@ class ScreenReader : public QObject {
 public:
     /// Listens from now on to the bus of that address.
     explicit ScreenReader(const QString &address);
-    ~ScreenReader() override;
+    ~ScreenReader() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
     Q_DISABLE_COPY_MOVE(ScreenReader)
 
     /// Everything that shows in the application, its window first, as it is heard: "role name:
@@ -25,9 +25,9 @@ public:
     /// Takes an action of the visible item of that name; false if no item has that action.
     bool act(const QString &action, const QString &name) const;
     /// Types where the keyboard is, as a keyboard does.
-    void type(const QString &text) const;
+    void type(const QString &text) const { generate(0, text, 4); }
     /// Presses a key of that X symbol.
-    void key(int symbol) const;
+    void key(int symbol) const { generate(symbol, {}, 3); }
     /// Where the insertion mark is in the field of that name; -1 for no such field.
     [[nodiscard]] int caret(const QString &name) const;
 
@@ -51,6 +51,7 @@ private:
     /// for an item that has gone meanwhile.
     QVariantList call(const Node &node, const QString &interface, const QString &method,
                       const QVariantList &arguments = {}) const;
+    void generate(int symbol, const QString &text, quint32 kind) const;
     [[nodiscard]] QVariant property(const Node &node, const QString &interface,
                                     const QString &name) const;
     [[nodiscard]] QList<Node> children(const Node &node) const;

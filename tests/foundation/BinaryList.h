@@ -22,6 +22,16 @@ inline QByteArray reference(qsizetype index)
     return number(static_cast<quint64>(index), 4);
 }
 
+/// A text, and data, of these few bytes.
+inline QByteArray ascii(const QByteArray &bytes)
+{
+    return static_cast<char>(0x50 + bytes.size()) + bytes;
+}
+inline QByteArray data(const QByteArray &bytes)
+{
+    return static_cast<char>(0x40 + bytes.size()) + bytes;
+}
+
 /// The list of the objects at `offsets` in `objects`; the first is the top.
 inline QByteArray around(const QByteArray &objects, const QList<qsizetype> &offsets, quint64 count)
 {

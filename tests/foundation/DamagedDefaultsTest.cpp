@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
 #include "harness/FullDisk.h"
-#include "harness/TestRunner.h"
 #include "tests/foundation/DefaultsFixture.h"
 
 #include <csignal>
@@ -63,7 +62,7 @@ private Q_SLOTS:
             } else if (content == "pipe") {
                 QCOMPARE(mkfifo(path.constData(), 0600), 0);
             } else {
-                writeFile(m_file, content);
+                Files::write(m_file, content);
             }
             QVERIFY(round == 2 || !defaults().dataForKey(userKey));
             QVERIFY(defaults().setObject(QByteArray("a"), userKey));
@@ -75,7 +74,7 @@ private Q_SLOTS:
                 const QString kept = m_folder + u'/' + folder + u'/' + id + u".plist"_s;
                 QVERIFY(modeOf(m_folder + u'/' + folder) == 0700U && modeOf(kept) != 0);
                 QVERIFY(content.endsWith("folder") || content == "pipe"
-                        || contentOf(kept) == content);
+                        || Files::content(kept) == content);
             }
         }
         // Files that were moved aside may contain the value.
@@ -85,10 +84,10 @@ private Q_SLOTS:
 
     void failsWithoutHarm()
     {
-        writeFile(m_folder, "in the way");
+        Files::write(m_folder, "in the way");
         QVERIFY(!defaults().setObject(QByteArray("a"), userKey));
         QVERIFY(!defaults().dataForKey(userKey));
-        QCOMPARE(contentOf(m_folder), QByteArray("in the way"));
+        QCOMPARE(Files::content(m_folder), QByteArray("in the way"));
         QVERIFY(QFile::remove(m_folder));
 
         QVERIFY(defaults().setObject(QByteArray("a"), userKey));
@@ -98,10 +97,10 @@ private Q_SLOTS:
         QVERIFY(!defaults().setObject(QByteArray("b"), userKey));
         QVERIFY(defaults().removeObjectForKey(u"unknown"_s));
         QCOMPARE(defaults().dataForKey(userKey), QByteArray("a"));
-        writeFile(m_file + u".tmp"_s, "of a writer that stands still");
+        Files::write(m_file + u".tmp"_s, "of a writer that stands still");
         QVERIFY(defaults().removeObjectForKey(userKey));
         QCOMPARE(entries(), QStringList());
-        writeFile(m_file + u".tmp"_s, "of a writer that was killed in its first write");
+        Files::write(m_file + u".tmp"_s, "of a writer that was killed in its first write");
         QVERIFY(defaults().removeObjectForKey(userKey));
         QCOMPARE(entries(), QStringList());
     }

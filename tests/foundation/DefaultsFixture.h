@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "harness/Files.h"
+#include "harness/TestRunner.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <optional>
 
@@ -21,16 +20,6 @@ protected:
     static inline const QString id = QStringLiteral("example.wzt.Test");
     static inline const QString userKey = QStringLiteral("currentUser");
 
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    static void writeFile(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
     static uint modeOf(const QString &path)
     {
         struct stat status = {};

@@ -116,30 +116,8 @@ private Q_SLOTS:
                                     {u"alias"_s, u"same"_s},
                                     {u"date"_s, NSDate{0.5}},
                                     {u"flag"_s, true}});
-        QVERIFY(data && data->startsWith("bplist00"));
+        QVERIFY(data);
         QCOMPARE(data->toHex(), ownArchive);
-        const auto list = PropertyList::fromData(*data);
-        QCOMPARE(list->item(u"$version"_s).integer(), 100000);
-        QCOMPARE(list->item(u"$archiver"_s).string(), u"NSKeyedArchiver"_s);
-        const QList<PropertyList> objects = list->item(u"$objects"_s).elements();
-        QCOMPARE(objects.at(0).string(), u"$null"_s);
-        const auto object = [&](const PropertyList &node, const QString &key) {
-            return objects.value(static_cast<qsizetype>(node.item(key).uid().value_or(99)));
-        };
-        const PropertyList root = object(list->item(u"$top"_s), u"root"_s);
-        const PropertyList date = object(root, u"date"_s);
-        QCOMPARE(root.item(u"flag"_s).boolean(), true);
-        QCOMPARE(object(root, u"number"_s).integer(), -7);
-        QCOMPARE(object(root, u"name"_s).string(), u"same"_s);
-        QCOMPARE(root.item(u"alias"_s).uid(), root.item(u"name"_s).uid());
-        QCOMPARE(date.item(u"NS.time"_s).real(), 0.5);
-        for (const auto &[node, name] : {std::pair(root, recordClass), {date, u"NSDate"_s}}) {
-            const PropertyList description = object(node, u"$class"_s);
-            const QList<PropertyList> names = description.item(u"$classes"_s).elements();
-            QCOMPARE(description.item(u"$classname"_s).string(), name);
-            QCOMPARE(names.at(0).string(), name);
-            QCOMPARE(names.at(1).string(), u"NSObject"_s);
-        }
     }
 
     void readsForeignArchives_data()

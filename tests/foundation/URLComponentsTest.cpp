@@ -5,26 +5,20 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-std::optional<QByteArray> url(const QList<NSURLQueryItem> &items)
-{
-    NSURLComponents components;
-    components.setScheme(u"https"_s);
-    components.setHost(u"localhost"_s);
-    components.setPath(u"/a b/ü.php"_s);
-    components.setQueryItems(items);
-    return components.URL();
-}
-
-} // namespace
-
 class URLComponentsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void encodesItems()
     {
+        NSURLComponents components;
+        components.setScheme(u"https"_s);
+        components.setHost(u"localhost"_s);
+        components.setPath(u"/a b/ü.php"_s);
+        const auto url = [&](const QList<NSURLQueryItem> &items) {
+            components.setQueryItems(items);
+            return components.URL();
+        };
         QCOMPARE(url({{u"b&=c"_s, u"+ &=#?/%;:@!$'()*,[]\"<>\\^`{|}"_s},
                       {u"a-._~Z9"_s, u"AZaz09-._~"_s},
                       {u"b"_s, u"%41é€😀\r\n\0\x7f"_s},

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "tests/foundation/SessionFixture.h"
 
 #include <array>
@@ -22,11 +21,8 @@ private Q_SLOTS:
         send(flooded);
         QTRY_VERIFY_WITH_TIMEOUT(m_service.requests().size() == 1, 60000);
         // Blocks the thread while the buffer fills.
-        const auto request = NSMutableURLRequest::requestWithURL("https://localhost/issues.php");
-        const auto hold = [](const QByteArray &, const auto &) {
-            std::this_thread::sleep_for(2500ms);
-        };
-        m_session->dataTaskWithRequest(request, hold)->resume();
+        send([](const QByteArray &, const auto &) { std::this_thread::sleep_for(2500ms); },
+             "https://localhost/issues.php");
         QTRY_VERIFY_WITH_TIMEOUT(m_service.requests().size() == 2, 60000);
         Outcome other;
         send(other);
@@ -42,24 +38,16 @@ private Q_SLOTS:
     {
         const auto held = std::make_shared<std::latch>(1);
         std::latch isHeld(1);
-        const auto request = NSMutableURLRequest::requestWithURL(userURL);
-        m_session
-            ->dataTaskWithRequest(request,
-                                  [held, &isHeld](const QByteArray &, const auto &) {
-                                      isHeld.count_down();
-                                      held->wait();
-                                  })
-            ->resume();
+        send([held, &isHeld](const QByteArray &, const auto &) {
+            isHeld.count_down();
+            held->wait();
+        });
         isHeld.wait();
         Outcome pending;
         const auto sign = std::make_shared<int>();
-        m_session
-            ->dataTaskWithRequest(request,
-                                  [sign, complete = pending.completion()](const QByteArray &data,
-                                                                          const auto &failure) {
-                                      complete(data, failure);
-                                  })
-            ->resume();
+        send([sign, complete = pending.completion()](const QByteArray &data, const auto &failure) {
+            complete(data, failure);
+        });
         const auto end = std::async(std::launch::async, [this] { m_session.reset(); });
         const bool hasEnded = end.wait_for(60s) == std::future_status::ready;
         held->count_down();
@@ -80,12 +68,11 @@ private Q_SLOTS:
         }
         Outcome late;
         const auto request = NSMutableURLRequest::requestWithURL(userURL);
-        const auto sendAnother = [&](const QByteArray &, const auto &) {
+        send([&](const QByteArray &, const auto &) {
             NSURLSession::sharedSession()
                 ->dataTaskWithRequest(request, late.completion())
                 ->resume();
-        };
-        m_session->dataTaskWithRequest(request, sendAnother)->resume();
+        });
         QTRY_VERIFY_WITH_TIMEOUT(m_service.requests().size() >= 5, 60000);
         m_session.reset();
         QVERIFY(!NSURLSession::sharedSession());

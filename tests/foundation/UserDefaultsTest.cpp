@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "platform/foundation/coding/PropertyList.h"
 #include "tests/foundation/BinaryList.h"
 #include "tests/foundation/DefaultsFixture.h"
@@ -20,7 +19,7 @@ private Q_SLOTS:
         QVERIFY(defaults().setObject(QByteArray(), u"empty"_s));
         QCOMPARE(defaults().dataForKey(userKey), bytes);
         QCOMPARE(defaults().dataForKey(u"empty"_s), QByteArray());
-        QVERIFY(contentOf(m_file).startsWith("bplist00"));
+        QVERIFY(Files::content(m_file).startsWith("bplist00"));
 
         QVERIFY(defaults().removeObjectForKey(userKey));
         QVERIFY(!defaults().dataForKey(userKey) && defaults().dataForKey(u"empty"_s));
@@ -66,58 +65,42 @@ private Q_SLOTS:
             "<key>d</key><date>4001-01-01T00:00:00Z</date><key>currentUser</key><integer>3</"
             "integer>"
             "<key>l</key><array><dict><key>k</key><data>AAE=</data></dict></array></dict></plist>";
-        QDir().mkpath(m_folder);
-        writeFile(m_file, list);
+        Files::write(m_file, list);
         QVERIFY(!defaults().dataForKey(userKey));
         QVERIFY(defaults().setObject(QByteArray("a"), userKey));
         const auto expected = PropertyList::fromData(
             QByteArray(list).replace("<integer>3</integer>", "<data>YQ==</data>"));
-        QCOMPARE(contentOf(m_file), expected->toData());
+        QCOMPARE(Files::content(m_file), expected->toData());
     }
 
     /// Values and keys of types that have no accessor, and the own key twice.
     void keepsBytes()
     {
         using namespace BinaryList;
-        const QByteArrayList keys{"\x51\x61", "\x52\xff\xc3", "\x52ä",
-                                  "\x61\xdc" + QByteArray(1, '\0'), QByteArray("\x53x\0y", 4)};
+        const QByteArrayList keys{ascii("a"), ascii("\xff\xc3"), ascii("ä"),
+                                  "\x61\xdc" + QByteArray(1, '\0'), ascii("x\0y"_ba)};
         const QByteArrayList values{QByteArray(1, '\0'), "\x22\x3f\xc0\0\1"_ba,
-                                    "\x14" + number(1, 8) + number(2, 8), "\x82\x61\x62\x63",
-                                    QByteArray("\x53p\0q", 4)};
+                                    "\x14" + number(1, 8) + number(2, 8), "\x82" + "abc"_ba,
+                                    ascii("p\0q"_ba)};
         QByteArray top = "\xd7";
-        for (int i = 1; i <= 7; ++i) {
+        for (int i = 1; i <= 14; ++i) {
             top += reference(i);
         }
-        for (int i = 8; i <= 14; ++i) {
-            top += reference(i);
-        }
-        const QByteArray list = of(QByteArrayList{top,
-                                                  "\x5b"
-                                                  "currentUser"}
-                                   + keys
-                                   + QByteArrayList{"\x5b"
-                                                    "currentUser",
-                                                    "\x41"
-                                                    "1"}
-                                   + values
-                                   + QByteArrayList{"\x41"
-                                                    "2"});
+        const QByteArray own = ascii("currentUser");
+        const QByteArray list = of(QByteArrayList{top, own} + keys + QByteArrayList{own, data("1")}
+                                   + values + QByteArrayList{data("2")});
         for (const bool removes : {false, true}) {
-            QDir().mkpath(m_folder);
-            writeFile(m_file, list);
+            Files::write(m_file, list);
             QCOMPARE(defaults().dataForKey(userKey), "1");
             QVERIFY(removes ? defaults().removeObjectForKey(userKey)
                             : defaults().setObject(QByteArray("3"), userKey));
-            const QByteArray written = contentOf(m_file);
+            const QByteArray written = Files::content(m_file);
             for (const QByteArray &object : keys + values) {
                 QVERIFY2(written.contains(object), object.toHex().constData());
             }
             QCOMPARE(written.count("currentUser"), removes ? 0 : 1);
             QCOMPARE(defaults().dataForKey(userKey).has_value(), !removes);
-            QVERIFY(!written.contains("\x41"
-                                      "1")
-                    && !written.contains("\x41"
-                                         "2"));
+            QVERIFY(!written.contains(data("1")) && !written.contains(data("2")));
             QCOMPARE(entries(), QStringList{id + u".plist"_s});
         }
     }

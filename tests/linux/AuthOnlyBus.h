@@ -2,34 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "harness/MuteSocket.h"
 #include "platform/files/FileDescriptor.h"
-
-#include <QByteArray>
 
 #include <array>
 #include <list>
 #include <thread>
 
-#include <sys/socket.h>
-#include <sys/un.h>
-
 /// A D-Bus server that authenticates its clients and answers none of their calls.
 class AuthOnlyBus {
 public:
-    explicit AuthOnlyBus(const QByteArray &path)
+    explicit AuthOnlyBus(const QByteArray &path) : m_listener(path), m_thread([this] { serve(); })
     {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
-        if (bind(m_listener.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address)
-                != 0
-            || listen(m_listener.get(), 5) != 0) {
-            qFatal("No socket can be made.");
-        }
-        m_thread = std::thread([this] { serve(); });
     }
     ~AuthOnlyBus()
     {
-        shutdown(m_listener.get(), SHUT_RDWR);
+        shutdown(m_listener.descriptor(), SHUT_RDWR);
         m_thread.join();
     }
     Q_DISABLE_COPY_MOVE(AuthOnlyBus)
@@ -38,7 +26,7 @@ private:
     void serve()
     {
         for (;;) {
-            const int client = accept4(m_listener.get(), nullptr, nullptr, SOCK_CLOEXEC);
+            const int client = accept4(m_listener.descriptor(), nullptr, nullptr, SOCK_CLOEXEC);
             if (client < 0) {
                 return;
             }
@@ -56,7 +44,7 @@ private:
         }
     }
 
-    FileDescriptor m_listener{socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
+    MuteSocket m_listener;
     std::list<FileDescriptor> m_clients;
     std::thread m_thread;
 };

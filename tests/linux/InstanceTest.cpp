@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/Files.h"
 #include "harness/MuteSocket.h"
 #include "harness/TestRunner.h"
 #include "model/BuildConstants.h"
@@ -34,8 +35,7 @@ QByteArray start(const QStringList &urls, const QProcessEnvironment &environment
 /// The memory of this process, in pages.
 qint64 residentPages()
 {
-    QFile file(u"/proc/self/statm"_s);
-    return file.open(QFile::ReadOnly) ? file.readAll().split(' ').value(1).toLongLong() : 0;
+    return Files::content(u"/proc/self/statm"_s).split(' ').value(1).toLongLong();
 }
 
 } // namespace
@@ -176,11 +176,9 @@ private Q_SLOTS:
         LinuxHost host(applicationId);
         QVERIFY(host.claimSingleInstance({}, [](const QStringList &) {}));
         const QString home = QDir::homePath();
-        QFile launcher(home + "/dbus-launch"_L1);
-        QVERIFY(launcher.open(QFile::WriteOnly)
-                && launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        launcher.write("#!/bin/sh\n: > \"$HOME/launched\"\n");
-        launcher.close();
+        const QString launcher = home + "/dbus-launch"_L1;
+        Files::write(launcher, "#!/bin/sh\n: > \"$HOME/launched\"\n");
+        QVERIFY(QFile::setPermissions(launcher, QFile::ReadOwner | QFile::ExeOwner));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
         environment.insert(u"XDG_RUNTIME_DIR"_s, home);

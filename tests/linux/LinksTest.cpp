@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/Files.h"
 #include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
 
@@ -8,17 +9,6 @@
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-bool write(const QString &path, const QByteArray &content)
-{
-    QFile file(QDir::home().filePath(path));
-    return QDir().mkpath(file.fileName().section(u'/', 0, -2)) && file.open(QIODevice::WriteOnly)
-        && file.write(content) == content.size();
-}
-
-} // namespace
 
 class LinksTest : public QObject {
     Q_OBJECT
@@ -30,15 +20,16 @@ private Q_SLOTS:
     // A handler that waits until the test opens the gate, and then records its argument.
     void initTestCase()
     {
-        QVERIFY(write(u"handler"_s,
-                      "read go < \"$HOME/gate\"\nprintf %s \"$1\" > \"$HOME/part\"\n"
-                      "mv \"$HOME/part\" \"$HOME/seen\"\n"));
-        QVERIFY(write(u".local/share/applications/handler.desktop"_s,
-                      "[Desktop Entry]\nType=Application\nName=Handler\nExec=sh "
-                          + QFile::encodeName(QDir::homePath()) + "/handler %u\n"));
-        QVERIFY(write(u".config/mimeapps.list"_s,
-                      "[Default Applications]\nx-scheme-handler/zbra=handler.desktop\n"
-                      "x-scheme-handler/cydia=handler.desktop\n"));
+        const QDir home = QDir::home();
+        Files::write(home.filePath(u"handler"_s),
+                     "read go < \"$HOME/gate\"\nprintf %s \"$1\" > \"$HOME/part\"\n"
+                     "mv \"$HOME/part\" \"$HOME/seen\"\n");
+        Files::write(home.filePath(u".local/share/applications/handler.desktop"_s),
+                     "[Desktop Entry]\nType=Application\nName=Handler\nExec=sh "
+                         + QFile::encodeName(home.path()) + "/handler %u\n");
+        Files::write(home.filePath(u".config/mimeapps.list"_s),
+                     "[Default Applications]\nx-scheme-handler/zbra=handler.desktop\n"
+                     "x-scheme-handler/cydia=handler.desktop\n");
         QCOMPARE(::mkfifo(QFile::encodeName(m_gate.fileName()).constData(), 0600), 0);
         // Also opened for reading, so that writing never blocks and the end of the test opens the
         // gate.
@@ -57,11 +48,10 @@ private Q_SLOTS:
             QVERIFY(m_host.canOpenURL(url));
             m_host.openURL(url); // would never return if it waited for the handler
             QCOMPARE(m_gate.write("go\n"), 3);
-            QFile seen(QDir::home().filePath(u"seen"_s));
-            QTRY_VERIFY(seen.exists());
-            QVERIFY(seen.open(QIODevice::ReadOnly));
-            QCOMPARE(seen.readAll(), url.toUtf8());
-            QVERIFY(seen.remove());
+            const QString seen = QDir::home().filePath(u"seen"_s);
+            QTRY_VERIFY(QFile::exists(seen));
+            QCOMPARE(Files::content(seen), url.toUtf8());
+            QVERIFY(QFile::remove(seen));
         }
     }
 

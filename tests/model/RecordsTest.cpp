@@ -85,7 +85,6 @@ private Q_SLOTS:
         const std::tuple<const char *, QString, NSCoder::Value> rows[] = {
             {"{}", u"tavloId"_s, qint64{7}},
             {R"({"userTavloID":"12abc"})", u"tavloId"_s, qint64{12}},
-            {R"({"userTavloID":1e12})", u"tavloId"_s, static_cast<qint64>(INT_MAX)},
             {R"({"userName":42})", u"username"_s, u"42"_s},
             {R"({"userReddit":""})", u"reddit"_s, u""_s},
             {R"({"userCydiaID":7.5})", u"cydiaId"_s, u"7.5"_s},

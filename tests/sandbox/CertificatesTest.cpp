@@ -1,24 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/Files.h"
 #include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "tests/sandbox/Client.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using sandbox::Sandbox;
-
-namespace {
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 /// The certificates that a service keeps in its folder for the next start.
 class CertificatesTest : public QObject {
@@ -43,7 +33,7 @@ private Q_SLOTS:
             QVERIFY(Sandbox({.directory = folder.path()}).isRunning());
             QMap<QString, QByteArray> before;
             for (const QString &name : {authority, leaf}) {
-                before[name] = contents(folder.filePath(name));
+                before[name] = Files::content(folder.filePath(name));
             }
             QFile file(folder.filePath(damaged));
             if (!damaged.isEmpty() && file.open(QFile::ReadWrite) && file.seek(60)) {
@@ -54,7 +44,8 @@ private Q_SLOTS:
                 {.directory = folder.path(), .clockOffset = std::chrono::days(days)});
             QVERIFY2(service.isRunning(), qPrintable(service.errorString()));
             for (const QString &name : {authority, leaf}) {
-                QCOMPARE(contents(folder.filePath(name)) == before[name], kept.contains(name));
+                QCOMPARE(Files::content(folder.filePath(name)) == before[name],
+                         kept.contains(name));
             }
             if (days == 0) {
                 QCOMPARE(Client(service.port(), service.caFile()).get("/user.php").status, 400);

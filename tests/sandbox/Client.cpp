@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/sandbox/Client.h"
 
-#include <QJsonDocument>
-
 #include <curl/curl.h>
 
 namespace {
@@ -16,26 +14,6 @@ size_t collect(char *bytes, size_t, size_t size, void *into)
 }
 
 } // namespace
-
-QJsonObject Answer::json() const
-{
-    return QJsonDocument::fromJson(body).object();
-}
-
-QJsonArray Answer::list() const
-{
-    return QJsonDocument::fromJson(body).array();
-}
-
-QString Answer::result() const
-{
-    return json()[QStringLiteral("result")].toString();
-}
-
-bool Answer::isUser() const
-{
-    return json().contains(QStringLiteral("userTavloID"));
-}
 
 Client::Client(quint16 port, const QString &caFile)
     : m_port(port), m_caFile(caFile.toUtf8()), m_handle(curl_easy_init(), curl_easy_cleanup)

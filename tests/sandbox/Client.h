@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <memory>
@@ -17,10 +18,10 @@ struct Answer {
     /// At most a mebibyte; a longer body ends the transfer with an error.
     QByteArray body = {};
 
-    [[nodiscard]] QJsonObject json() const;
-    [[nodiscard]] QJsonArray list() const;
-    [[nodiscard]] QString result() const;
-    [[nodiscard]] bool isUser() const;
+    [[nodiscard]] QJsonObject json() const { return QJsonDocument::fromJson(body).object(); }
+    [[nodiscard]] QJsonArray list() const { return QJsonDocument::fromJson(body).array(); }
+    [[nodiscard]] QString result() const { return json()[QStringLiteral("result")].toString(); }
+    [[nodiscard]] bool isUser() const { return json().contains(QStringLiteral("userTavloID")); }
 };
 
 /// An HTTPS client that trusts one authority, and reuses its connection.

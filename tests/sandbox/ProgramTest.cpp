@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestProcess.h"
 #include "harness/TestRunner.h"
 #include "sandbox/Sandbox.h"
 #include "sandbox/endpoints/Packages.h"
 #include "tests/sandbox/Client.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -37,16 +37,9 @@ struct Running {
         }
     }
 
-    ~Running()
-    {
-        process.terminate();
-        process.waitForFinished(TestRunner::patience);
-    }
-    Q_DISABLE_COPY_MOVE(Running)
-
     [[nodiscard]] Client client() const { return {static_cast<quint16>(QUrl(url).port()), caFile}; }
 
-    QProcess process;
+    TestProcess process;
     QList<QStringList> accounts;
     QString url;
     QString caFile;

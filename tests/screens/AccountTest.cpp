@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "screens/account/WZTUserViewController.h"
 #include "service/TavloCategoryExtension.h"
@@ -51,22 +49,10 @@ struct AccountStage : TestApp {
     }
 };
 
-using Refresh = std::tuple<const char *, Fault, QString>;
-
-struct Update {
-    const char *name;
-    QString texts;
-    QByteArray reply; // of the service itself if empty
-    QString sent; // after the address, which is sent with all
-    QString alert;
-};
-
-struct LateReply {
-    const char *name;
-    bool updates;
-    QString next;
-    QString alert;
-};
+// Texts, the reply (the service's own if empty), what is sent after the address, and the alert.
+using Update = std::tuple<const char *, QString, QByteArray, QString, QString>;
+// A reply to an update or a refresh, who is signed in when it comes, and the alert.
+using LateReply = std::tuple<const char *, bool, QString, QString>;
 
 } // namespace
 
@@ -75,32 +61,26 @@ class AccountTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void refreshes_data()
-    {
-        addCases<Refresh>({
-            {"as the service has it", Fault::delay(100ms), u"Joanna"_s},
-            {"no such user", Fault::json(R"({"result":"No User"})"), u"Jo"_s},
-            {"half an answer", Fault::reset(), u"Jo"_s},
-        });
-    }
-
     void refreshes()
     {
-        const auto &[name, reply, shown] = currentCase<Refresh>();
-        AccountStage stage;
-        stage.service().updateAccount(
-            {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
-        stage.service().stage("/user.php", reply);
-        stage.refreshControl().pull();
-        stage.refreshControl().pull(); // under way already
-        QVERIFY(stage.refreshControl().isRefreshing());
-        QTRY_VERIFY(!stage.refreshControl().isRefreshing());
-        QCOMPARE(stage.service().requests().size(), 1);
-        QCOMPARE(stage.name(), shown);
-        const auto card = stage.screen().cellForRowAtIndexPath({1, 0});
-        QCOMPARE(dynamic_cast<WZTAccountTableViewCell &>(*card).userNameLabel()->text(), shown);
-        QCOMPARE(stage.alert(), QString());
-        QCOMPARE(stage.host().taps, 0);
+        for (const auto &[reply, shown] : {std::pair(Fault::delay(100ms), u"Joanna"_s),
+                                           {Fault::json(R"({"result":"No User"})"), u"Jo"_s},
+                                           {Fault::reset(), u"Jo"_s}}) {
+            AccountStage stage;
+            stage.service().updateAccount(
+                {.number = 1, .email = u"jo@wzt.example"_s, .name = u"Joanna"_s});
+            stage.service().stage("/user.php", reply);
+            stage.refreshControl().pull();
+            stage.refreshControl().pull(); // under way already
+            QVERIFY(stage.refreshControl().isRefreshing());
+            QTRY_VERIFY(!stage.refreshControl().isRefreshing());
+            QCOMPARE(stage.service().requests().size(), 1);
+            QCOMPARE(stage.name(), shown);
+            const auto card = stage.screen().cellForRowAtIndexPath({1, 0});
+            QCOMPARE(dynamic_cast<WZTAccountTableViewCell &>(*card).userNameLabel()->text(), shown);
+            QCOMPARE(stage.alert(), QString());
+            QCOMPARE(stage.host().taps, 0);
+        }
     }
 
     void updates_data()

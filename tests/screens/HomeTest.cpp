@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
 #include "platform/uikit/bars/UINavigationItem.h"
@@ -124,10 +123,6 @@ private Q_SLOTS:
         const auto *form = dynamic_cast<WZTIssueReporterViewController *>(
             stage.top<UINavigationController>()->topViewController());
         QCOMPARE(form->package(), screen.package());
-
-        stage.service().stage(path, listOf({"new"}));
-        stage.top()->dismissViewControllerAnimated(true);
-        QTRY_COMPARE(titles(&screen), QStringList{u"new"_s}); // fetched as it appears again
     }
 
     void everyOutcomeReplacesTheList()

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/xlform/XLFormTextFieldCell.h"
@@ -53,14 +51,8 @@ struct ReporterStage : TestApp {
     std::shared_ptr<WZTIssueReporterViewController> form;
 };
 
-struct Outcome {
-    const char *name;
-    QString title;
-    QString notes;
-    std::optional<Fault> fault;
-    QString sent; // after the project, empty for nothing
-    QString alert;
-};
+// Title and notes, a fault, what is sent after the project (empty for nothing), and the alert.
+using Outcome = std::tuple<const char *, QString, QString, std::optional<Fault>, QString, QString>;
 
 } // namespace
 

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "model/WZTPackage.h"
 #include "screens/home/WZTRootViewController.h"
 #include "screens/issues/WZTPackageIssuesViewController.h"
@@ -103,21 +102,6 @@ private Q_SLOTS:
         }
         stage.settle();
         QVERIFY(stage.accessible(u"Projects"_s));
-    }
-
-    void aSwipeBackChoosesAndScrollsNothing()
-    {
-        IssuesStage stage;
-        stage.delegate().rootVC()->showIssueProjectList();
-        stage.settle();
-        const QPoint row(10, stage.centre(u"Marrow!"_s).y());
-        Finger finger(stage.view(), row);
-        finger.move(row + QPoint(300, 60));
-        QCOMPARE(stage.items(u"QQuickListView"_s).last()->property("contentY"), 0.0);
-        finger.lift();
-        stage.settle();
-        QVERIFY(stage.accessible(u"Bug Reporter"_s));
-        QVERIFY(!stage.accessible(u"Marrow! Issues"_s));
     }
 
     void theSpinnerIsOverTheMiddle()

@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "app/WZTTabBarController.h"
 #include "harness/TestApp.h"
 #include "harness/TestRunner.h"
-#include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/base/Make.h"
 #include "service/TavloCategoryExtension.h"
-#include "tests/screens/LoginScreen.h"
 
 using namespace Qt::StringLiterals;
 using sandbox::Fault;
@@ -37,18 +34,18 @@ struct Flow {
 };
 
 const Flow signIn{[](TestApp &app, const QString &text) {
-                      login(app).emailTextField()->edit(text);
-                      login(app).passwordTextField()->edit(text);
-                      login(app).loginButton()->activate();
+                      app.login().emailTextField()->edit(text);
+                      app.login().passwordTextField()->edit(text);
+                      app.login().loginButton()->activate();
                   },
                   "/login.php", "?userEmail=jo&userPassword=" + SHA256(u"jo"_s).toLatin1()};
 const Flow reset{[](TestApp &app, const QString &text) {
-                     login(app).forgotPasswordButton()->activate();
+                     app.login().forgotPasswordButton()->activate();
                      answerAlert(app, text);
                  },
                  "/passwordreset.php", "?userEmail=%C2%A0jo%20"};
 const Flow signUp{[](TestApp &app, const QString &text) {
-                      login(app).registerButton()->activate();
+                      app.login().registerButton()->activate();
                       answerAlert(app, text);
                   },
                   "/register.php",
@@ -60,19 +57,10 @@ Fault result(const char *text)
     return Fault::json(R"({"result":")" + QByteArray(text) + R"("})", 500);
 }
 
-struct Ending {
-    const char *name;
-    const Flow *flow;
-    Fault reply;
-    QString alert; // none for somebody who is signed in
-};
-
-struct Late {
-    const char *name;
-    const Flow *flow;
-    Fault reply;
-    bool signsOut;
-};
+// A flow, its reply, and the alert: none for somebody who is signed in.
+using Ending = std::tuple<const char *, const Flow *, Fault, QString>;
+// A flow, its reply, and whether the user signs out before that comes.
+using Late = std::tuple<const char *, const Flow *, Fault, bool>;
 
 } // namespace
 
@@ -102,16 +90,16 @@ private Q_SLOTS:
         TestApp app;
         app.launch();
         app.service().stage(flow->path, reply);
-        const auto screen = strong(&login(app));
+        const auto screen = strong(&app.login());
         flow->start(app, typed);
         QCOMPARE(app.host().taps, 1);
-        QVERIFY(login(app).activityIndicator()->isAnimating());
+        QVERIFY(app.login().activityIndicator()->isAnimating());
         if (alert.isEmpty()) {
             QTRY_COMPARE(app.top<WZTTabBarController>(), app.delegate().tabController());
             QCOMPARE(app.delegate().currentUser()->tavloId, 42);
         } else {
             QTRY_COMPARE(app.alert(), alert);
-            QVERIFY(!login(app).activityIndicator()->isAnimating());
+            QVERIFY(!app.login().activityIndicator()->isAnimating());
             QVERIFY(!app.delegate().currentUser());
         }
         const bool keepsPassword = flow == &signIn && !alert.isEmpty();
@@ -140,14 +128,14 @@ private Q_SLOTS:
         TestApp app;
         app.launch();
         for (const auto &[email, password] : {std::pair{u" "_s, u"x"_s}, {u"x"_s, u"\t"_s}}) {
-            login(app).emailTextField()->edit(email);
-            login(app).passwordTextField()->edit(password);
-            login(app).passwordTextField()->returnPressed(); // signs in as the button does
+            app.login().emailTextField()->edit(email);
+            app.login().passwordTextField()->edit(password);
+            app.login().passwordTextField()->returnPressed(); // signs in as the button does
             QCOMPARE(app.alert(), u"Error|Ensure all fields are properly filled.|(Dismiss)"_s);
             app.top<UIAlertController>()->triggerCancel();
         }
         QCOMPARE(app.host().taps, 2);
-        QVERIFY(!login(app).activityIndicator()->isAnimating());
+        QVERIFY(!app.login().activityIndicator()->isAnimating());
         QCOMPARE(app.service().connectionCount(), 0);
         signUp.start(app, {});
         QTRY_COMPARE(app.service().requests().size(), 1);
@@ -163,7 +151,7 @@ private Q_SLOTS:
         app.service().stage("/login.php", Fault::json(aUser).after(std::chrono::milliseconds(150)));
         signIn.start(app, u"jo"_s);
         QTRY_COMPARE(app.service().requests().size(), 1);
-        login(app).loginButton()->activate();
+        app.login().loginButton()->activate();
         QTRY_VERIFY(app.top<UIAlertController>());
         // The second one signs in while the first one's alert is still up: both go.
         QTRY_COMPARE(app.top<WZTTabBarController>(), app.delegate().tabController());
@@ -188,7 +176,7 @@ private Q_SLOTS:
         app.launch();
         app.service().stage(flow->path, reply.after(std::chrono::milliseconds(50)));
         flow->start(app, typed);
-        const QPointer<WZTLoginViewController> screen = &login(app);
+        const QPointer<WZTLoginViewController> screen = &app.login();
         screen->loginCompleted(1, kim); // the reply to another tap, which is quicker
         if (signsOut) {
             app.delegate().logout();

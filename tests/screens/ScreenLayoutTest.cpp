@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
-#include "harness/TestWindow.h"
 #include "tests/screens/ScreenStage.h"
 
 using namespace Qt::StringLiterals;
@@ -48,21 +46,6 @@ QList<Drawn> textsOf(QQuickView &view)
     return texts;
 }
 
-/// All that a screen reader says there.
-QString spokenBelow(QAccessibleInterface *parent)
-{
-    QString spoken;
-    for (int i = 0; i < parent->childCount(); ++i) {
-        QAccessibleInterface *child = parent->child(i);
-        if (!child->state().invisible) {
-            spoken += child->text(QAccessible::Name) + u'\n';
-            spoken += child->text(QAccessible::Description) + u'\n';
-        }
-        spoken += spokenBelow(child);
-    }
-    return spoken;
-}
-
 /// Whether the item is on something that a finger moves.
 bool scrolls(const QQuickItem *item)
 {
@@ -76,7 +59,10 @@ QStringList complaints(QQuickView &view)
 {
     const QList<Drawn> texts = textsOf(view);
     const QSize window = view.size();
-    const QString spoken = spokenBelow(QAccessible::queryAccessibleInterface(&view));
+    QString spoken;
+    for (const QAccessibleInterface *item : TestWindow(view).accessibleItems()) {
+        spoken += item->text(QAccessible::Name) + u'\n' + item->text(QAccessible::Description);
+    }
     QStringList found;
     if (texts.isEmpty()) {
         found += u"no text"_s;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/screens/ScreenStage.h"
 
-#include "harness/TestRunner.h"
 #include "sandbox/DemoIssues.h"
 
 using namespace Qt::StringLiterals;

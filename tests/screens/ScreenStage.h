@@ -3,6 +3,7 @@
 #pragma once
 
 #include "harness/TestApp.h"
+#include "harness/TestRunner.h"
 #include "harness/TestWindow.h"
 
 #include <QAccessible>
@@ -31,21 +32,21 @@ struct Screen {
     return qAbs(some - other) <= 0.51;
 }
 
+struct ScreenOptions {
+    QSize size = {320, 568};
+    DesktopAppearance appearance = {.reduceMotion = true};
+    /// Who is signed in, with the password "secret".
+    WZTUser user = {1, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
+};
+
 /// The application in its window, at one of its screens.
 class ScreenStage : public TestApp, public TestWindow {
 public:
-    struct Options {
-        QSize size = {320, 568};
-        DesktopAppearance appearance = {.reduceMotion = true};
-        /// Who is signed in, with the password "secret".
-        WZTUser user = {1, QStringLiteral("jo@wzt.example"), QStringLiteral("Jo")};
-    };
+    using Options = ScreenOptions;
 
-    explicit ScreenStage(const Screen &screen) : ScreenStage(screen, Options()) {}
-    ScreenStage(const Screen &screen, const Options &options);
+    explicit ScreenStage(const Screen &screen, const Options &options = {});
     /// At the screen of that name.
-    explicit ScreenStage(const char *screen) : ScreenStage(screen, Options()) {}
-    ScreenStage(const char *screen, const Options &options);
+    explicit ScreenStage(const char *screen, const Options &options = {});
     ~ScreenStage();
     Q_DISABLE_COPY_MOVE(ScreenStage)
 };

@@ -1,8 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
-#include "harness/TestWindow.h"
-#include "screens/login/WZTLoginViewController.h"
 #include "tests/screens/ScreenStage.h"
 
 #include <QGuiApplication>
@@ -11,28 +8,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The item with the keyboard focus.
-QString focused(QQuickView &view)
+qsizetype rings(const TestWindow &window)
 {
-    QQuickItem *item = view.activeFocusItem();
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
-    return interface                   ? interface->text(QAccessible::Name)
-        : item->inherits("FocusGroup") ? u"rows"_s
-                                       : QString::fromLatin1(item->metaObject()->className());
+    return std::ranges::count_if(window.items(u"FocusRing"_s), &QQuickItem::isVisible);
 }
 
-qsizetype rings(QQuickView &view)
-{
-    const QList<QQuickItem *> all = TestWindow(view).items(u"FocusRing"_s);
-    return std::ranges::count_if(all, &QQuickItem::isVisible);
-}
-
-QStringList walk(QQuickView &view, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+QStringList walk(const TestWindow &window, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
     QStringList names;
-    for (QString now = focused(view); !names.contains(now); now = focused(view)) {
+    for (QString now = window.focused(); !names.contains(now); now = window.focused()) {
         names.append(now);
-        QTest::keyClick(&view, key, modifiers);
+        window.key(key, modifiers);
     }
     return names;
 }
@@ -64,8 +50,6 @@ void collect(QQuickItem *item, QList<Seen> &seen)
     }
 }
 
-using Wheel = std::tuple<const char *, std::size_t, QString>;
-
 } // namespace
 
 /// Keyboard, wheel and mirroring on every screen.
@@ -80,26 +64,28 @@ private Q_SLOTS:
     void theKeyboardComesToEverything()
     {
         const Screen &screen = currentCase<Screen>();
-        ScreenStage stage(screen);
+        ScreenStage stage(screen, {.appearance = {.textScale = 2, .reduceMotion = true}});
         QQuickView &view = stage.view();
-        QCOMPARE(rings(view), 0);
-        const QStringList forth = walk(view, Qt::Key_Tab);
+        QCOMPARE(rings(stage), 0);
+        const QStringList forth = walk(stage, Qt::Key_Tab);
         QCOMPARE(forth.join(u", "_s), QLatin1String(screen.walk));
-        QStringList back = walk(view, Qt::Key_Backtab, Qt::ShiftModifier);
+        QStringList back = walk(stage, Qt::Key_Backtab, Qt::ShiftModifier);
         back.append(back.takeFirst());
         std::ranges::reverse(back);
         QCOMPARE(back, forth);
         for (int i = 0; i < forth.size(); ++i) {
             const bool edits =
                 view.activeFocusItem()->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
-            QCOMPARE(rings(view), edits ? 0 : 1);
+            QCOMPARE(rings(stage), edits ? 0 : 1);
+            const QPointF middle = TestWindow::rect(view.activeFocusItem()).center();
+            QVERIFY2(QRectF(0, 0, 320, 568).contains(middle), "it is out of sight");
             stage.key(Qt::Key_Tab);
         }
         // A touch anywhere hides the focus ring.
         stage.key(Qt::Key_Backtab);
-        QCOMPARE(rings(view), 1);
+        QCOMPARE(rings(stage), 1);
         stage.tap(QPoint(160, 5));
-        QCOMPARE(rings(view), 0);
+        QCOMPARE(rings(stage), 0);
     }
 
     void keysLeaveTheScreen_data() { addCases(allScreens()); }
@@ -137,37 +123,30 @@ private Q_SLOTS:
         QCOMPARE(stage.top(), login);
     }
 
-    void theWheelScrollsWhateverIsBelow_data()
-    {
-        addCases<Wheel>({
-            {"a row", 1, u"Bug Reporter"_s},
-            {"a button", 5, u"Update"_s},
-            {"a text view, back", 4, u"Notes"_s},
-        });
-    }
-
+    // A row, a button, and a text view, back.
     void theWheelScrollsWhateverIsBelow()
     {
-        const auto &[name, screen, over] = currentCase<Wheel>();
-        ScreenStage stage(allScreens().at(screen),
-                          {.appearance = {.textScale = 2, .reduceMotion = true}});
-        if (screen == 4) {
-            stage.key(Qt::Key_Tab);
-            stage.type(u"\r"_s.repeated(20));
-        }
-        QQuickView &view = stage.view();
-        stage.grab();
-        const QAccessibleInterface *item = stage.accessible(over);
-        const auto place = [&] { return view.mapFromGlobal(item->rect().center()).y(); };
-        const int direction = screen == 4 ? 1 : -1;
-        for (const int pixels : {0, 15}) { // a mouse's, a touchpad's
-            const int before = place();
-            const QPointF at(160, qBound(60, before, 500));
-            QWheelEvent turn(at, view.mapToGlobal(at), {0, direction * pixels},
-                             {0, direction * 120}, Qt::NoButton, Qt::NoModifier,
-                             pixels ? Qt::ScrollBegin : Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(&view, &turn);
-            QTRY_VERIFY((place() - before) * direction > 0);
+        for (const auto &[screen, over, direction] : {std::tuple("Home", u"Bug Reporter"_s, -1),
+                                                      {"Account", u"Update"_s, -1},
+                                                      {"new issue", u"Notes"_s, 1}}) {
+            ScreenStage stage(screen, {.appearance = {.textScale = 2, .reduceMotion = true}});
+            if (direction > 0) {
+                stage.key(Qt::Key_Tab);
+                stage.type(u"\r"_s.repeated(20));
+            }
+            QQuickView &view = stage.view();
+            stage.grab();
+            const QAccessibleInterface *item = stage.accessible(over);
+            const auto place = [&] { return view.mapFromGlobal(item->rect().center()).y(); };
+            for (const int pixels : {0, 15}) { // a mouse's, a touchpad's
+                const int before = place();
+                const QPointF at(160, qBound(60, before, 500));
+                QWheelEvent turn(at, view.mapToGlobal(at), {0, direction * pixels},
+                                 {0, direction * 120}, Qt::NoButton, Qt::NoModifier,
+                                 pixels ? Qt::ScrollBegin : Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(&view, &turn);
+                QTRY_VERIFY((place() - before) * direction > 0);
+            }
         }
     }
 

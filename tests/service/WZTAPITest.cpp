@@ -5,6 +5,7 @@
 #include "model/WZTSession.h"
 #include "platform/foundation/url/NSURLSession.h"
 #include "sandbox/Sandbox.h"
+#include "service/TavloCategoryExtension.h"
 
 #include <future>
 #include <map>
@@ -135,6 +136,18 @@ private Q_SLOTS:
         NSURLSession::setSharedSession(m_session.get());
     }
     void cleanup() { m_session.reset(); }
+
+    void passwordsBecomeDigests()
+    {
+        const std::pair<QString, QByteArray> rows[] = {
+            {u""_s, "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"},
+            {u"ü"_s, "607474ca475a9724d7360aba71a56d5df77e61350e3f724cfa1f46e857e2d85f"},
+            {u"a\0b"_s, "ca978112ca1bbdcafac231b39a23dc4da786eff8147c4e72b9807785afee48bb"},
+        };
+        for (const auto &[text, digest] : rows) {
+            QCOMPARE(SHA256(text).toLatin1(), digest);
+        }
+    }
 
     void requestsOnTheWire()
     {

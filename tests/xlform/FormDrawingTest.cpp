@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "harness/WindowStage.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "platform/uikit/presentation/UINavigationController.h"
@@ -45,7 +44,6 @@ struct Stage : WindowStage {
     UITextView *notes = form->notesView();
 };
 
-using Place = std::tuple<const char *, int, double, QString>;
 using Change = std::tuple<const char *, void (*)(Stage &)>;
 
 } // namespace
@@ -55,35 +53,31 @@ class FormDrawingTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void rowsHoldTheirParts_data()
-    {
-        const QString title = u"What we may call it"_s;
-        addCases<Place>({{"smallest", 320, 1, u"Name"_s},
-                         {"smallest, large text", 320, 2, u"Name"_s},
-                         {"smallest, long title", 320, 1, title},
-                         {"phone, long title, large text", 390, 2, title}});
-    }
-
     void rowsHoldTheirParts()
     {
-        const auto &[name, width, textScale, title] = currentCase<Place>();
-        Stage stage({width, 844}, {.textScale = textScale});
-        stage.form->cellOf(*stage.form->name)->textLabel()->setText(title);
-        stage.name->edit(u"A name that is too long for its field, by far"_s);
-        stage.grab();
-        for (XLFormRowDescriptor *row : {stage.form->name.get(), stage.form->notes.get()}) {
-            XLFormCell *cell = stage.form->cellOf(*row).get();
-            const QRectF bounds = stage.rect(cell);
-            const QRectF label = stage.rect(cell->textLabel());
-            const QRectF editor = stage.rect(cell->editor());
-            QVERIFY(bounds.height() >= 44);
-            const QRectF inside(16, bounds.top(), width - 2 * 16, bounds.height());
-            QVERIFY(inside.contains(label) && inside.contains(editor));
-            QVERIFY2(!label.intersects(editor), "the title and the text overlap");
-            QCOMPARE(editor.right(), inside.right());
-            QVERIFY(editor.width() > width / 3.0);
+        const QString longer = u"What we may call it"_s;
+        for (const auto &[width, textScale, title] : {std::tuple(320, 1.0, u"Name"_s),
+                                                      {320, 2.0, u"Name"_s},
+                                                      {320, 1.0, longer},
+                                                      {390, 2.0, longer}}) {
+            Stage stage({width, 844}, {.textScale = textScale});
+            stage.form->cellOf(*stage.form->name)->textLabel()->setText(title);
+            stage.name->edit(u"A name that is too long for its field, by far"_s);
+            stage.grab();
+            for (XLFormRowDescriptor *row : {stage.form->name.get(), stage.form->notes.get()}) {
+                XLFormCell *cell = stage.form->cellOf(*row).get();
+                const QRectF bounds = stage.rect(cell);
+                const QRectF label = stage.rect(cell->textLabel());
+                const QRectF editor = stage.rect(cell->editor());
+                QVERIFY(bounds.height() >= 44);
+                const QRectF inside(16, bounds.top(), width - 2 * 16, bounds.height());
+                QVERIFY(inside.contains(label) && inside.contains(editor));
+                QVERIFY2(!label.intersects(editor), "the title and the text overlap");
+                QCOMPARE(editor.right(), inside.right());
+                QVERIFY(editor.width() > width / 3.0);
+            }
+            QVERIFY(stage.rect(stage.notes).height() >= 3 * stage.mark().height());
         }
-        QVERIFY(stage.rect(stage.notes).height() >= 3 * stage.mark().height());
     }
 
     void whatIsTypedStaysInSight()
@@ -178,9 +172,7 @@ private Q_SLOTS:
 
         // A moving finger scrolls the form and leaves the keyboard where it was.
         for (const int way : {-1, 1, -1}) {
-            Finger finger(stage.view(), {160, 300 - way * 100});
-            finger.move({160, 300 + way * 100});
-            finger.lift();
+            stage.drag({160, 300 - way * 100}, {160, 300 + way * 100});
             QTRY_VERIFY(!stage.list()->property("moving").toBool());
         }
         QVERIFY(stage.scrolled() > 100 && stage.name->isFirstResponder());

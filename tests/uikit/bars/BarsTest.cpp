@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "harness/WindowStage.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/bars/UITabBarItem.h"
@@ -43,7 +42,7 @@ QQuickItem *textOf(const QQuickItem *item)
     return nullptr;
 }
 
-using Place = std::tuple<const char *, QSize, double, Qt::LayoutDirection>;
+using Place = std::tuple<const char *, QSize, double>;
 
 const QString longTitle = u"A title too long for this bar, by far"_s;
 
@@ -58,17 +57,14 @@ private Q_SLOTS:
 
     void everythingKeepsItsPlace_data()
     {
-        addCases<Place>({{"smallest", {320, 568}, 1, Qt::LeftToRight},
-                         {"smallest, large text", {320, 568}, 2, Qt::LeftToRight},
-                         {"smallest, large text, mirrored", {320, 568}, 2, Qt::RightToLeft},
-                         {"tablet", {768, 1024}, 1, Qt::LeftToRight}});
+        addCases<Place>({{"smallest", {320, 568}, 1},
+                         {"smallest, large text", {320, 568}, 2},
+                         {"tablet", {768, 1024}, 1}});
     }
 
     void everythingKeepsItsPlace()
     {
-        const auto &[name, size, textScale, direction] = currentCase<Place>();
-        QGuiApplication::setLayoutDirection(direction);
-        const bool mirrored = direction == Qt::RightToLeft;
+        const auto &[name, size, textScale] = currentCase<Place>();
         Shell shell({.textScale = textScale});
         shell.show(shell.tabs, {}, size);
         const QRectF bar = TestWindow::rect(shell.item(u"UINavigationBarView"_s));
@@ -78,8 +74,7 @@ private Q_SLOTS:
         QCOMPARE(page, QRectF(0, 44, size.width(), size.height() - 44 - 49));
         QCOMPARE(tabs, QRectF(0, page.bottom(), size.width(), 49));
         const QList<QQuickItem *> items = shell.items(u"UITabBarItemView"_s);
-        const double second = (size.width() / 2.0) - (mirrored ? 160 : 0);
-        QCOMPARE(TestWindow::rect(items.value(1)), QRectF(second, tabs.top(), 160, 49));
+        QCOMPARE(TestWindow::rect(items.value(1)), QRectF(size.width() / 2.0, tabs.top(), 160, 49));
         // Without a title the picture has the middle.
         const QRectF picture = TestWindow::rect(shell.item(u"ImagePicture"_s));
         QCOMPARE(picture.size(), QSizeF(25, 25));
@@ -94,10 +89,7 @@ private Q_SLOTS:
             u"Submit"_s, UIBarButtonItemStyle::Plain, form.get(), &TestPage::loadViewIfNeeded));
         shell.navigation->pushViewController(form, false);
         QVERIFY(shell.items(u"BackButton"_s).isEmpty());
-        QList<QQuickItem *> buttons = shell.items(u"UIBarButtonItemView"_s);
-        if (mirrored) {
-            buttons.swapItemsAt(0, 1);
-        }
+        const QList<QQuickItem *> buttons = shell.items(u"UIBarButtonItemView"_s);
         const QRectF left = TestWindow::rect(textOf(buttons.at(0)));
         const QRectF right = TestWindow::rect(textOf(buttons.at(1)));
         const QRectF title = TestWindow::rect(textOf(shell.item(u"UINavigationBarView"_s)));
@@ -129,8 +121,7 @@ private Q_SLOTS:
             shell.show(shell.tabs);
             const QList<QQuickItem *> tabs = shell.items(u"UITabBarItemView"_s);
             shell.tap(tabs[1]);
-            QCOMPARE(shell.accessible().join(u", "_s),
-                     u"EditableText Account, PageTabList , PageTab Start, PageTab Account"_s);
+            QCOMPARE(shell.tabs->selectedIndex(), 1);
             shell.keys({Qt::Key_Tab, back, back}); // there is one tab before
             QCOMPARE(shell.focused(), u"Start"_s);
             shell.key(Qt::Key_Space);

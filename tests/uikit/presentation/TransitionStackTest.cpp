@@ -115,8 +115,6 @@ private Q_SLOTS:
     {
         addCases<Script>({
             {"not drawn: settles at once", false, "R+A", "Al Aw Ad [R+A]", "RA"},
-            {"drawn: did waits for the end", true, "R+A", "Al Aw", "RA"},
-            {"drawn: settles when it ended", true, "R+A A.", "Al Aw Ad [R+A]", "RA"},
             {"drawn but not animated", true, "R+!A", "Al Aw Ad [R+!A]", "RA"},
             {"ended twice counts once", true, "R+A A. A.", "Al Aw Ad [R+A]", "RA"},
             {"uncovered appears again", true, "R+!A -A A.", "Al Aw Ad [R+!A] Rw Rd [-A]", "R"},

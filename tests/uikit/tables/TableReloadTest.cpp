@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "tests/uikit/tables/TableStage.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +24,32 @@ private Q_SLOTS:
             }
             QVERIFY(SampleCell::living < 80);
         }
+    }
+
+    /// The drawing of a row that is removed or scrolled away goes later than the row does, and has
+    /// its cell until then.
+    void aLeavingCellIsNotReused()
+    {
+        for (const double away : {0, 500, 5000}) {
+            TableStage stage({9, 200});
+            stage.list()->setProperty("contentY", away);
+            stage.reload({1, 200});
+            for (const double offset : {300, 900, 0}) {
+                stage.list()->setProperty("contentY", offset);
+                stage.grab();
+                stage.everyRowSaysItsText();
+            }
+        }
+    }
+
+    void noMoreCellsAreKeptThanATallScreenHas()
+    {
+        auto table = make<SampleTable>(std::vector{1000});
+        table->height = [](const auto &) { return 5; };
+        TableStage stage(std::move(table));
+        QVERIFY(SampleCell::living > 150);
+        stage.reload({0});
+        QTRY_COMPARE(SampleCell::living, 64);
     }
 
     /// As screen readers and Tab take them.

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "harness/TestRunner.h"
 #include "platform/uikit/alerts/UIAlertController.h"
 #include "tests/uikit/TestPage.h"
 #include "tests/uikit/tables/TableStage.h"
@@ -12,11 +11,7 @@ namespace {
 using Stage = TableStage;
 
 /// A touch of a table of a hundred rows, and how often it chooses the second row.
-struct TableTouch {
-    const char *name;
-    void (*run)(Stage &);
-    int chosen;
-};
+using TableTouch = std::tuple<const char *, void (*)(Stage &), std::size_t>;
 
 void tap(Stage &stage)
 {
@@ -25,9 +20,7 @@ void tap(Stage &stage)
 
 void scroll(Stage &stage)
 {
-    Finger finger(stage.view(), stage.second());
-    finger.move(stage.second() - QPoint(0, 30));
-    finger.lift();
+    stage.drag(stage.second(), stage.second() - QPoint(0, 30));
 }
 
 void hold(Stage &stage, const std::function<void(Finger &)> &meanwhile)
@@ -115,11 +108,10 @@ private Q_SLOTS:
 
     void rowsActWhenLetGoOf()
     {
-        const TableTouch &touch = currentCase<TableTouch>();
+        const auto &[name, run, chosen] = currentCase<TableTouch>();
         TableStage stage({100});
-        touch.run(stage);
-        QCOMPARE(stage.table->chosen,
-                 std::vector<NSIndexPath>(static_cast<std::size_t>(touch.chosen), {0, 1}));
+        run(stage);
+        QCOMPARE(stage.table->chosen, std::vector<NSIndexPath>(chosen, {0, 1}));
     }
 
     void aPressedRowAndTheChosenOneAreMarked()
