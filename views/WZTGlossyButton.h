@@ -9,7 +9,6 @@ class WZTGlossyButton : public UIButton {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by a cell")
-    Q_CLASSINFO("view", "Views/WZTGlossyButtonView.qml")
 
 public:
     /// The shine keeps the size of `frame`, in points, when the button is drawn in another size.

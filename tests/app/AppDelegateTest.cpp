@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(app.keptData(), TestApp::archived(someUser()));
     }
 
-    void whatIsKeptStaysAsItIs()
+    void aStoredRecordIsNotRewritten()
     {
         NSCoder coder;
         coder.encodeObject(u"jo@wzt.example"_s, u"email"_s);

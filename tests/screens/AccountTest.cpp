@@ -136,7 +136,7 @@ private Q_SLOTS:
     {
         const auto &[name, updates, next, alert] = currentCase<LateReply>();
         AccountStage stage;
-        const auto screen = weak(&stage.screen());
+        const std::weak_ptr screen = strong(&stage.screen());
         const auto holders = screen.use_count();
         stage.service().stage(updates ? "/update.php" : "/user.php",
                               Fault::json(another).after(100ms));

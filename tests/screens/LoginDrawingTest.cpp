@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(stage.host().taps, 1);
     }
 
-    void closedScreensDieWithWhatDrewThem()
+    void closedScreensAndTheirDrawingsAreDestroyed()
     {
         LoginStage stage({390, 844}, {.reduceMotion = true});
         WZTTabBarController &tabs = *stage.delegate().tabController();

@@ -235,7 +235,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsLostIsReportedAndNotSentAgain()
+    void aLostRequestIsReportedAndNotSentAgain()
     {
         for (const auto &[path, operation] : operations) {
             init();

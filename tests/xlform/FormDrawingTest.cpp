@@ -80,7 +80,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsTypedStaysInSight()
+    void typedTextStaysInSight()
     {
         Stage stage({320, 568}, {.textScale = 1.5});
         stage.showKeyboard(260);

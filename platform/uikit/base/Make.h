@@ -20,10 +20,3 @@ template <typename T>
 {
     return std::static_pointer_cast<T>(self->shared_from_this());
 }
-
-/// A reference to `self` that does not keep it; empty for an object that `make` did not make.
-template <typename T>
-[[nodiscard]] std::weak_ptr<T> weak(T *self)
-{
-    return std::static_pointer_cast<T>(self->weak_from_this().lock());
-}

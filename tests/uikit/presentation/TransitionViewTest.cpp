@@ -224,11 +224,11 @@ private Q_SLOTS:
         const auto modal = make<TestPage>(u"Modal"_s);
         const auto second = make<TestPage>(u"Second"_s);
         stage.navigation->pushViewController(page, true);
-        QTest::qWait(50);
+        QVERIFY(QTest::qWaitFor([&] { return stage.named(u"Page"_s); }));
         stage.navigation->popViewControllerAnimated(true);
         stage.navigation->pushViewController(second, true);
         stage.root->presentViewController(modal, true, modal->counted());
-        QTest::qWait(50);
+        QVERIFY(QTest::qWaitFor([&] { return stage.named(u"Modal"_s); }));
         modal->dismissViewControllerAnimated(true, modal->counted());
         stage.settle();
         QCOMPARE(modal->completed, 2);
