@@ -17,7 +17,7 @@ function flush(    i, j, line) {
     count = 0
 }
 
-/^[A-Za-z_].* \*?r[0-9]+_[0-9]+;$/ && !/^(return|goto) / {
+/^[A-Za-z_].* \*?r[0-9]+_[0-9]+;$/ && !/=/ && !/^(return|goto) / {
     declared[++count] = $0
     next
 }

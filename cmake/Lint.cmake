@@ -8,7 +8,8 @@
 # all.
 if(WZT_LINT)
     file(SHA256 ${PROJECT_SOURCE_DIR}/.clang-tidy hash)
-    set(CMAKE_CXX_CLANG_TIDY clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option
+    # It looks for the flags of a source that is only preprocessed in the list of all compile commands.
+    set(CMAKE_CXX_CLANG_TIDY clang-tidy --quiet -p=${PROJECT_BINARY_DIR} --extra-arg=-Wno-unknown-warning-option
         --extra-arg=-Wno-unused-command-line-argument --extra-arg=-DWZT_LINT_${hash})
     set(CMAKE_CXX_COMPILE_OBJECT "<CMAKE_CXX_COMPILER> <DEFINES> <INCLUDES> <FLAGS> -E -dM <SOURCE> -o <OBJECT>")
     foreach(rule CREATE_STATIC_LIBRARY CREATE_SHARED_MODULE LINK_EXECUTABLE)

@@ -38,10 +38,11 @@ QByteArray TestProcess::startAndRead(const QString &program, const QStringList &
 
 bool TestProcess::end()
 {
-    if (state() == QProcess::NotRunning) {
-        return true;
+    if (state() != QProcess::NotRunning) {
+        terminate();
+        if (!waitForFinished(TestRunner::patience)) {
+            return false;
+        }
     }
-    terminate();
-    return waitForFinished(TestRunner::patience) && exitStatus() == QProcess::NormalExit
-        && exitCode() == 0;
+    return exitStatus() == QProcess::NormalExit && exitCode() == 0;
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
-#include "service/AccountReplyReader.h"
+#include "service/AccountRequest.h"
 
 using namespace Qt::StringLiterals;
 

@@ -14,8 +14,9 @@
 /// returns at once. Its completion must not be empty; it runs exactly once, on the session's
 /// thread. Each operation has codes of its own: no code means success in all of them.
 ///
-/// Passwords are digests (see SHA256), overwritten when the request has been sent. An absent text
-/// is sent as a name without a value, an empty one as an empty value.
+/// Passwords are digests (see SHA256). A digest of which the caller keeps no copy is overwritten
+/// when the request has been sent. An absent text is sent as a name without a value, an empty one
+/// as an empty value.
 class WZTAPI {
 public:
     using Text = std::optional<QString>;

@@ -16,9 +16,13 @@ drawings() {
 }
 
 descriptions() {
+    local warnings
     desktop-file-validate "build/$preset/packaging/"*.desktop &&
         appstreamcli validate --no-net "build/$preset/packaging/"*.metainfo.xml &&
-        ! (cd "build/$preset/packaging" && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null) | grep . >&2
+        warnings=$(cd "build/$preset/packaging" && flatpak-builder --show-manifest ./*.yml 2>&1 >/dev/null) &&
+        [[ ! $warnings ]] && return
+    say "${warnings-}"
+    return 1
 }
 
 # clang-tidy runs as part of this build, and so for the sources that have changed since.

@@ -88,11 +88,11 @@ void WZTLoginViewController::login(UIControl *)
     QString password = trimmedText(m_passwordTextField);
     if (email.isEmpty() || password.isEmpty()) {
         displayErrorMessage(u"Ensure all fields are properly filled."_s);
-        return;
+    } else {
+        m_activityIndicator.startAnimating();
+        WZTAPI::loginToAccount(email, SHA256(password),
+                               onMainThread(this, &WZTLoginViewController::loginCompleted));
     }
-    m_activityIndicator.startAnimating();
-    WZTAPI::loginToAccount(email, SHA256(password),
-                           onMainThread(this, &WZTLoginViewController::loginCompleted));
     overwrite(password);
 }
 

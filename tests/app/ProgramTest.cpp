@@ -43,6 +43,7 @@ struct Companion : TestProcess {
             return caught.toULongLong(nullptr, 16) >> (signalNumber - 1) & 1;
         };
         QTRY_VERIFY(state() == QProcess::NotRunning || handles());
+        QCOMPARE(state(), QProcess::Running);
     }
 };
 
@@ -67,6 +68,7 @@ private Q_SLOTS:
         for (const int signalNumber : {SIGTERM, SIGINT, SIGHUP}) {
             Companion program;
             program.run(signalNumber);
+            QVERIFY(program.processId() > 0); // 0 would be this process, and all of its group
             kill(static_cast<pid_t>(program.processId()), signalNumber);
             QVERIFY(program.waitForFinished(TestRunner::patience));
             QCOMPARE(program.exitStatus(), QProcess::NormalExit);
@@ -146,11 +148,10 @@ private Q_SLOTS:
             setrlimit(RLIMIT_FSIZE, &none);
         });
         program.run();
-        QCOMPARE(program.state(), QProcess::Running);
         QVERIFY(program.end());
     }
 
-    void theDesktopIsToldOfIt()
+    void theDesktopFilesMatchTheBuild()
     {
         const QString id = QString::fromLatin1(BuildConstants::applicationId);
         const QString scheme =
@@ -186,6 +187,7 @@ private Q_SLOTS:
         };
         for (const auto &[path, lines] : rows) {
             const QString text = QString::fromUtf8(Files::content(path));
+            QVERIFY2(!text.isEmpty(), qPrintable(path));
             for (const QString &line : lines) {
                 const QRegularExpression start(u"^ *"_s + QRegularExpression::escape(line),
                                                QRegularExpression::MultilineOption);

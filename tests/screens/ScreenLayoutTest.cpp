@@ -61,7 +61,8 @@ QStringList complaints(QQuickView &view)
     const QSize window = view.size();
     QString spoken;
     for (const QAccessibleInterface *item : TestWindow(view).accessibleItems()) {
-        spoken += item->text(QAccessible::Name) + u'\n' + item->text(QAccessible::Description);
+        spoken +=
+            item->text(QAccessible::Name) + u'\n' + item->text(QAccessible::Description) + u'\n';
     }
     QStringList found;
     if (texts.isEmpty()) {

@@ -11,7 +11,11 @@ namespace {
 const Screen &screenNamed(const char *name)
 {
     const auto isNamed = [name](const Screen &each) { return qstrcmp(each.name, name) == 0; };
-    return *std::ranges::find_if(allScreens(), isNamed);
+    const auto found = std::ranges::find_if(allScreens(), isNamed);
+    if (found == allScreens().end()) {
+        qFatal("no screen %s", name);
+    }
+    return *found;
 }
 
 } // namespace

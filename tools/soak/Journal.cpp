@@ -88,6 +88,10 @@ void Journal::Session::setCurrentUser(const WZTUser &user)
     note("may " + kept);
     m_session.setCurrentUser(user);
     note("is " + kept);
+    if (m_filled) {
+        // A killed process may have left a file that gave way to this user.
+        note("may " + nameOf(user));
+    }
 }
 
 void Journal::Session::logout()

@@ -23,7 +23,6 @@
 #include <QTimer>
 
 #include <atomic>
-
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -292,9 +291,10 @@ int Life::live(int &argc, char *argv[])
     configuration.certificateAuthorityFile = QString::fromLocal8Bit(argv[3]);
     configuration.timeoutIntervalForRequest = std::chrono::seconds(2);
     const auto alarm = QByteArray(argv[4]).toUInt();
+    const char *disk = argv[5];
     argc = 1;
     Program program(argc, argv, configuration);
     std::unique_ptr<Person> person;
-    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm, argv[5]); });
+    QTimer::singleShot(0, [&] { person = std::make_unique<Person>(life, alarm, disk); });
     return program.run({});
 }

@@ -21,6 +21,7 @@
 #include <QThread>
 
 #include <csignal>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -87,6 +88,8 @@ public:
             return seconds ? isTime(1000) : steps == stepsOfAShortRun;
         });
         startService();
+        std::printf("full disks are         %s\n",
+                    m_disk.isMounted() ? "4 MiB, mounted" : "limits of file sizes");
         return m_ledger.print(titles());
     }
 
@@ -135,7 +138,7 @@ private:
         m_ledger.begin();
         m_disk.empty();
         TestProcess life;
-        life.start(QCoreApplication::applicationFilePath(),
+        life.start(m_program,
                    {QString::number(++m_life), QString::number(m_port),
                     m_state.filePath(u"ca.pem"_s), QString::number(alarm),
                     m_disk.isMounted() ? configFolder() : QString()});
@@ -192,6 +195,8 @@ private:
 
     [[nodiscard]] QString configFolder() const { return m_session.home() + u"/.config"_s; }
 
+    // Before the small disk is mounted: in a chroot nobody knows it afterwards.
+    QString m_program = QCoreApplication::applicationFilePath();
     TestSession m_session;
     SmallDisk m_disk{configFolder()};
     RandomRuns::Dice m_dice;

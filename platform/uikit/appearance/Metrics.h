@@ -49,7 +49,7 @@ class Metrics : public QObject {
 public:
     static constexpr double margin = 16;
     static constexpr double row = 44;
-    /// The width and height that a control can be touched in at least.
+    /// The least width and height in which a control is touched.
     static constexpr double smallestTarget = 44;
     /// Above and below the contents of a row.
     static constexpr double rowMargin = 11;

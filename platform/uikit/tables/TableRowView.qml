@@ -57,7 +57,7 @@ Item {
             NumberAnimation { duration: Durations.deselection }
         }
     }
-    // It decides which touches choose the row: a scroll none, a double click twice.
+    // A double click triggers it twice, a scroll never.
     PressArea {
         id: touch
         anchors.fill: parent

@@ -21,7 +21,7 @@ Item {
         if (list.dragging)
             return
         if (list.contentY > list.originY || control.refreshing && pulled >= height) {
-            list.topMargin = margin // nothing has to move, or the list returns to it by itself
+            list.topMargin = margin // the list need not move, or moves there by itself
         } else {
             list.cancelFlick()
             moving.from = list.originY - pulled
