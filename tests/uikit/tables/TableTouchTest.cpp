@@ -28,7 +28,7 @@ void hold(Stage &stage, const std::function<void(Finger &)> &meanwhile)
     Finger finger(stage.view(), stage.second());
     QTRY_VERIFY(stage.cell(2)->isHighlighted());
     meanwhile(finger);
-    QVERIFY(!stage.cell(2)->isHighlighted());
+    QTRY_VERIFY(!stage.cell(2)->isHighlighted()); // moves are delivered with a frame
     finger.lift();
 }
 
