@@ -47,7 +47,7 @@ QByteArray reply()
     return QJsonDocument(elements).toJson(QJsonDocument::Compact);
 }
 
-void readRecords(QByteArray body)
+void readRecords(QByteArray &&body)
 {
     const IssueReply reply = IssueReply::fromBody(std::move(body));
     if (reply.issues.value_or(QList<WZTPackageIssue>()).size() != count) {
@@ -55,16 +55,16 @@ void readRecords(QByteArray body)
     }
 }
 
-void readDocument(QByteArray body)
+void readDocument(QByteArray &&body)
 {
     if (QJsonDocument::fromJson(body).isNull()) {
         qFatal("no JSON");
     }
 }
 
-void readNothing(QByteArray) {}
+void readNothing(QByteArray &&) {}
 
-using Reader = void (*)(QByteArray body);
+using Reader = void (*)(QByteArray &&body);
 
 constexpr std::pair<const char *, Reader> readers[] = {
     {"nothing", readNothing},

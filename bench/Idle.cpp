@@ -110,6 +110,7 @@ void measureIdle(const QStringList &)
     }
     const auto threads = [&processes] {
         std::vector<QMap<int, ThreadWork>> all;
+        all.reserve(processes.size());
         for (const auto &process : processes) {
             all.push_back(threadsOf(process->processId()));
         }
