@@ -13,7 +13,6 @@ make_root() {
     [[ ! -d $made ]] || return 0
     say "Making a minimal root of $1 in $made"
     rm -rf -- "$made.partial"
-    mkdir -p -- "$roots"
     debootstrap --variant=minbase "$1" "$made.partial" >"$made.log" 2>&1 ||
         fail "debootstrap could not make a root of $1; see $made.log"
     # A machine may reach Debian's packages by settings of its own.
@@ -37,6 +36,8 @@ in_root() {
 # try_release RELEASE VERB...: in a fresh clone, with a new HOME; prints one line of outcome.
 try_release() {
     local release=$1 top=$roots/$1 outcome=failed began=$SECONDS
+    mkdir -p -- "$roots"
+    take_lock "$top.lock" "$top"
     make_root "$release"
     rm -rf -- "$top/srv/clone" "$top/srv/home"
     mkdir -p -- "$top/srv/home"
@@ -44,6 +45,7 @@ try_release() {
     say "./dev ${*:2} on $release, in $top/srv/clone"
     # shellcheck disable=SC2016 # expanded by the inner shell
     ! in_root "$top" sh -c 'cd /srv/clone && exec ./dev "$@"' dev "${@:2}" </dev/null || outcome=passed
+    release_lock
     printf '%-10s ./dev %s: %s after %d min\n' "$release" "${*:2}" "$outcome" $(((SECONDS - began + 30) / 60))
     [[ $outcome == passed ]]
 }
