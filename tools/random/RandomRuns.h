@@ -43,7 +43,7 @@ public:
     int between(int first, int last) { return m_generator.bounded(first, last + 1); }
     /// One time in `times`.
     bool once(int times) { return below(times) == 0; }
-    template <class List>
+    template <typename List>
     const auto &oneOf(const List &list)
     {
         return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];
