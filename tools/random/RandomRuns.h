@@ -7,11 +7,9 @@
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QStringList>
 #include <QTest>
 
 #include <functional>
-#include <span>
 
 /// Runs of random use, each of a seed of its own: as many as are asked for, from seed 1 on. With
 /// WZT_RANDOM_SECONDS they go on for that long, with WZT_RANDOM_SEED they begin there.

@@ -37,7 +37,6 @@ public:
                              const QString &reuseIdentifier = {});
     ~UITableViewCell() override;
 
-    [[nodiscard]] UITableViewCellStyle style() const { return m_style; }
     [[nodiscard]] QString reuseIdentifier() const { return m_reuseIdentifier; }
     /// Where the file named by Q_CLASSINFO lies.
     [[nodiscard]] QUrl viewUrl() const;
@@ -74,7 +73,6 @@ public:
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
-    UITableViewCellStyle m_style;
     QString m_reuseIdentifier;
     UIView m_contentView;
     UILabel m_textLabel;
