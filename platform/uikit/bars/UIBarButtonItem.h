@@ -37,7 +37,7 @@ public:
     {
     }
 
-    /// The text that is drawn, or the name for screen readers of one drawn as a picture.
+    /// The drawn text; for a button drawn as a picture, its name for screen readers.
     [[nodiscard]] QString title() const { return m_title; }
     [[nodiscard]] bool isSystemItem(UIBarButtonSystemItem item) const
     {
