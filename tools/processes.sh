@@ -42,8 +42,10 @@ await_exec() {
 
 # End what was started, the last first, and nothing else.
 end_all() {
-    local pid
-    for pid in $(jobs -rp | tac); do
+    local pids index pid
+    mapfile -t pids < <(jobs -rp)
+    for ((index = ${#pids[@]} - 1; index >= 0; --index)); do
+        pid=${pids[index]}
         kill "$pid" 2>/dev/null || true
         for _ in {1..50}; do
             running "$pid" || continue 2
