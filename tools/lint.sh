@@ -5,7 +5,7 @@
 # ./dev lint: formatting, static analysis, and the rules of the house.
 
 # matching PATHS: the files whose path matches.
-matching() { grep -P "$1" <<<"$files"; }
+matching() { printf '%s\n' "$files" | grep -P "$1"; }
 
 formatting() { matching '\.(h|cpp)$' | xargs -d '\n' clang-format --dry-run --Werror; }
 scripts() { shellcheck --external-sources --check-sourced dev .ci/run; }
@@ -120,6 +120,7 @@ rules() {
 }
 
 verb_lint() {
+    local -x LC_ALL=C.UTF-8
     local preset=lint check checks=(formatting scripts rules tidy drawings descriptions) broken=()
     if [[ ${1-} == --quick ]]; then
         preset=sandbox checks=(formatting scripts rules drawings)
