@@ -5,7 +5,6 @@
 # ./dev matrix: the same verb on every supported release of Debian, each in a minimal root of its own.
 
 releases=(bookworm trixie)
-roots=${XDG_CACHE_HOME:-$HOME/.cache}/wzt-companion/roots
 
 # make_root RELEASE: what debootstrap leaves, kept for the next time.
 make_root() {
@@ -65,6 +64,8 @@ verb_matrix() {
         esac
         shift
     done
+    [[ ${XDG_CACHE_HOME-}${HOME-} ]] || fail "Neither XDG_CACHE_HOME nor HOME says where the roots are kept."
+    local roots=${XDG_CACHE_HOME:-${HOME-}/.cache}/wzt-companion/roots
     ((EUID == 0)) || fail "A root is entered as root only: sudo ./dev matrix"
     need debootstrap git
     [[ ! $(git -c safe.directory="$root" status --porcelain) ]] ||
