@@ -120,6 +120,7 @@ rules() {
 }
 
 verb_lint() {
+    [[ $# == 0 || $* == --quick ]] || fail "Lint looks at everything: ./dev lint [--quick]"
     local -x LC_ALL=C.UTF-8
     local preset=lint check checks=(formatting scripts rules tidy drawings descriptions) broken=()
     if [[ ${1-} == --quick ]]; then

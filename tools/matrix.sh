@@ -54,6 +54,7 @@ verb_matrix() {
     while (($#)); do
         case $1 in
         --)
+            declare -F "verb_${2-}" >/dev/null || fail "Which verb? ./dev matrix [RELEASE...] [-- VERB...]"
             verb=("${@:2}")
             break
             ;;

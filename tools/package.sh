@@ -33,6 +33,9 @@ verb_package() {
         shift || fail "For which processor? ./dev package --arch ARCH"
     done
     if [[ $arch != native && $arch != "$(dpkg --print-architecture)" ]]; then
+        need dpkg-dev
+        dpkg-architecture -L | grep -Fx -- "$arch" >/dev/null ||
+            fail "Debian knows no such processor: \"$arch\"; \"dpkg-architecture -L\" lists them."
         cross=(--host-arch "$arch" --build-profiles=cross)
         packages+=("crossbuild-essential-$arch" "pkgconf:$arch" "${libraries[@]/%/:$arch}")
     fi
