@@ -18,6 +18,18 @@ archive_sources() {
         --mtime="$(git log -1 --format=@%ct)"
 }
 
+# package_version: that of the changelog if its tag is here. Any other commit has one of its own, by which
+# its package replaces that of an earlier commit; git alone would shorten the hash as the clone is large.
+package_version() {
+    local version changed
+    version=$(sed -n 's/^## \[\([0-9.]*\)\] - .*/\1/p;T;q' CHANGELOG.md)
+    changed=$(git status --porcelain --untracked-files=no)
+    if [[ $changed || ! $(git tag --points-at HEAD --list "v$version") ]]; then
+        version+=$(TZ=UTC0 git log -1 --date=format-local:%Y%m%d%H%M%S --format=+git%cd.%H | cut -c 1-27)
+    fi
+    printf '%s\n' "$version${changed:++dirty}"
+}
+
 verb_package() {
     local arch=native version made=$root/build/package constants=() cross=()
     local packages=("${packaging_packages[@]}" "${tools[@]}" "${libraries[@]}")
@@ -44,12 +56,12 @@ verb_package() {
     lock_build package
     rm -rf -- "$made"
     mkdir -p -- "$made"
-    version=$(sed -n 's/^## \[\([0-9.]*\)\] - .*/\1/p;T;q' CHANGELOG.md)
+    version=$(package_version)
     archive_sources "$made/wzt-companion_$version.orig.tar.xz" "wzt-companion-$version"
     tar --extract --file="$made/wzt-companion_$version.orig.tar.xz" --directory="$made"
     (
         cd -- "$made/wzt-companion-$version"
-        cmake "${constants[@]}" -P packaging/debian/MakeDebian.cmake
+        cmake "${constants[@]}" -DWZT_PACKAGE_VERSION="$version" -P packaging/debian/MakeDebian.cmake
         dpkg-buildpackage --no-sign "${cross[@]}"
     )
     # By a relative path: lintian does not find what is below a folder with umlauts.
