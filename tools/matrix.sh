@@ -49,8 +49,8 @@ try_release() {
     [[ $outcome == passed ]]
 }
 
-verb_matrix() {
-    local chosen=() verb=(test) broken=()
+# choose [RELEASE...] [-- VERB...]: what verb_matrix was asked for.
+choose() {
     while (($#)); do
         case $1 in
         --)
@@ -65,6 +65,11 @@ verb_matrix() {
         esac
         shift
     done
+}
+
+verb_matrix() {
+    local chosen=() verb=(test) broken=()
+    choose "$@"
     [[ ${XDG_CACHE_HOME-}${HOME-} ]] || fail "Neither XDG_CACHE_HOME nor HOME says where the roots are kept."
     local roots=${XDG_CACHE_HOME:-${HOME-}/.cache}/wzt-companion/roots
     ((EUID == 0)) || fail "A root is entered as root only: sudo ./dev matrix"

@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# Programs that ./dev starts in the background. All of them end with it, however it ends.
+# Programs that ./dev starts in the background: all of them end with it, however it ends. And locks, by which
+# it waits for any other ./dev.
 
 scratch= # a temporary folder, once make_scratch was called
 
@@ -57,3 +58,16 @@ end_all() {
     wait
     [[ ! $scratch ]] || rm -rf -- "$scratch"
 }
+
+# await_lock DESCRIPTOR WHAT: wait until no other ./dev is at work in what the open file stands for.
+await_lock() {
+    flock -n "$1" && return
+    say "Another ./dev is at work in $2; waiting until it has finished."
+    flock "$1"
+}
+# take_lock FILE WHAT: the same with a file of that name.
+take_lock() {
+    exec {lock}>"$1"
+    await_lock "$lock" "$2"
+}
+release_lock() { exec {lock}>&-; }
