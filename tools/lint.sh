@@ -8,7 +8,7 @@
 matching() { printf '%s\n' "$files" | grep -P "$1"; }
 
 formatting() { matching '\.(h|cpp)$' | xargs -d '\n' clang-format --dry-run --Werror; }
-scripts() { shellcheck --external-sources --check-sourced dev .ci/run; }
+scripts() { shellcheck --external-sources --check-sourced dev .ci/run packaging/debian/tests/start; }
 drawings() {
     local drawings
     mapfile -t drawings < <(matching '\.qml$')
