@@ -7,6 +7,7 @@
 #include "platform/linux/DesktopSettings.h"
 #include "platform/linux/HapticFeedback.h"
 #include "platform/linux/Links.h"
+#include "platform/linux/PortalLinks.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"
 
@@ -38,12 +39,17 @@ LinuxHost::~LinuxHost() = default;
 
 bool LinuxHost::canOpenURL(const QString &url)
 {
-    return Links::hasHandler(url);
+    return PortalLinks::areNeeded() ? PortalLinks::hasHandler(m_bus->connection(), url)
+                                    : Links::hasHandler(url);
 }
 
 void LinuxHost::openURL(const QString &url)
 {
-    Links::open(url);
+    if (PortalLinks::areNeeded()) {
+        PortalLinks::open(m_bus->connection(), url);
+    } else {
+        Links::open(url);
+    }
 }
 
 void LinuxHost::impactOccurred(UIImpactFeedbackStyle /*style*/)

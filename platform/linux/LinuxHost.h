@@ -12,9 +12,10 @@ class DesktopSettings;
 class SessionBus;
 class SingleInstance;
 
-/// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
-/// appearance and the single instance over the session bus. Features that the machine lacks do
-/// nothing. Made after the application object, destroyed before it; main thread only.
+/// The port to a Linux phone or desktop: links through the desktop's scheme handlers, or in a
+/// sandbox through its portal; haptics, appearance and the single instance over the session bus.
+/// Features that the machine lacks do nothing. Made after the application object, destroyed before
+/// it; main thread only.
 class LinuxHost final : public Host {
 public:
     /// The total time that a start waits for the desktop.

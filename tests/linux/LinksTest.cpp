@@ -3,12 +3,29 @@
 #include "harness/Files.h"
 #include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
+#include "tests/linux/FakeService.h"
+#include "tests/linux/OtherProcess.h"
 
+#include <QDBusArgument>
 #include <QRegularExpression>
 
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SandboxCase {
+    const char *name;
+    QString usePortal;
+    QString service;
+    QVariant supported;
+    bool isMute;
+    QByteArray said;
+    qsizetype calls;
+};
+
+} // namespace
 
 class LinksTest : public QObject {
     Q_OBJECT
@@ -61,6 +78,39 @@ private Q_SLOTS:
             QVERIFY2(!m_host.canOpenURL(url), qPrintable(url));
             m_host.openURL(url);
         }
+    }
+
+    void linksOfASandbox_data()
+    {
+        const QString portal = u"org.freedesktop.portal.Desktop"_s;
+        addCases<SandboxCase>({
+            {"supported", u"1"_s, portal, true, false, "handled\n", 2},
+            {"not supported", u"1"_s, portal, false, false, "unhandled\n", 2},
+            {"old portal", u"1"_s, portal, {}, false, "unhandled\n", 2},
+            {"dead portal", u"1"_s, portal, {}, true, "unhandled\n", 2},
+            {"no portal", u"1"_s, u"example.wzt-test.None"_s, true, false, "unhandled\n", 0},
+            {"no sandbox", {}, portal, true, false, "unhandled\n", 0},
+        });
+    }
+
+    // No handler of this machine counts for another process there.
+    void linksOfASandbox()
+    {
+        const auto &[name, usePortal, service, supported, isMute, said, calls] =
+            currentCase<SandboxCase>();
+        FakeService portal(service, u"/org/freedesktop/portal/desktop"_s, supported);
+        portal.isMute = isMute;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"GTK_USE_PORTAL"_s, usePortal);
+        const QString url = u"Nobody://a b/%41#?x=É"_s;
+        QCOMPARE(runOtherProcess({u"--open"_s, url}, environment), said);
+        for (QVariantList &call : portal.calls) {
+            QCOMPARE(call.takeLast().value<QDBusArgument>().currentSignature(), u"a{sv}"_s);
+        }
+        const QString interface = u"org.freedesktop.portal.OpenURI"_s;
+        const QList<QVariantList> expected{{interface, u"OpenURI"_s, QString(), url},
+                                           {interface, u"SchemeSupported"_s, u"nobody"_s}};
+        QCOMPARE(portal.calls, expected.first(calls));
     }
 };
 

@@ -13,7 +13,7 @@ enum class UIImpactFeedbackStyle { Light = 0 };
 
 /// The one port to the machine: the services of the system that the application needs beside a
 /// window.
-/// Every call and every callback is on the main thread, and no call waits for another process.
+/// Every call and every callback is on the main thread, and no call waits long for another process.
 class Host {
 public:
     virtual ~Host() = default;
