@@ -10,9 +10,12 @@
 #include "platform/linux/PortalLinks.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/TextScale.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <malloc.h>
 
@@ -65,6 +68,11 @@ void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)>
         m_palette = std::make_unique<DesktopPalette>([this] { reportAppearance(); });
         m_settings =
             std::make_unique<DesktopSettings>(m_bus->connection(), [this] { reportAppearance(); });
+        // Its geometry in points changes with the pixel ratio.
+        if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+            QObject::connect(screen, &QScreen::geometryChanged, m_palette.get(),
+                             [this] { reportAppearance(); });
+        }
     }
     reportAppearance();
 }
@@ -75,6 +83,7 @@ void LinuxHost::reportAppearance()
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {
         appearance.style = m_palette->style();
     }
+    appearance.textScale = TextScale::remaining(appearance.textScale);
     if (appearance == m_reportedAppearance) {
         return;
     }
