@@ -22,7 +22,8 @@ public:
     static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
 
     /// Disables a session bus that does not answer, which would delay the plugins of the
-    /// application object. Call it before that object is made. Returns the rest of `startTimeout`.
+    /// application object, and the start of one where none is running. Call it before that object
+    /// is made. Returns the rest of `startTimeout`.
     [[nodiscard]] static std::chrono::milliseconds prepare();
 
     /// `applicationId`: the application's reverse-DNS name on the desktop. `remainingTime`: the

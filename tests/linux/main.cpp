@@ -42,6 +42,7 @@ int main(int argc, char **argv)
         return startApplication(QCoreApplication::arguments().sliced(2), remainingTime);
     }
     if (argc == 3 && qstrcmp(argv[1], "--open") == 0) {
+        (void)LinuxHost::prepare();
         const QGuiApplication application(argc, argv);
         return openLink(QCoreApplication::arguments().constLast());
     }
