@@ -13,7 +13,7 @@ class UIWindow;
 /// application's main loop. Which renderer draws it is left to Qt and to the environment.
 class DesktopWindow {
 public:
-    /// `window` outlives the host. `iconFile`: the file of the icon, empty for none.
+    /// `window` outlives the host. `iconFile`: the SVG file of the icon, empty for none.
     DesktopWindow(UIWindow &window, const QString &title, const QString &iconFile);
     ~DesktopWindow();
 
