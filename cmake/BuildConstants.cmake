@@ -24,8 +24,9 @@ endfunction()
 set(WZT_DISPLAY_NAME "WZT Companion")
 
 set(host "[a-z0-9]([a-z0-9-]*[a-z0-9])?(\\.[a-z0-9]([a-z0-9-]*[a-z0-9])?)*")
-wzt_constant(WZT_APPLICATION_ID "example.wzt.Companion" "[A-Za-z][A-Za-z0-9_]*(\\.[A-Za-z][A-Za-z0-9_]*)+"
-    "reverse-DNS name of the application")
+set(part "[A-Za-z][A-Za-z0-9_]*")
+wzt_constant(WZT_APPLICATION_ID "example.wzt.Companion" "(${part}\\.)(${part}\\.)+${part}"
+    "reverse-DNS name of the application, of three parts at least")
 wzt_constant(WZT_URL_SCHEME "wztcompanion" "[a-z][a-z0-9+.-]*"
     "scheme of the URLs that open the application, in lower case")
 wzt_constant(WZT_SERVICE_HOST "service.wzt.example" "${host}" "host name of the web service")

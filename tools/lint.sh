@@ -5,10 +5,10 @@
 # ./dev lint: formatting, static analysis, and the rules of the house.
 
 # matching PATHS: the files whose path matches.
-matching() { grep -P "$1" <<<"$files"; }
+matching() { printf '%s\n' "$files" | grep -P "$1"; }
 
 formatting() { matching '\.(h|cpp)$' | xargs -d '\n' clang-format --dry-run --Werror; }
-scripts() { shellcheck --external-sources --check-sourced dev .ci/run; }
+scripts() { shellcheck --external-sources --check-sourced dev .ci/run packaging/debian/tests/start; }
 drawings() {
     local drawings
     mapfile -t drawings < <(matching '\.qml$')
@@ -81,10 +81,10 @@ rules() {
     local drawn='input/|\w+/(\w+(Area|Picture)|DesktopWindow|EditActions|FocusFollower|ReadingOrder|SecretTextFilter|Separator|TableKeyboard|TableList)\.'
     forbid "^(?!platform/uikit/($drawn)|harness/|tests/|bench/|tools/|app/).*\.(h|cpp)$" '^#include <(QtQuick|QQuick|QSG)' 'Only drawings know Qt Quick'
     forbid '^(?!platform/foundation/http/\w+\.cpp$|tests/).*\.(h|cpp)$' '^#include <curl/' "libcurl is included by the HTTP client's sources only"
-    forbid '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|size_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
-    forbid '\.(h|cpp)$' 'template<(.*[, ])?class ' 'A parameter of a template is a typename'
+    forbid '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|s?size_t|time_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
+    forbid '\.(h|cpp)$' 'template ?<(.*[, ])?class ' 'A parameter of a template is a typename'
     forbid '\.(h|cpp)$' 'operator=\(const \w+ ?&\) = delete' 'Copies are ruled out by Q_DISABLE_COPY_MOVE'
-    report 'Longer than 300 lines' "$(matching '\.(h|cpp|qml)$' | xargs -d '\n' wc -l | awk '$1 > 300 && $2 != "total"')"
+    report 'Longer than 300 lines' "$(matching '\.(h|cpp|qml)$' | xargs -d '\n' awk 'FNR == 301 { print FILENAME }')"
     included_once 'gio/' 'GIO'
     included_once 'unicode/' 'ICU'
     included_once 'boost/beast' 'Boost.Beast'
@@ -120,6 +120,8 @@ rules() {
 }
 
 verb_lint() {
+    [[ $# == 0 || $* == --quick ]] || fail "Lint looks at everything: ./dev lint [--quick]"
+    local -x LC_ALL=C.UTF-8
     local preset=lint check checks=(formatting scripts rules tidy drawings descriptions) broken=()
     if [[ ${1-} == --quick ]]; then
         preset=sandbox checks=(formatting scripts rules drawings)

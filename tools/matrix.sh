@@ -5,7 +5,6 @@
 # ./dev matrix: the same verb on every supported release of Debian, each in a minimal root of its own.
 
 releases=(bookworm trixie)
-roots=${XDG_CACHE_HOME:-$HOME/.cache}/wzt-companion/roots
 
 # make_root RELEASE: what debootstrap leaves, kept for the next time.
 make_root() {
@@ -41,7 +40,7 @@ try_release() {
     make_root "$release"
     rm -rf -- "$top/srv/clone" "$top/srv/home"
     mkdir -p -- "$top/srv/home"
-    git -c safe.directory="$root" clone --quiet --no-hardlinks -- "$root" "$top/srv/clone"
+    git clone --quiet --no-hardlinks -- "$root" "$top/srv/clone"
     say "./dev ${*:2} on $release, in $top/srv/clone"
     # shellcheck disable=SC2016 # expanded by the inner shell
     ! in_root "$top" sh -c 'cd /srv/clone && exec ./dev "$@"' dev "${@:2}" </dev/null || outcome=passed
@@ -50,11 +49,12 @@ try_release() {
     [[ $outcome == passed ]]
 }
 
-verb_matrix() {
-    local chosen=() verb=(test) broken=()
+# choose [RELEASE...] [-- VERB...]: what verb_matrix was asked for.
+choose() {
     while (($#)); do
         case $1 in
         --)
+            declare -F "verb_${2-}" >/dev/null || fail "Which verb? ./dev matrix [RELEASE...] [-- VERB...]"
             verb=("${@:2}")
             break
             ;;
@@ -65,9 +65,20 @@ verb_matrix() {
         esac
         shift
     done
+}
+
+verb_matrix() {
+    local chosen=() verb=(test) broken=()
+    choose "$@"
+    [[ ${XDG_CACHE_HOME-}${HOME-} ]] || fail "Neither XDG_CACHE_HOME nor HOME says where the roots are kept."
+    local roots=${XDG_CACHE_HOME:-${HOME-}/.cache}/wzt-companion/roots
     ((EUID == 0)) || fail "A root is entered as root only: sudo ./dev matrix"
     need debootstrap git
-    [[ ! $(git -c safe.directory="$root" status --porcelain) ]] ||
+    # The tree may be another user's. What reads it for a clone sees no -c, only such a file.
+    make_scratch
+    local -x GIT_CONFIG_GLOBAL=$scratch/gitconfig
+    git config --global safe.directory '*'
+    [[ ! $(git status --porcelain) ]] ||
         say "What is not committed is not in the fresh clones."
     local release
     for release in "${chosen[@]:-${releases[@]}}"; do

@@ -18,8 +18,45 @@ archive_sources() {
         --mtime="$(git log -1 --format=@%ct)"
 }
 
+# package_version: that of the changelog if its tag is here. Any other commit has a version of its own, so that
+# its package replaces that of an earlier one. The hash is cut here: git's short form grows with the clone.
+package_version() {
+    local version changed
+    version=$(sed -n 's/^## \[\([0-9.]*\)\] - .*/\1/p;T;q' CHANGELOG.md)
+    changed=$(git status --porcelain --untracked-files=no)
+    if [[ $changed || ! $(git tag --points-at HEAD --list "v$version") ]]; then
+        version+=$(TZ=UTC0 git log -1 --date=format-local:%Y%m%d%H%M%S --format=+git%cd.%H | cut -c 1-27)
+    fi
+    printf '%s\n' "$version${changed:++dirty}"
+}
+
+# for_processor ARCH: what is needed to build for another one.
+for_processor() {
+    need dpkg-dev
+    dpkg-architecture -L | grep -Fx -- "$1" >/dev/null ||
+        fail "Debian knows no such processor: \"$1\"; \"dpkg-architecture -L\" lists them."
+    cross=(--host-arch "$1" --build-profiles=cross)
+    packages+=("crossbuild-essential-$1" "pkgconf:$1" "${libraries[@]/%/:$1}")
+}
+
+# make_packages FOLDER
+make_packages() {
+    local version archive
+    version=$(package_version)
+    archive=$1/wzt-companion_$version.orig.tar.xz
+    archive_sources "$archive" "wzt-companion-$version"
+    tar --extract --file="$archive" --directory="$1"
+    (
+        cd -- "$1/wzt-companion-$version"
+        cmake "${constants[@]}" -DWZT_PACKAGE_VERSION="$version" -P packaging/debian/MakeDebian.cmake
+        dpkg-buildpackage --no-sign "${cross[@]}"
+    )
+    # By a relative path: lintian does not find what is below a folder with umlauts.
+    (cd -- "$1" && lintian --fail-on error,warning ./*.changes)
+}
+
 verb_package() {
-    local arch=native version made=$root/build/package constants=() cross=()
+    local arch=native made=$root/build/package constants=() cross=()
     local packages=("${packaging_packages[@]}" "${tools[@]}" "${libraries[@]}")
     while (($#)); do
         case $1 in
@@ -33,24 +70,14 @@ verb_package() {
         shift || fail "For which processor? ./dev package --arch ARCH"
     done
     if [[ $arch != native && $arch != "$(dpkg --print-architecture)" ]]; then
-        cross=(--host-arch "$arch" --build-profiles=cross)
-        packages+=("crossbuild-essential-$arch" "pkgconf:$arch" "${libraries[@]/%/:$arch}")
+        for_processor "$arch"
     fi
     need "${packages[@]}"
     git rev-parse --is-inside-work-tree >/dev/null || fail "A package is made of the files that git tracks."
     lock_build package
     rm -rf -- "$made"
     mkdir -p -- "$made"
-    version=$(sed -n 's/^## \[\([0-9.]*\)\] - .*/\1/p;T;q' CHANGELOG.md)
-    archive_sources "$made/wzt-companion_$version.orig.tar.xz" "wzt-companion-$version"
-    tar --extract --file="$made/wzt-companion_$version.orig.tar.xz" --directory="$made"
-    (
-        cd -- "$made/wzt-companion-$version"
-        cmake "${constants[@]}" -P packaging/debian/MakeDebian.cmake
-        dpkg-buildpackage --no-sign "${cross[@]}"
-    )
-    # By a relative path: lintian does not find what is below a folder with umlauts.
-    (cd -- "$made" && lintian --fail-on error,warning ./*.changes)
+    make_packages "$made"
     say "The packages:"
     printf '%s\n' "$made"/*.deb
 }

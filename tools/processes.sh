@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# Programs that ./dev starts in the background. All of them end with it, however it ends.
+# Programs that ./dev starts in the background: all of them end with it, however it ends. And locks, by which
+# it waits for any other ./dev.
 
 scratch= # a temporary folder, once make_scratch was called
 
@@ -16,10 +17,11 @@ running() { jobs -rp | grep -qx "$1"; }
 # start PROGRAM...: out of reach of Ctrl-C, without our lock, and ended even when this script is killed.
 start() { setsid setpriv --pdeathsig TERM "$@" {lock}>&- & }
 
-# The same without a display, and with nothing of this user's settings, session or proxies.
+# The same without a display, and with nothing of this user's settings, session or proxies. TERM is no crash
+# whose stack Qt Test should have printed by a debugger.
 start_apart() {
     start env -i PATH="$PATH" HOME="$scratch" XDG_RUNTIME_DIR="$scratch/runtime" LC_ALL=C.UTF-8 TZ=Europe/Berlin \
-        QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$@"
+        QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software QTEST_DISABLE_STACK_DUMP=1 "$@"
 }
 
 # await PID TEXT FILE: until the process has written the text, or has ended, or 20 s have passed.
@@ -42,8 +44,10 @@ await_exec() {
 
 # End what was started, the last first, and nothing else.
 end_all() {
-    local pid
-    for pid in $(jobs -rp | tac); do
+    local pids index pid
+    mapfile -t pids < <(jobs -rp)
+    for ((index = ${#pids[@]} - 1; index >= 0; --index)); do
+        pid=${pids[index]}
         kill "$pid" 2>/dev/null || true
         for _ in {1..50}; do
             running "$pid" || continue 2
@@ -54,3 +58,16 @@ end_all() {
     wait
     [[ ! $scratch ]] || rm -rf -- "$scratch"
 }
+
+# await_lock DESCRIPTOR WHAT: wait until no other ./dev is at work in what the open file stands for.
+await_lock() {
+    flock -n "$1" && return
+    say "Another ./dev is at work in $2; waiting until it has finished."
+    flock "$1"
+}
+# take_lock FILE WHAT: the same with a file of that name.
+take_lock() {
+    exec {lock}>"$1"
+    await_lock "$lock" "$2"
+}
+release_lock() { exec {lock}>&-; }

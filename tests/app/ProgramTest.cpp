@@ -181,7 +181,7 @@ private Q_SLOTS:
               "<mediatype>"_L1 + scheme + "</mediatype>"_L1,
               "<release version=\""_L1 + QLatin1StringView(BuildConstants::version)}},
             {share + u"dbus-1/services/"_s + id + u".service"_s,
-             {"Name="_L1 + id, "Exec="_L1 + prefix.filePath(u"bin/"_s + program)}},
+             {"Name="_L1 + id, "Exec=\""_L1 + prefix.filePath(u"bin/"_s + program) + u'"'}},
             {QStringLiteral(WZT_PACKAGING "/") + id + u".yml"_s,
              {"id: "_L1 + id, "command: "_L1 + program}},
         };
