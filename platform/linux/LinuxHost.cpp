@@ -42,13 +42,13 @@ LinuxHost::~LinuxHost() = default;
 
 bool LinuxHost::canOpenURL(const QString &url)
 {
-    return PortalLinks::areNeeded() ? PortalLinks::hasHandler(m_bus->connection(), url)
-                                    : Links::hasHandler(url);
+    return Links::hasHandler(url)
+        || (PortalLinks::areUsed() && PortalLinks::hasHandler(m_bus->connection(), url));
 }
 
 void LinuxHost::openURL(const QString &url)
 {
-    if (PortalLinks::areNeeded()) {
+    if (PortalLinks::areUsed() && !Links::hasHandler(url)) {
         PortalLinks::open(m_bus->connection(), url);
     } else {
         Links::open(url);

@@ -25,7 +25,7 @@ QDBusMessage portalCall(const QString &method, const QVariantList &arguments)
 
 } // namespace
 
-bool PortalLinks::areNeeded()
+bool PortalLinks::areUsed()
 {
     return QFile::exists(u"/.flatpak-info"_s) || qgetenv("GTK_USE_PORTAL").startsWith('1');
 }

@@ -9,8 +9,9 @@ class QString;
 /// desktop portal's documentation, org.freedesktop.portal.OpenURI. Main thread only.
 namespace PortalLinks {
 
-/// Whether this process runs in a sandbox, where no handler of the desktop is seen; by GIO's rule.
-[[nodiscard]] bool areNeeded();
+/// Whether links without a handler go to the portal: inside a sandbox, where no handler of the
+/// desktop is seen, and by the environment. The rule is GIO's.
+[[nodiscard]] bool areUsed();
 
 /// Whether an application of the desktop handles the scheme of `url`; false for a text without a
 /// scheme, and for a portal before version 5 of the interface. Waits for the portal for a second

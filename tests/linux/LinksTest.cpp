@@ -18,6 +18,7 @@ namespace {
 struct SandboxCase {
     const char *name;
     QString usePortal;
+    QString url;
     QString service;
     QVariant supported;
     bool isMute;
@@ -44,9 +45,12 @@ private Q_SLOTS:
         Files::write(home.filePath(u".local/share/applications/handler.desktop"_s),
                      "[Desktop Entry]\nType=Application\nName=Handler\nExec=sh "
                          + QFile::encodeName(home.path()) + "/handler %u\n");
+        Files::write(home.filePath(u".local/share/applications/true.desktop"_s),
+                     "[Desktop Entry]\nType=Application\nName=True\nExec=true %u\n");
         Files::write(home.filePath(u".config/mimeapps.list"_s),
                      "[Default Applications]\nx-scheme-handler/zbra=handler.desktop\n"
-                     "x-scheme-handler/cydia=handler.desktop\n");
+                     "x-scheme-handler/cydia=handler.desktop\n"
+                     "x-scheme-handler/own=true.desktop\n");
         QCOMPARE(::mkfifo(QFile::encodeName(m_gate.fileName()).constData(), 0600), 0);
         // Also opened for reading, so that writing never blocks and the end of the test opens the
         // gate.
@@ -83,26 +87,27 @@ private Q_SLOTS:
     void linksOfASandbox_data()
     {
         const QString portal = u"org.freedesktop.portal.Desktop"_s;
+        const QString url = u"Nobody://a b/%41#?x=É"_s;
         addCases<SandboxCase>({
-            {"supported", u"1"_s, portal, true, false, "handled\n", 2},
-            {"not supported", u"1"_s, portal, false, false, "unhandled\n", 2},
-            {"old portal", u"1"_s, portal, {}, false, "unhandled\n", 2},
-            {"dead portal", u"1"_s, portal, {}, true, "unhandled\n", 2},
-            {"no portal", u"1"_s, u"example.wzt-test.None"_s, true, false, "unhandled\n", 0},
-            {"no sandbox", {}, portal, true, false, "unhandled\n", 0},
+            {"supported", u"1"_s, url, portal, true, false, "handled\n", 2},
+            {"not supported", u"1"_s, url, portal, false, false, "unhandled\n", 2},
+            {"old portal", u"1"_s, url, portal, {}, false, "unhandled\n", 2},
+            {"dead portal", u"1"_s, url, portal, {}, true, "unhandled\n", 2},
+            {"no portal", u"1"_s, url, u"example.wzt-test.None"_s, true, false, "unhandled\n", 0},
+            {"handler inside", u"1"_s, u"own://x"_s, portal, false, false, "handled\n", 0},
+            {"no sandbox", {}, url, portal, true, false, "unhandled\n", 0},
         });
     }
 
-    // No handler of this machine counts for another process there.
+    // The other process asks the portal on this test's bus.
     void linksOfASandbox()
     {
-        const auto &[name, usePortal, service, supported, isMute, said, calls] =
+        const auto &[name, usePortal, url, service, supported, isMute, said, calls] =
             currentCase<SandboxCase>();
         FakeService portal(service, u"/org/freedesktop/portal/desktop"_s, supported);
         portal.isMute = isMute;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"GTK_USE_PORTAL"_s, usePortal);
-        const QString url = u"Nobody://a b/%41#?x=É"_s;
         QCOMPARE(runOtherProcess({u"--open"_s, url}, environment), said);
         for (QVariantList &call : portal.calls) {
             QCOMPARE(call.takeLast().value<QDBusArgument>().currentSignature(), u"a{sv}"_s);
