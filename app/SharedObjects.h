@@ -6,9 +6,9 @@
 #include "platform/foundation/url/NSURLSession.h"
 #include "platform/uikit/base/UIApplication.h"
 
-/// The application's shared objects: the URL session, the UIApplication and its delegate. They are
-/// made in this order and destroyed in the reverse order. A Qt application object must outlive
-/// them.
+/// The application's shared objects: the UIApplication, the URL session and the delegate, made in
+/// this order. The session ends first, then the delegate, then the UIApplication. A Qt application
+/// object must outlive them.
 class SharedObjects {
 public:
     struct Settings {

@@ -18,7 +18,7 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 }
 
 /// How many milliseconds `work` takes.
-template <class Work>
+template <typename Work>
 [[nodiscard]] double timed(const Work &work)
 {
     const auto start = std::chrono::steady_clock::now();

@@ -15,5 +15,5 @@ void measureFrames(const QStringList &arguments);
 void measureDecoding(const QStringList &arguments);
 /// What the application does while nothing happens.
 void measureIdle(const QStringList &arguments);
-/// A request over a connection that is there.
+/// A request over a connection of its own.
 void measureRequests(const QStringList &arguments);

@@ -6,7 +6,6 @@
 #include "harness/TestApp.h"
 #include "platform/foundation/storage/NSUserDefaults.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 

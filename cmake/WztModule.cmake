@@ -66,18 +66,14 @@ function(wzt_loadable target)
 endfunction()
 
 # A folder that draws: one static library that is one QML module as well.
-#   wzt_module(wzt_screens URI Screens SOURCES ... QML ... SINGLETONS ... ASSETS ...
-#              IMPORTS UIKit PUBLIC libs PRIVATE libs)
-# QML files are found at qrc:/qt/qml/<URI>/<file name>, assets at :/qt/qml/<URI>/<file name>.
+#   wzt_module(wzt_screens URI Screens SOURCES ... QML ... IMPORTS UIKit PUBLIC libs PRIVATE libs)
+# QML files are found at qrc:/qt/qml/<URI>/<file name>.
 function(wzt_module target)
-    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;ASSETS;IMPORTS;PUBLIC;PRIVATE" ${ARGN})
-    foreach(file IN LISTS ARG_QML ARG_SINGLETONS ARG_ASSETS)
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;IMPORTS;PUBLIC;PRIVATE" ${ARGN})
+    foreach(file IN LISTS ARG_QML)
         get_filename_component(name ${file} NAME)
         set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${name})
     endforeach()
-    if(ARG_SINGLETONS)
-        set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
-    endif()
     qt_add_library(${target} STATIC)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     # Nothing that Qt's tools write is looked at, so it is not worth compiling there.
@@ -94,8 +90,7 @@ function(wzt_module target)
         OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${ARG_URI}
         IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
         SOURCES ${ARG_SOURCES}
-        QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
-        RESOURCES ${ARG_ASSETS}
+        QML_FILES ${ARG_QML}
         ${without_cache})
     wzt_common(${target})
     # The generated type registration includes headers by their bare names.

@@ -15,14 +15,14 @@
 ///     void reads()
 ///     {
 ///         const auto &[name, text, number] = currentCase<Reading>();
-template <class Case>
+template <typename Case>
 std::vector<Case> &casesOf()
 {
     static std::vector<Case> cases;
     return cases;
 }
 
-template <class Case>
+template <typename Case>
 void addCases(std::vector<Case> cases)
 {
     QTest::addColumn<std::size_t>("index");
@@ -36,7 +36,7 @@ void addCases(std::vector<Case> cases)
     casesOf<Case>() = std::move(cases);
 }
 
-template <class Case>
+template <typename Case>
 const Case &currentCase()
 {
     QFETCH(const std::size_t, index);

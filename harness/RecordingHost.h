@@ -4,6 +4,8 @@
 
 #include "platform/uikit/base/Host.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 /// A machine that records requests and carries none of them out.
@@ -25,9 +27,4 @@ public:
     void openURL(const QString &url) override { openedURLs.append(url); }
     void impactOccurred(UIImpactFeedbackStyle) override { ++taps; }
     void observeAppearance(std::function<void(const DesktopAppearance &)>) override {}
-    [[nodiscard]] bool claimSingleInstance(const QStringList &,
-                                           std::function<void(const QStringList &)>) override
-    {
-        return true;
-    }
 };

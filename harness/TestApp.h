@@ -54,7 +54,7 @@ public:
     [[nodiscard]] UIApplication &application() { return m_shared->application(); }
     [[nodiscard]] AppDelegate &delegate() { return m_shared->delegate(); }
     /// The topmost controller of the window, alerts included; null when it is no `Controller`.
-    template <class Controller = UIViewController>
+    template <typename Controller = UIViewController>
     [[nodiscard]] Controller *top()
     {
         return qobject_cast<Controller *>(delegate().window()->presentation()->top());

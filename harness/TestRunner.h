@@ -28,7 +28,7 @@ void add(Maker make);
 /// Whether programs can be started: not on every release of QEMU's emulation of a processor.
 [[nodiscard]] bool startsPrograms();
 
-template <class Test>
+template <typename Test>
 struct Registration {
     Registration()
     {

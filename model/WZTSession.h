@@ -18,7 +18,8 @@ public:
     /// Nil while nobody is signed in.
     [[nodiscard]] virtual const std::optional<WZTUser> &currentUser() const = 0;
     /// Signs `user` in or replaces the record of the signed-in user, stores the record for the next
-    /// start and reloads both tabs.
+    /// start and reloads both tabs. A record that cannot be archived is only held in memory, and
+    /// nothing is reloaded.
     virtual void setCurrentUser(const WZTUser &user) = 0;
     /// Signs out: removes the record and presents Login.
     virtual void logout() = 0;

@@ -60,15 +60,15 @@ constexpr Oddity oddities[12] = {
     {},
     {u" في الوضع الداكن", u" التطبيق يتوقف عن العمل (الإصدار 2.1) بعد إعادة التشغيل."},
     {u" at com.example.AnExtraordinarilyLongClassNameThatNobodyWouldEverWriteByHandController",
-     u" /var/mobile/Library/Logs/CrashReporter/"
-     u"DiagnosticMessages_SpringBoard-2024-02-29-235959_with-no-blank-anywhere-in-its-whole-name-"
-     u"so-that-it-has-to-be-broken-somewhere.ips.synced"},
+     u" /var/device/storage/logs/crash-reports/"
+     u"DiagnosticMessages_HomeScreens-2024-02-29-235959_with-no-blank-anywhere-in-its-whole-name-"
+     u"so-that-it-has-to-be-broken-somewhere.txt.synced"},
     {},
     {u" and then again, but only sometimes, and never while anybody is looking at the screen, "
      u"which makes it rather hard to describe in a single line of text as I am asked to",
      u""},
     {},
-    {u" כשהמסך נעול", u" זה קורה גם ב־iOS 14 וגם ב־13.5."},
+    {u" כשהמסך נעול", u" זה קורה גם ב־App 14 וגם ב־13.5."},
     {},
     {u" „Größe“ → 12½ %", u" <b>not bold</b> &amp; \"quoted\" \\ %41 %@"},
     {u"", u" Η επανεκκίνηση δεν βοηθά. Συμβαίνει κάθε φορά που ανοίγω τις ρυθμίσεις."},

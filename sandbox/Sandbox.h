@@ -43,7 +43,7 @@ public:
         unsigned long long hashPasses = 2;
         /// Added to the machine's clock.
         std::chrono::seconds clockOffset{0};
-        /// Called with one line for each answered request: method, endpoint and status, but no
+        /// Called with one line for each answered request: method, endpoint and outcome, but no
         /// parameters. Called on threads of the service.
         std::function<void(const QString &)> log = {};
     };

@@ -119,7 +119,9 @@ Reply Service::answerTo(const Request &request) const
         log(request, QString::number(reply.status));
         return reply;
     } catch (...) {
-        return resultReply("Internal Server Error"_L1, 500);
+        const Reply reply = resultReply("Internal Server Error"_L1, 500);
+        log(request, QString::number(reply.status));
+        return reply;
     }
 }
 

@@ -12,7 +12,8 @@
 
 /// The client of the web service. Every operation starts one request on the shared URL session and
 /// returns at once. Its completion must not be empty; it runs exactly once, on the session's
-/// thread. Each operation has codes of its own: no code means success in all of them.
+/// thread (on the caller's, before the return, without a session). Each operation has codes of its
+/// own: no code means success in all of them.
 ///
 /// Passwords are digests (see SHA256). A digest of which the caller keeps no copy is overwritten
 /// when the request has been sent. An absent text is sent as a name without a value, an empty one

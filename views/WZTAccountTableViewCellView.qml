@@ -18,7 +18,6 @@ Item {
 
     UIViewView {
         id: card
-        objectName: "card"
         control: root.control.cardBackgroundView
         anchors { fill: parent; leftMargin: 16; rightMargin: 16 }
 

@@ -13,7 +13,6 @@ Item {
 
     UIImageViewView {
         id: logo
-        objectName: "logo"
         control: root.control.logoImageView
         anchors { top: parent.top; horizontalCenter: parent.horizontalCenter }
         width: 62

@@ -4,6 +4,8 @@
 
 #include "platform/uikit/base/Host.h"
 
+#include <QStringList>
+
 #include <chrono>
 #include <memory>
 
@@ -37,9 +39,14 @@ public:
     void openURL(const QString &url) override;
     void impactOccurred(UIImpactFeedbackStyle style) override;
     void observeAppearance(std::function<void(const DesktopAppearance &)> changed) override;
-    [[nodiscard]] bool
-    claimSingleInstance(const QStringList &urls,
-                        std::function<void(const QStringList &)> opened) override;
+    /// Claims to be the only instance on this session. If another one runs already, hands `urls`
+    /// to it (or asks it to come to the front when there are none) and returns false. Returns true
+    /// when this process is the one, and where there is no session bus or the other instance does
+    /// not answer. Waits for no longer than the remaining time.
+    /// `opened` is called for every list of URLs that a later start hands over, empty for a mere
+    /// activation.
+    [[nodiscard]] bool claimSingleInstance(const QStringList &urls,
+                                           std::function<void(const QStringList &)> opened);
     /// A later start of the application runs as an instance of its own.
     void releaseSingleInstance();
 

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] bool assignFirstResponderOnShow() const { return m_assignFirstResponderOnShow; }
     void setAssignFirstResponderOnShow(bool assign) { m_assignFirstResponderOnShow = assign; }
 
-    /// A section without rows is one all the same.
+    /// A section may have no rows.
     void addFormSection(std::shared_ptr<XLFormSectionDescriptor> section)
     {
         m_sections.push_back(std::move(section));

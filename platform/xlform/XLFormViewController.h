@@ -17,7 +17,7 @@ class XLFormViewController : public UITableViewController {
     Q_CLASSINFO("view", "XLForm/XLFormViewControllerView.qml")
 
 public:
-    /// The rows of `form` that nil stands for are those left empty.
+    /// The value of each row by its tag; nil for a row left empty.
     using Values = std::map<QString, std::optional<QString>>;
 
     explicit XLFormViewController(std::shared_ptr<XLFormDescriptor> form);
@@ -26,12 +26,12 @@ public:
     [[nodiscard]] XLFormDescriptor *form() const { return m_form.get(); }
     /// The tags of the required rows without a value, in the order of the rows.
     [[nodiscard]] QStringList formValidationErrors() const;
-    /// The value of every row by its tag; nil for a row left empty.
+    /// See Values.
     [[nodiscard]] Values formValues() const;
     /// The one cell of that row, made when it is first asked for.
     [[nodiscard]] std::shared_ptr<XLFormCell> cellOf(XLFormRowDescriptor &row);
 
-    /// As long as something is entered.
+    /// True while any row has a value.
     [[nodiscard]] bool isModalInPresentation() const override;
     void viewWillAppear(bool animated) override;
 

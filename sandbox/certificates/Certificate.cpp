@@ -88,8 +88,8 @@ std::optional<Certificate> make(const char *name, const Certificate *issuer, qin
     const bool isFilled = X509_set_version(x509, X509_VERSION_3) == 1 && setSerial(x509)
         && setName(x509, name)
         && X509_set_issuer_name(x509, X509_get_subject_name(signer.x509.get())) == 1
-        && ASN1_TIME_set(X509_getm_notBefore(x509), time_t(from))
-        && ASN1_TIME_set(X509_getm_notAfter(x509), time_t(until))
+        && ASN1_TIME_set(X509_getm_notBefore(x509), static_cast<time_t>(from))
+        && ASN1_TIME_set(X509_getm_notAfter(x509), static_cast<time_t>(until))
         && X509_set_pubkey(x509, made.key.get()) == 1
         && addExtensions(x509, signer.x509.get(), extensions);
     if (!isFilled || X509_sign(x509, signer.key.get(), EVP_sha256()) == 0) {
@@ -130,8 +130,8 @@ QByteArray Certificate::keyPem() const
 
 bool Certificate::isValid(const Certificate &issuer, qint64 now, qint64 until) const
 {
-    time_t begin = time_t(now);
-    time_t end = time_t(until);
+    auto begin = static_cast<time_t>(now);
+    auto end = static_cast<time_t>(until);
     return X509_cmp_time(X509_get0_notBefore(x509.get()), &begin) < 0
         && X509_cmp_time(X509_get0_notAfter(x509.get()), &end) > 0
         && X509_check_issued(issuer.x509.get(), x509.get()) == X509_V_OK

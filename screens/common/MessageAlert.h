@@ -32,7 +32,7 @@ void presentMessage(UIViewController &screen, MessageKind kind, const QString &t
 /// Presents the row of `messages` for `code`; nothing if there is none.
 void presentMessage(UIViewController &screen, std::span<const Message> messages, NSUInteger code);
 
-/// The two message alerts of every screen; `Screen` is the screen's own class.
+/// The message alerts of Home, Login and Account; `Screen` is the screen's own class.
 template <typename Screen>
 class MessageAlerts {
 public:

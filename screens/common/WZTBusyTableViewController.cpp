@@ -15,7 +15,6 @@ void WZTBusyTableViewController::viewDidLoad()
 {
     UITableViewController::viewDidLoad();
     view()->setBackgroundColor(AdaptiveColors::screenBackground());
-    m_activityIndicator.setActivityIndicatorViewStyle(UIActivityIndicatorView::Style::Gray);
     m_activityIndicator.setHidesWhenStopped(true);
     view()->addSubview(m_activityIndicator);
 }

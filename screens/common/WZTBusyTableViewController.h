@@ -22,5 +22,5 @@ public:
     [[nodiscard]] UIActivityIndicatorView *activityIndicator() { return &m_activityIndicator; }
 
 private:
-    UIActivityIndicatorView m_activityIndicator;
+    UIActivityIndicatorView m_activityIndicator{UIActivityIndicatorView::Style::Gray};
 };

@@ -27,7 +27,6 @@ void WZTLoginViewController::viewDidLoad()
     m_logoImageView.setLayer({.masksToBounds = true});
     buildForm();
     buildButtons();
-    m_activityIndicator.setActivityIndicatorViewStyle(UIActivityIndicatorView::Style::Gray);
     m_activityIndicator.setHidesWhenStopped(true);
     view()->addGestureRecognizer(
         std::make_shared<UITapGestureRecognizer>(this, &WZTLoginViewController::handleSingleTap));

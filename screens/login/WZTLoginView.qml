@@ -21,7 +21,6 @@ UIViewView {
 
         UIImageViewView {
             id: logo
-            objectName: "logo"
             control: root.controller.logoImageView
             anchors { top: parent.top; topMargin: 28; horizontalCenter: parent.horizontalCenter }
             width: 62
@@ -30,14 +29,12 @@ UIViewView {
 
         UIViewView {
             id: card
-            objectName: "card"
             control: root.controller.formContainer
             anchors { top: logo.bottom; topMargin: 24; left: parent.left; leftMargin: 20; right: parent.right; rightMargin: 20 }
             height: loginButton.y + loginButton.height + 20
 
             UILabelView {
                 id: header
-                objectName: "header"
                 control: root.controller.headerLabel
                 anchors { top: parent.top; topMargin: 14; left: parent.left; leftMargin: 14 }
                 width: Math.min(implicitWidth, card.width - 14 - 10)
@@ -46,7 +43,6 @@ UIViewView {
 
             UITextFieldView {
                 id: email
-                objectName: "email"
                 control: root.controller.emailTextField
                 anchors { top: header.bottom; topMargin: 14; left: parent.left; leftMargin: 14; right: parent.right; rightMargin: 14 }
                 height: 36
@@ -54,7 +50,6 @@ UIViewView {
 
             UITextFieldView {
                 id: password
-                objectName: "password"
                 control: root.controller.passwordTextField
                 anchors { top: email.bottom; topMargin: 14; left: email.left; right: email.right }
                 height: 36
@@ -62,14 +57,11 @@ UIViewView {
 
             UIButtonView {
                 id: loginButton
-                objectName: "login"
                 control: root.controller.loginButton
                 anchors { top: password.bottom; topMargin: 20; right: parent.right; rightMargin: 20 }
             }
 
             UIButtonView {
-                id: forgot
-                objectName: "forgot"
                 control: root.controller.forgotPasswordButton
                 anchors { top: loginButton.top; bottom: loginButton.bottom; left: parent.left; leftMargin: 20 }
                 width: Math.min(implicitWidth, card.width - 20 - 10, card.width - 20 - 20 - loginButton.width - 10)
@@ -78,7 +70,6 @@ UIViewView {
 
         UIButtonView {
             id: register
-            objectName: "register"
             control: root.controller.registerButton
             anchors { top: card.bottom; topMargin: 20; horizontalCenter: parent.horizontalCenter }
             width: Math.min(implicitWidth, page.width - 2 * Metrics.margin)
@@ -86,7 +77,6 @@ UIViewView {
 
         UIActivityIndicatorViewView {
             id: indicator
-            objectName: "indicator"
             control: root.controller.activityIndicator
             anchors { top: register.bottom; topMargin: 20; horizontalCenter: parent.horizontalCenter }
         }

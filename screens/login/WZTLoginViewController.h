@@ -81,7 +81,7 @@ private:
     void requestAccount(const UIAlertController &alert);
     void finishSignIn(const std::optional<WZTUser> &user);
 
-    UIActivityIndicatorView m_activityIndicator;
+    UIActivityIndicatorView m_activityIndicator{UIActivityIndicatorView::Style::Gray};
     UIButton m_forgotPasswordButton;
     UIButton m_loginButton;
     UIButton m_registerButton;

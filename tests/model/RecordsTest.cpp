@@ -37,7 +37,7 @@ QJsonObject reply(const char *whole, const QByteArray &changes)
     return params;
 }
 
-template <class Record>
+template <typename Record>
 Values archived(const Record &record)
 {
     NSCoder coder;
@@ -45,7 +45,7 @@ Values archived(const Record &record)
     return coder.values();
 }
 
-template <class Record>
+template <typename Record>
 Record unarchived(const Values &values)
 {
     NSCoder coder;

@@ -131,19 +131,23 @@ private Q_SLOTS:
 
     void exceptionsFailOnlyTheirRequest()
     {
-        std::atomic<bool> throws = false;
-        Sandbox service(Sandbox::Options{.log = [&](const QString &) {
-            if (throws) {
+        std::atomic<int> exceptions = 0; // still to be thrown
+        std::atomic<bool> isLogged = false;
+        Sandbox service(Sandbox::Options{.log = [&](const QString &line) {
+            if (exceptions-- > 0) {
                 throw std::runtime_error("no room");
             }
+            isLogged = line == u"GET /user.php: 500"_s;
         }});
         Client client(service.port(), service.caFile());
-        throws = true;
+        exceptions = 1;
         QCOMPARE(client.get("/user.php").status, 500);
+        QVERIFY(isLogged);
         service.stage("/user.php", sandbox::Fault::json("{}"), -1);
+        exceptions = 9; // the client may ask again
         QVERIFY(client.get("/user.php").error != 0);
         service.clear();
-        throws = false;
+        exceptions = 0;
         QCOMPARE(client.get("/user.php").status, 400);
     }
 

@@ -22,7 +22,7 @@ struct AccountStage : ScreenStage {
     }
 
     [[nodiscard]] UITableView *table() { return delegate().userVC()->tableView(); }
-    template <class Cell>
+    template <typename Cell>
     [[nodiscard]] Cell &cell(int entry)
     {
         const auto shown = table()->entries()->index(entry).data(TableEntries::CellRole);

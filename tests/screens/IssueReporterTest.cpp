@@ -34,7 +34,7 @@ struct ReporterStage : TestApp {
         delegate().tabController()->presentViewController(make<UINavigationController>(form),
                                                           false);
     }
-    template <class Cell>
+    template <typename Cell>
     [[nodiscard]] Cell &cell(std::size_t section)
     {
         const auto &row = form->form()->formSections().at(section)->formRows().at(0);

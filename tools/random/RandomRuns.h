@@ -7,11 +7,9 @@
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QStringList>
 #include <QTest>
 
 #include <functional>
-#include <span>
 
 /// Runs of random use, each of a seed of its own: as many as are asked for, from seed 1 on. With
 /// WZT_RANDOM_SECONDS they go on for that long, with WZT_RANDOM_SEED they begin there.
@@ -43,7 +41,7 @@ public:
     int between(int first, int last) { return m_generator.bounded(first, last + 1); }
     /// One time in `times`.
     bool once(int times) { return below(times) == 0; }
-    template <class List>
+    template <typename List>
     const auto &oneOf(const List &list)
     {
         return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];

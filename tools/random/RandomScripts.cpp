@@ -12,6 +12,9 @@
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <QStringList>
+
+#include <span>
 
 using namespace Qt::StringLiterals;
 

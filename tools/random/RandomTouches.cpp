@@ -9,6 +9,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QStringList>
+
+#include <span>
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,6 @@
 
 #include "sandbox/faults/Fault.h"
 
-#include <QList>
 #include <QString>
 
 #include <optional>

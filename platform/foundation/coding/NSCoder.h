@@ -30,7 +30,7 @@ public:
 
     /// A text, or the decimal text of a number.
     [[nodiscard]] std::optional<QString> decodeStringForKey(const QString &key) const;
-    /// The intValue of a number or a text; see NumberReading.h.
+    /// The intValue of a number or a text (see NumberReading.h); 1 for true.
     [[nodiscard]] int decodeIntForKey(const QString &key) const;
     [[nodiscard]] std::optional<NSDate> decodeDateForKey(const QString &key) const;
     /// True for true and for a number other than 0.

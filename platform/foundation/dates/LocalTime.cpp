@@ -12,7 +12,7 @@ constexpr qint64 secondsPerDay = 24LL * 60 * 60;
 /// Seconds by which local time is ahead of UTC.
 std::optional<qint64> offsetAt(qint64 utc)
 {
-    const auto time = time_t(utc);
+    const auto time = static_cast<time_t>(utc);
     struct tm fields = {};
     return localtime_r(&time, &fields) ? std::optional(static_cast<qint64>(fields.tm_gmtoff))
                                        : std::nullopt;

@@ -32,7 +32,7 @@ public:
     /// False if bytes are missing at the end of a gzip body. Always true for a plain one.
     [[nodiscard]] bool isComplete() const { return !m_inflater || m_isComplete; }
 
-    /// What was decoded, which is not kept.
+    /// Hands over the decoded bytes; a second call returns none.
     [[nodiscard]] QByteArray takeDecoded() { return std::exchange(m_decoded, {}); }
 
 private:

@@ -187,6 +187,7 @@ std::optional<URLErrorCode> HTTPTransfer::redirect(const NSMutableURLRequest &ne
     }
     m_requests.push_back(next);
     m_body = HTTPBody(m_maximumBodyLength);
+    m_headLength = 0;
     m_hasHead = false;
     m_connectTime = 0;
     m_lastActivity = Clock::now();

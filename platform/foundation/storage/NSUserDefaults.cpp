@@ -40,13 +40,13 @@ std::optional<PropertyList> readForChange(const DefaultsFile &file, const Defaul
     return values;
 }
 
-/// Reads the data back before it replaces the file.
+/// Decodes the data again before it replaces the file.
 bool write(const DefaultsFile &file, const DefaultsFile::Lock &lock, const PropertyList &values,
            const QString &key)
 {
     const QByteArray content = values.toData();
-    const std::optional<PropertyList> readBack = PropertyList::fromData(content);
-    return readBack && readBack->item(key).data() == values.item(key).data()
+    const std::optional<PropertyList> decoded = PropertyList::fromData(content);
+    return decoded && decoded->item(key).data() == values.item(key).data()
         && file.write(lock, content);
 }
 

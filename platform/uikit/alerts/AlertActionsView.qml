@@ -20,6 +20,7 @@ Item {
         && controller.actions[0].style === UIAlertAction.Cancel ? 1 : 0
     readonly property real actionHeight: Math.max(Metrics.row, Math.ceil(metrics.height) + Metrics.buttonPadding)
 
+    // A binding hands over the font, and so follows it.
     function fits(title: string, font: font): bool {
         return metrics.advanceWidth(title) <= titleRoom
     }

@@ -11,7 +11,7 @@
 /// An alert: title, message, text fields one below the other, and actions. Any action dismisses
 /// it, animated; the action's handler runs when the alert has gone, and not at all when the alert
 /// is taken away otherwise. A handler must not hold its own alert strongly. The text of secure
-/// fields is overwritten after that.
+/// fields is overwritten after the handler.
 class UIAlertController : public UIViewController {
     Q_OBJECT
     QML_ELEMENT

@@ -19,7 +19,6 @@ FocusScope {
     Keys.onEnterPressed: controller.triggerDefault()
 
     Rectangle {
-        id: card
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.round(Metrics.margin + (root.room - height) / 2)
         width: Math.min(Metrics.alertWidth, root.width - 2 * Metrics.margin)

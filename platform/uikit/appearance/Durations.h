@@ -29,7 +29,8 @@ public:
     /// A button that a finger has left.
     static constexpr int release = 250;
     static constexpr int deselection = 350;
-    /// Until a finger on a page that scrolls presses; one that comes to scroll has moved by then.
+    /// How long a finger rests on a scrolling page before it presses; a finger that scrolls has
+    /// moved by then.
     static constexpr int press = 100;
     /// A finger that rests for so long has no speed.
     static constexpr int fingerRest = 100;

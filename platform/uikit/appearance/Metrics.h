@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// Lengths that everything drawn shares, in points.
+/// Lengths, in points, and other measures that everything drawn shares.
 class Metrics : public QObject {
     Q_OBJECT
     QML_ELEMENT

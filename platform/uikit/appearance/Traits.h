@@ -23,7 +23,6 @@ class Traits : public QObject {
     Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed FINAL)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft NOTIFY changed FINAL)
-    Q_PROPERTY(double displayScale READ displayScale NOTIFY changed FINAL)
 
 public:
     /// The application's traits from now on, until they are destroyed. There is one object at a

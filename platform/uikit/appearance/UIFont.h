@@ -21,9 +21,6 @@ public:
     [[nodiscard]] static UIFont systemFontOfSize(double points,
                                                  QFont::Weight weight = QFont::Normal);
 
-    [[nodiscard]] double pointSize() const { return m_pointSize; }
-    [[nodiscard]] QFont::Weight weight() const { return m_weight; }
-
     /// The font for Qt: one point is one pixel at a text scale of 1.
     Q_INVOKABLE [[nodiscard]] QFont toQFont(double textScale) const;
 

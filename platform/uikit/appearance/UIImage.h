@@ -16,7 +16,7 @@ class UIImage {
 public:
     UIImage() = default;
 
-    /// The picture of that name; no picture when the build has none of it.
+    /// The picture of that name; no picture if the build has none of that name.
     [[nodiscard]] static UIImage imageNamed(const QString &name);
 
     [[nodiscard]] QString name() const { return m_name; }

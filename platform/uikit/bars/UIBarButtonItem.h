@@ -30,17 +30,15 @@ public:
         m_systemItem = item;
     }
     template <typename Target, typename Method>
-    UIBarButtonItem(const QString &title, UIBarButtonItemStyle style, Target *target, Method action)
+    UIBarButtonItem(const QString &title, UIBarButtonItemStyle, Target *target, Method action)
         : m_title(title),
-          m_style(style),
           m_action(
               std::make_unique<const MethodAction<UIBarButtonItem, Target, Method>>(target, action))
     {
     }
 
-    /// The text that is drawn, or the name for screen readers of one drawn as a picture.
+    /// The drawn text; for a button drawn as a picture, its name for screen readers.
     [[nodiscard]] QString title() const { return m_title; }
-    [[nodiscard]] UIBarButtonItemStyle style() const { return m_style; }
     [[nodiscard]] bool isSystemItem(UIBarButtonSystemItem item) const
     {
         return m_systemItem == item;
@@ -54,7 +52,6 @@ private:
     [[nodiscard]] static QString titleOf(UIBarButtonSystemItem item);
 
     QString m_title;
-    UIBarButtonItemStyle m_style;
     std::optional<UIBarButtonSystemItem> m_systemItem;
     std::unique_ptr<const TargetAction<UIBarButtonItem>> m_action;
 };

@@ -30,7 +30,7 @@ public:
     Q_INVOKABLE void choose(int index);
 
 Q_SIGNALS:
-    /// Apart from `changed`, or every selection would draw all the items anew.
+    /// Separate from `changed`; otherwise every selection would draw all items again.
     void itemsChanged();
     void itemChosen(int index);
 

@@ -38,8 +38,6 @@ FocusScope {
             model: root.control.items
 
             UITabBarItemView {
-                id: tab
-
                 required property UITabBarItem modelData
                 required property int index
 

@@ -5,15 +5,14 @@
 #include "platform/uikit/appearance/DesktopAppearance.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 
 enum class UIImpactFeedbackStyle { Light = 0 };
 
 /// The one port to the machine: the services of the system that the application needs beside a
-/// window.
-/// Every call and every callback is on the main thread, and no call waits long for another process.
+/// window. Every call and every callback is on the main thread; no call waits for another process
+/// longer than a second.
 class Host {
 public:
     virtual ~Host() = default;
@@ -31,13 +30,4 @@ public:
     /// Calls `changed` with the desktop's appearance once it is known and after each change.
     /// Not called at all on a desktop that tells nothing. Replaces an earlier callback.
     virtual void observeAppearance(std::function<void(const DesktopAppearance &)> changed) = 0;
-
-    /// Claims to be the only instance on this session. If another one runs already, hands `urls`
-    /// to it (or asks it to come to the front when there are none) and returns false.
-    /// Returns true when this process is the one, and where there is no session bus.
-    /// `opened` is called for every list of URLs that a later start hands over, empty for
-    /// a mere activation.
-    [[nodiscard]] virtual bool
-    claimSingleInstance(const QStringList &urls,
-                        std::function<void(const QStringList &)> opened) = 0;
 };

@@ -56,7 +56,7 @@ public:
     void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
     [[nodiscard]] bool recognizesTaps() const { return !m_recognizers.empty(); }
     /// Runs the view's tap recognisers; for the drawing of the view.
-    Q_INVOKABLE void tapped();
+    void tapped();
 
 Q_SIGNALS:
     /// Some property of the view changed.

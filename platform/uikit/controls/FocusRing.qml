@@ -5,8 +5,6 @@ import UIKit
 
 /// Shows around its parent that it has the keyboard.
 Rectangle {
-    id: root
-
     required property bool shown
 
     anchors.fill: parent

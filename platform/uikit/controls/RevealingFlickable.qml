@@ -4,8 +4,6 @@ import QtQuick
 
 /// Scrolls, where it is not high enough, to the item in it that has the keyboard.
 Flickable {
-    id: root
-
     readonly property Item focused: Window.activeFocusItem
 
     function reveal() {

@@ -15,11 +15,9 @@ class UIActivityIndicatorView : public UIView {
 public:
     enum class Style { Gray = 2 };
 
-    [[nodiscard]] Style activityIndicatorViewStyle() const { return m_style; }
-    void setActivityIndicatorViewStyle(Style style) { m_style = style; }
+    explicit UIActivityIndicatorView(Style = Style::Gray) {}
 
     /// True unless set: while stopped the spinner is not shown at all.
-    [[nodiscard]] bool hidesWhenStopped() const { return m_hidesWhenStopped; }
     void setHidesWhenStopped(bool hides) { assign(m_hidesWhenStopped, hides); }
 
     [[nodiscard]] bool isAnimating() const { return m_animating; }
@@ -29,7 +27,6 @@ public:
     [[nodiscard]] bool isHidden() const { return m_hidesWhenStopped && !m_animating; }
 
 private:
-    Style m_style = Style::Gray;
     bool m_hidesWhenStopped = true;
     bool m_animating = false;
 };

@@ -5,8 +5,6 @@ import UIKit
 
 /// A grey spinner.
 Spinner {
-    id: root
-
     required property UIActivityIndicatorView control
 
     visible: !control.hidden

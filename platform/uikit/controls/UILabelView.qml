@@ -5,8 +5,6 @@ import UIKit
 
 /// Text on as many lines as the label may have; without text it takes no height.
 Text {
-    id: root
-
     required property UILabel control
     /// The lines at most; 0 for as many as the text needs.
     property int lines: control.numberOfLines

@@ -7,9 +7,9 @@
 class QKeyEvent;
 class QWindow;
 
-/// Ignores the repeats of a held key that another item was pressed for, and all repeats of Return
-/// and Escape, which would go through one alert after another. In text of several lines Return
-/// repeats.
+/// Ignores the repeats of a held key whose press did not come through this window, because a menu
+/// took it for instance, and all repeats of Return, Escape and Back, which would go through one
+/// alert after another. In text of several lines Return repeats.
 class KeyRepeatFilter : public QObject {
     Q_OBJECT
 

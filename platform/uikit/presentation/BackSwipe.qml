@@ -62,7 +62,7 @@ Item {
         target: null
         yAxis.enabled: false
         enabled: root.possible
-        dragThreshold: along ? root.pages.width : 10 // which is out of reach
+        dragThreshold: along ? root.pages.width : 10 // along the edge: a distance that no drag reaches
         onCentroidChanged: {
             const x = Math.abs(centroid.scenePosition.x - centroid.scenePressPosition.x)
             const y = Math.abs(centroid.scenePosition.y - centroid.scenePressPosition.y)

@@ -5,8 +5,6 @@ import UIKit
 
 /// The drawing of a controller: loaded when it is first wanted, and kept from then on.
 Loader {
-    id: root
-
     required property UIViewController controller
     required property bool wanted
 

@@ -10,10 +10,10 @@ class UIWindow;
 
 /// The window on the desktop that draws a UIWindow: 390x844 at first, or as much of that as
 /// the screen has room for, freely resizable from 320x568 up. Ctrl+Q and closing it end the
-/// application's main loop. Which renderer draws it is left to Qt and to the environment.
+/// application's main loop.
 class DesktopWindow {
 public:
-    /// `window` outlives the host. `iconFile`: the SVG file of the icon, empty for none.
+    /// `window` outlives this object. `iconFile`: the SVG file of the icon, empty for none.
     DesktopWindow(UIWindow &window, const QString &title, const QString &iconFile);
     ~DesktopWindow();
 

@@ -90,7 +90,6 @@ FocusScope {
         }
     }
     Rectangle {
-        id: dimming
         anchors.fill: parent
         visible: root.overlay
         color: Theme.dimmingColor

@@ -51,7 +51,7 @@ public:
     /// Whenever the controller is shown, when the transition has ended.
     virtual void viewDidAppear(bool animated);
     /// Once the controller has gone from where it was presented or pushed, when the transition has
-    /// ended and its completion has run.
+    /// ended. A completion that belongs to it alone has run by then.
     virtual void viewDidLeave();
 
     /// True if the user must not dismiss the presented controller by a gesture.

@@ -56,7 +56,7 @@ public:
 
     /// The next entry after `entry`, or before it for a `step` of -1, that is a row; -1
     /// where there is none.
-    Q_INVOKABLE [[nodiscard]] int adjacentRow(int entry, int step) const;
+    [[nodiscard]] int adjacentRow(int entry, int step) const;
 
     [[nodiscard]] int count() const;
 

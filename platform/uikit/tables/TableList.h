@@ -33,7 +33,6 @@ public:
     void setContentY(double y) { m_view->setProperty("contentY", y); }
     /// Where the contents begin, which moves while heights are estimated.
     [[nodiscard]] double originY() const { return number("originY"); }
-    [[nodiscard]] double bottomMargin() const { return number("bottomMargin"); }
 
     void show(int entry, Position position);
     void showBeginning() { QMetaObject::invokeMethod(m_view, "positionViewAtBeginning"); }

@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t pooledCells = 64;
 } // namespace
 
-UITableView::UITableView(UITableViewStyle style) : m_style(style), m_entries(*this)
+UITableView::UITableView(UITableViewStyle) : m_entries(*this)
 {
     setBackgroundColor(UIColor::systemGroupedBackgroundColor());
 }

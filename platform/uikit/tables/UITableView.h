@@ -29,8 +29,6 @@ public:
     explicit UITableView(UITableViewStyle style);
     ~UITableView() override;
 
-    [[nodiscard]] UITableViewStyle style() const { return m_style; }
-
     void setSeparatorStyle(UITableViewCellSeparatorStyle style) { assign(m_separatorStyle, style); }
     [[nodiscard]] bool drawsSeparators() const;
 
@@ -91,7 +89,6 @@ private:
 
     [[nodiscard]] std::shared_ptr<UITableViewCell> dequeue(const QString &identifier);
 
-    UITableViewStyle m_style;
     UITableViewCellSeparatorStyle m_separatorStyle = UITableViewCellSeparatorStyle::SingleLine;
     UITableViewDataSource *m_dataSource = nullptr;
     UITableViewDelegate *m_delegate = nullptr;

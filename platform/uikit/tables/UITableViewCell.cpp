@@ -4,8 +4,8 @@
 
 #include "platform/uikit/base/ViewUrl.h"
 
-UITableViewCell::UITableViewCell(UITableViewCellStyle style, const QString &reuseIdentifier)
-    : m_style(style), m_reuseIdentifier(reuseIdentifier)
+UITableViewCell::UITableViewCell(UITableViewCellStyle, const QString &reuseIdentifier)
+    : m_reuseIdentifier(reuseIdentifier)
 {
     setBackgroundColor(UIColor::secondarySystemGroupedBackgroundColor());
     m_detailTextLabel.setFont(UIFont::preferredFontForTextStyle(UIFontTextStyle::Caption));

@@ -7,7 +7,8 @@
 
 #include <QUrl>
 
-/// How a cell is laid out. `Default`: an optional image, then text. `Subtitle`: smaller text below.
+/// The platform's names. Cells of both styles are drawn alike: an optional image, then text, and
+/// smaller text below it once there is one.
 enum class UITableViewCellStyle { Default = 0, Subtitle = 3 };
 /// Whether a cell shows that it is pressed or selected.
 enum class UITableViewCellSelectionStyle { None, Default };
@@ -36,14 +37,13 @@ public:
                              const QString &reuseIdentifier = {});
     ~UITableViewCell() override;
 
-    [[nodiscard]] UITableViewCellStyle style() const { return m_style; }
     [[nodiscard]] QString reuseIdentifier() const { return m_reuseIdentifier; }
     /// Where the file named by Q_CLASSINFO lies.
     [[nodiscard]] QUrl viewUrl() const;
 
     [[nodiscard]] UIView *contentView() { return &m_contentView; }
     [[nodiscard]] UILabel *textLabel() { return &m_textLabel; }
-    /// Only a cell of the style `Subtitle` has a use for it.
+    /// Drawn once it has a text.
     [[nodiscard]] UILabel *detailTextLabel() { return &m_detailTextLabel; }
     /// Drawn once it has an image.
     [[nodiscard]] UIImageView *imageView() { return &m_imageView; }
@@ -73,7 +73,6 @@ public:
     [[nodiscard]] QString accessibilityLabel() const override;
 
 private:
-    UITableViewCellStyle m_style;
     QString m_reuseIdentifier;
     UIView m_contentView;
     UILabel m_textLabel;

@@ -5,8 +5,6 @@ import UIKit
 
 /// A screen that is a table and nothing else.
 UITableViewView {
-    id: root
-
     required property UITableViewController controller
 
     control: controller.tableView

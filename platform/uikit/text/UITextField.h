@@ -31,8 +31,8 @@ public:
     [[nodiscard]] std::optional<QString> text() const { return m_text; }
     /// Sets the text without sending EditingChanged.
     void setText(const std::optional<QString> &text);
-    /// Empties the field and overwrites its text, for no secret is to outlive its use. Secure text
-    /// is overwritten whenever it is replaced, too.
+    /// Empties the field and overwrites its text, so that no secret outlives its use. Secure text
+    /// is also overwritten whenever it is replaced.
     void erase();
 
     [[nodiscard]] QString placeholder() const { return m_placeholder; }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "platform/uikit/base/UIView.h"
-#include "platform/uikit/text/UITextInputTraits.h"
 
 /// Text of several lines to edit; as high as the text, or the placeholder while there is none.
 class UITextView : public UIView {
@@ -12,7 +11,7 @@ class UITextView : public UIView {
     QML_UNCREATABLE("made by a screen")
     Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
     Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY changed FINAL)
-    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints NOTIFY changed FINAL)
+    Q_PROPERTY(Qt::InputMethodHints inputMethodHints READ inputMethodHints CONSTANT FINAL)
 
 public:
     /// Lines are ended by "\n".
@@ -23,12 +22,7 @@ public:
     [[nodiscard]] QString placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString &placeholder) { assign(m_placeholder, placeholder); }
 
-    [[nodiscard]] UITextInputTraits inputTraits() const { return m_traits; }
-    void setInputTraits(const UITextInputTraits &traits) { assign(m_traits, traits); }
-    [[nodiscard]] Qt::InputMethodHints inputMethodHints() const
-    {
-        return m_traits.inputMethodHints() | Qt::ImhMultiLine;
-    }
+    [[nodiscard]] static Qt::InputMethodHints inputMethodHints() { return Qt::ImhMultiLine; }
 
     [[nodiscard]] bool canBecomeFirstResponder() const override { return true; }
     /// The label set, or else the placeholder; never the text.
@@ -44,5 +38,4 @@ Q_SIGNALS:
 private:
     QString m_text;
     QString m_placeholder;
-    UITextInputTraits m_traits;
 };
