@@ -16,6 +16,7 @@ TestSession::TestSession()
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
     const QByteArray address = "unix:path=" + QFile::encodeName(runtime) + "/bus";
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    qunsetenv("GTK_USE_PORTAL");
 }
 
 std::unique_ptr<TestProcess> TestSession::startBus() const

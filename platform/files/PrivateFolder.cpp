@@ -27,7 +27,7 @@ bool writeAll(int descriptor, const QByteArray &content)
         if (length < 0 && errno != EINTR) {
             return false;
         }
-        done += std::max(length, static_cast<ssize_t>(0));
+        done += std::max<ssize_t>(length, 0);
     }
     return true;
 }

@@ -7,11 +7,15 @@
 #include "platform/linux/DesktopSettings.h"
 #include "platform/linux/HapticFeedback.h"
 #include "platform/linux/Links.h"
+#include "platform/linux/PortalLinks.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/TextScale.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <malloc.h>
 
@@ -38,12 +42,17 @@ LinuxHost::~LinuxHost() = default;
 
 bool LinuxHost::canOpenURL(const QString &url)
 {
-    return Links::hasHandler(url);
+    return Links::hasHandler(url)
+        || (PortalLinks::areUsed() && PortalLinks::hasHandler(m_bus->connection(), url));
 }
 
 void LinuxHost::openURL(const QString &url)
 {
-    Links::open(url);
+    if (PortalLinks::areUsed() && !Links::hasHandler(url)) {
+        PortalLinks::open(m_bus->connection(), url);
+    } else {
+        Links::open(url);
+    }
 }
 
 void LinuxHost::impactOccurred(UIImpactFeedbackStyle /*style*/)
@@ -59,6 +68,11 @@ void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)>
         m_palette = std::make_unique<DesktopPalette>([this] { reportAppearance(); });
         m_settings =
             std::make_unique<DesktopSettings>(m_bus->connection(), [this] { reportAppearance(); });
+        // Its geometry in points changes with the pixel ratio.
+        if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+            QObject::connect(screen, &QScreen::geometryChanged, m_palette.get(),
+                             [this] { reportAppearance(); });
+        }
     }
     reportAppearance();
 }
@@ -69,6 +83,7 @@ void LinuxHost::reportAppearance()
     if (appearance.style == UIUserInterfaceStyle::Unspecified) {
         appearance.style = m_palette->style();
     }
+    appearance.textScale = TextScale::remaining(appearance.textScale);
     if (appearance == m_reportedAppearance) {
         return;
     }

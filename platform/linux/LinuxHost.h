@@ -14,16 +14,18 @@ class DesktopSettings;
 class SessionBus;
 class SingleInstance;
 
-/// The port to a Linux phone or desktop: links through the desktop's scheme handlers; haptics,
-/// appearance and the single instance over the session bus. Features that the machine lacks do
-/// nothing. Made after the application object, destroyed before it; main thread only.
+/// The port to a Linux phone or desktop: links through the desktop's scheme handlers, or in a
+/// sandbox through its portal; haptics, appearance and the single instance over the session bus.
+/// Features that the machine lacks do nothing. Made after the application object, destroyed before
+/// it; main thread only.
 class LinuxHost final : public Host {
 public:
     /// The total time that a start waits for the desktop.
     static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
 
     /// Disables a session bus that does not answer, which would delay the plugins of the
-    /// application object. Call it before that object is made. Returns the rest of `startTimeout`.
+    /// application object, and the start of one where none is running. Call it before that object
+    /// is made. Returns the rest of `startTimeout`.
     [[nodiscard]] static std::chrono::milliseconds prepare();
 
     /// `applicationId`: the application's reverse-DNS name on the desktop. `remainingTime`: the

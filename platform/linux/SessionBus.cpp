@@ -22,8 +22,8 @@ bool isOwnSocket(const QByteArray &path)
         && status.st_uid == ::getuid();
 }
 
-// The address of a running bus: from the environment, or the socket in the runtime folder. The bus
-// libraries would also start a new one.
+// The address of a running bus: from the environment, or the socket in the runtime folder. Empty
+// if none is known.
 QByteArray knownAddress()
 {
     const QByteArray address = qgetenv(addressVariable);
@@ -35,23 +35,6 @@ QByteArray knownAddress()
     return !folder.isEmpty() && isOwnSocket(path) ? "unix:path=" + path : QByteArray();
 }
 
-// Otherwise other libraries of this process (GIO when it launches a handler) would wait for a bus
-// that does not answer, or start a new one.
-void disable()
-{
-    qputenv(addressVariable, "disabled:");
-}
-
-QDBusConnection connectToSession()
-{
-    const QString name = u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    if (!knownAddress().isEmpty()) {
-        return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    }
-    disable();
-    return QDBusConnection(name);
-}
-
 } // namespace
 
 bool SessionBus::isDisabled()
@@ -59,16 +42,24 @@ bool SessionBus::isDisabled()
     return qgetenv(addressVariable) == "disabled:";
 }
 
+// The libraries of this process would wait for a bus that does not answer, and start one where none
+// is running.
 bool SessionBus::probe(QDeadlineTimer deadline)
 {
-    const bool alive = busAnswers(knownAddress(), deadline);
-    if (!alive) {
-        disable();
+    const QByteArray address = knownAddress();
+    const bool alive = busAnswers(address, deadline);
+    if (!alive || address.isEmpty()) {
+        qputenv(addressVariable, "disabled:");
     }
     return alive;
 }
 
-SessionBus::SessionBus() : m_connection(connectToSession()) {}
+SessionBus::SessionBus()
+    : m_connection(QDBusConnection::connectToBus(
+        QDBusConnection::SessionBus,
+        u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces)))
+{
+}
 
 SessionBus::~SessionBus()
 {

@@ -9,8 +9,9 @@
 /// objects. Without a bus it is a closed connection, whose calls fail at once and silently.
 class SessionBus {
 public:
-    /// Whether the session bus answers until `deadline`; otherwise disables it for this process.
-    /// Call it before the application object is made, whose plugins would wait much longer.
+    /// False if there is a session bus that does not answer until `deadline`. Disables that one for
+    /// this process, or the start of a new one where there is none. Call it first, before the
+    /// application object is made, whose plugins would wait much longer.
     static bool probe(QDeadlineTimer deadline);
 
     /// Whether this process uses no bus: none is running, or it did not answer.

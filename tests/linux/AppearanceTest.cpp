@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
+#include "platform/linux/TextScale.h"
 #include "tests/linux/FakeService.h"
 
 #include <QDBusMetaType>
@@ -112,6 +113,22 @@ private Q_SLOTS:
             told.erase(std::unique(told.begin(), told.end()), told.end());
             told.removeLast(); // what it begins with is told to nobody
             QCOMPARE(host.told, told);
+        }
+    }
+
+    void textIsScaledOnce()
+    {
+        const std::tuple<double, QStringView, double, double> rows[] = {
+            // text scale, platform, pixel ratio, what is left
+            {1.25, u"xcb", 1.25, 1.0},      {1.25, u"xcb", 2.5, 1.0},
+            {1.1, u"xcb", 105 / 96.0, 1.0}, // 105.6 DPI, which Qt cuts
+            {0.9, u"xcb", 0.9, 1.0},        {2.0, u"xcb", 2.0, 1.0},
+            {1.25, u"xcb", 1.0, 1.25}, // a desktop that leaves Xft.dpi alone
+            {1.25, u"xcb", 2.0, 1.25},      {2.0, u"xcb", 1.0, 2.0},
+            {1.25, u"wayland", 1.25, 1.25},
+        };
+        for (const auto &[scale, platform, ratio, left] : rows) {
+            QCOMPARE(TextScale::remaining(scale, platform, ratio), left);
         }
     }
 

@@ -7,7 +7,7 @@
 #include <QDBusVirtualObject>
 
 /// A service on the test's bus during its lifetime: records calls, and gives the same answer to
-/// all.
+/// all, or without a value the error of an unknown method.
 class FakeService : public QDBusVirtualObject {
 public:
     FakeService(const QString &name, const QString &path, const QVariant &reply)
@@ -22,13 +22,15 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &) override
     {
         calls.append(QVariantList{message.interface(), message.member()} + message.arguments());
-        return bus.send(message.createReply(m_reply));
+        return isMute || (m_reply.isValid() && bus.send(message.createReply(m_reply)));
     }
     [[nodiscard]] QString introspect(const QString &) const override { return {}; }
 
     QDBusConnection bus;
     /// Interface, method and arguments of each call.
     QList<QVariantList> calls;
+    /// Then it answers nothing at all.
+    bool isMute = false;
 
 private:
     static QDBusConnection connection(const QString &name)

@@ -7,10 +7,10 @@
 #include "platform/linux/LinuxHost.h"
 #include "tests/linux/AuthOnlyBus.h"
 #include "tests/linux/FakeService.h"
+#include "tests/linux/OtherProcess.h"
 
 #include <QDBusArgument>
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -24,12 +24,7 @@ const QString scheme = QString::fromLatin1(BuildConstants::urlScheme);
 QByteArray start(const QStringList &urls, const QProcessEnvironment &environment,
                  const QString &name = applicationId)
 {
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), QStringList{u"--start"_s, name} + urls);
-    [&] { QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 20000); }();
-    return process.readAll();
+    return runOtherProcess(QStringList{u"--start"_s, name} + urls, environment);
 }
 
 /// The memory of this process, in pages.
@@ -183,6 +178,9 @@ private Q_SLOTS:
         environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
         environment.insert(u"XDG_RUNTIME_DIR"_s, home);
         environment.insert(u"DISPLAY"_s, u":77"_s);
+        // Qt's input method asks for the bus while the application object is made.
+        environment.insert(u"QT_IM_MODULE"_s, u"ibus"_s);
+        environment.insert(u"IBUS_USE_PORTAL"_s, u"1"_s);
         environment.insert(u"PATH"_s, home + u':' + environment.value(u"PATH"_s));
         QCOMPARE(start({}, environment), "only\n");
         QVERIFY(!QFile::exists(home + "/launched"_L1));

@@ -24,6 +24,14 @@ int startApplication(QStringList arguments, std::chrono::milliseconds remainingT
     return std::puts(host.claimSingleInstance(arguments, {}) ? "only" : "second") < 0 ? 1 : 0;
 }
 
+// Opens a link, then prints whether anyone handles it.
+int openLink(const QString &url)
+{
+    LinuxHost host(u"example.wzt.Test"_s);
+    host.openURL(url);
+    return std::puts(host.canOpenURL(url) ? "handled" : "unhandled") < 0 ? 1 : 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -32,6 +40,11 @@ int main(int argc, char **argv)
         const auto remainingTime = LinuxHost::prepare();
         const QGuiApplication application(argc, argv);
         return startApplication(QCoreApplication::arguments().sliced(2), remainingTime);
+    }
+    if (argc == 3 && qstrcmp(argv[1], "--open") == 0) {
+        (void)LinuxHost::prepare();
+        const QGuiApplication application(argc, argv);
+        return openLink(QCoreApplication::arguments().constLast());
     }
     const TestSession session;
     (void)LinuxHost::prepare();

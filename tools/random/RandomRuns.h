@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <functional>
+#include <iterator>
 
 /// Runs of random use, each of a seed of its own: as many as are asked for, from seed 1 on. With
 /// WZT_RANDOM_SECONDS they go on for that long, with WZT_RANDOM_SEED they begin there.
@@ -44,7 +45,7 @@ public:
     template <typename List>
     const auto &oneOf(const List &list)
     {
-        return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];
+        return std::data(list)[below(static_cast<int>(std::ssize(list)))];
     }
 
 private:

@@ -14,8 +14,6 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-#include <span>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -123,7 +121,7 @@ private:
             &Script::pop,     &Script::chooseTab, &Script::endOne,  &Script::endOne};
         ++m_depth;
         const bool animated = m_dice.below(4) > 0;
-        (this->*m_dice.oneOf(std::span(steps)))(animated);
+        (this->*m_dice.oneOf(steps))(animated);
         --m_depth;
     }
 

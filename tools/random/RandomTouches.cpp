@@ -9,9 +9,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QStringList>
-
-#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +32,7 @@ public:
     {
         service().addIssues(sandbox::demoIssues());
         m_dice.below(4) > 0 ? launchSignedIn() : launch();
-        open(*delegate().window(), m_dice.oneOf(std::span(sizes)), appearance());
+        open(*delegate().window(), m_dice.oneOf(sizes), appearance());
         m_rules.emplace(view(), *delegate().window()->presentation());
         TestWindow::settle();
         QGuiApplication::clipboard()->setText(u"two\nlines"_s);
@@ -95,7 +92,7 @@ private:
             {&Touches::edit, "edit"},
             {&Touches::change, "change"},
         };
-        const auto &[run, name] = m_dice.oneOf(std::span(steps));
+        const auto &[run, name] = m_dice.oneOf(steps);
         m_log.append(QLatin1String(name));
         m_rules->begin();
         (this->*run)();
@@ -172,7 +169,7 @@ private:
         Finger finger(view(), from);
         finger.move(from + QPoint(m_dice.between(20, 200), along));
         if (m_dice.once(3)) {
-            view().resize(m_dice.oneOf(std::span(sizes)));
+            view().resize(m_dice.oneOf(sizes));
         }
         finger.move(finger.at() + QPoint(m_dice.between(-20, 60), 0));
         finger.lift();
@@ -230,7 +227,7 @@ private:
 
     void key()
     {
-        const Qt::Key key = m_dice.oneOf(std::span(someKeys));
+        const Qt::Key key = m_dice.oneOf(someKeys);
         m_log.last() += u" %1"_s.arg(static_cast<int>(key), 0, 16);
         const bool chooses = key == Qt::Key_Return || key == Qt::Key_Space;
         TestWindow::key(key);
@@ -243,7 +240,7 @@ private:
     void edit()
     {
         constexpr Qt::Key edits[] = {Qt::Key_A, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y};
-        TestWindow::key(m_dice.oneOf(std::span(edits)), Qt::ControlModifier);
+        TestWindow::key(m_dice.oneOf(edits), Qt::ControlModifier);
         acted({}, 0);
     }
 
@@ -251,7 +248,7 @@ private:
     {
         switch (m_dice.below(5)) {
         case 0:
-            view().resize(m_dice.oneOf(std::span(sizes)));
+            view().resize(m_dice.oneOf(sizes));
             break;
         case 1:
             application().traits().setOverride(appearance());

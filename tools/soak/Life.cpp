@@ -94,7 +94,7 @@ private:
             &Person::change, &Person::ask,    &Person::ask,    &Person::fillDisk, &Person::report,
             &Person::report, &Person::goHome, &Person::goHome};
         note("step");
-        (this->*m_dice.oneOf(std::span(steps)))();
+        (this->*m_dice.oneOf(steps))();
         if (m_alarm) {
             change();
         }
@@ -114,7 +114,7 @@ private:
         finger.move(place());
         finger.lift();
     }
-    void key() { m_window.key(m_dice.oneOf(std::span(keys))); }
+    void key() { m_window.key(m_dice.oneOf(keys)); }
     void fillDisk() { m_session.setDiskFull(m_dice.once(2)); }
 
     void signIn()

@@ -117,9 +117,9 @@ private:
         } else if (m_dice.once(60)) {
             m_service.reset();
         } else if (m_dice.once(10)) {
-            m_service->stageConnection(m_dice.oneOf(std::span(connectionKinds)));
+            m_service->stageConnection(m_dice.oneOf(connectionKinds));
         } else if (m_dice.once(3)) {
-            m_service->stage("*", m_dice.oneOf(std::span(faults)));
+            m_service->stage("*", m_dice.oneOf(faults));
         }
     }
 

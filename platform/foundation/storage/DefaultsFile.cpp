@@ -38,7 +38,7 @@ State readAll(int descriptor, qsizetype maximumLength, QByteArray *content)
         if (length == 0 || (length < 0 && errno != EINTR)) {
             return length == 0 ? State::Read : State::Unavailable;
         }
-        content->append(buffer.data(), std::max(length, static_cast<ssize_t>(0)));
+        content->append(buffer.data(), std::max<ssize_t>(length, 0));
     }
     return State::Unreadable;
 }

@@ -11,8 +11,8 @@
 enum class UIImpactFeedbackStyle { Light = 0 };
 
 /// The one port to the machine: the services of the system that the application needs beside a
-/// window.
-/// Every call and every callback is on the main thread, and no call waits for another process.
+/// window. Every call and every callback is on the main thread; no call waits for another process
+/// longer than a second.
 class Host {
 public:
     virtual ~Host() = default;

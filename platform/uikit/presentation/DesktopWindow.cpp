@@ -6,13 +6,35 @@
 
 #include <QCoreApplication>
 #include <QIcon>
+#include <QPainter>
+#include <QPixmap>
 #include <QQmlEngine>
 #include <QScreen>
+#include <QSvgRenderer>
 
 namespace {
 
 /// The height that a desktop needs at most for a window's title, in points.
 constexpr int frame = 48;
+
+/// Those that a desktop asks for, in pixels.
+constexpr int iconSizes[] = {16, 32, 48, 64, 128};
+
+/// Drawn here: QIcon needs a plugin for SVG files, which may not be installed.
+QIcon drawnIcon(const QString &file)
+{
+    QSvgRenderer svg(file);
+    QIcon icon;
+    for (const int size : iconSizes) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        svg.render(&painter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
 
 } // namespace
 
@@ -30,8 +52,11 @@ DesktopWindow::DesktopWindow(UIWindow &window, const QString &title, const QStri
                       .expandedTo(m_view.minimumSize()));
     m_view.setInitialProperties({{QStringLiteral("control"), QVariant::fromValue(&window)}});
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/UIKit/UIWindowView.qml")));
+    if (iconFile.isEmpty()) {
+        return;
+    }
     // The icon is drawn after the first frame: whoever starts the application waits for that one.
-    const auto drawIcon = [this, iconFile] { m_view.setIcon(QIcon(iconFile)); };
+    const auto drawIcon = [this, iconFile] { m_view.setIcon(drawnIcon(iconFile)); };
     QObject::connect(
         &m_view, &QQuickWindow::frameSwapped, &m_view, drawIcon,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));

@@ -13,7 +13,7 @@ class UIWindow;
 /// application's main loop.
 class DesktopWindow {
 public:
-    /// `window` outlives this object. `iconFile`: the file of the icon, empty for none.
+    /// `window` outlives this object. `iconFile`: the SVG file of the icon, empty for none.
     DesktopWindow(UIWindow &window, const QString &title, const QString &iconFile);
     ~DesktopWindow();
 

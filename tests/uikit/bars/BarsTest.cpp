@@ -3,11 +3,13 @@
 #include "harness/WindowStage.h"
 #include "platform/uikit/bars/UINavigationItem.h"
 #include "platform/uikit/bars/UITabBarItem.h"
+#include "platform/uikit/presentation/DesktopWindow.h"
 #include "platform/uikit/presentation/UINavigationController.h"
 #include "platform/uikit/presentation/UITabBarController.h"
 #include "tests/uikit/TestPage.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQmlEngine>
 #include <QSignalSpy>
 
@@ -161,6 +163,23 @@ private Q_SLOTS:
         const QSignalSpy quits(shell.view().engine(), &QQmlEngine::quit);
         shell.key(Qt::Key_Q, Qt::ControlModifier);
         QCOMPARE(quits.size(), 1);
+    }
+
+    // Without a plugin of Qt's for SVG files, which would offer no sizes.
+    void theWindowHasAnIcon()
+    {
+        const WindowStage stage;
+        DesktopWindow desktop(*stage.window, u"Test"_s, u":/assets/testMark.svg"_s);
+        desktop.show();
+        QTRY_VERIFY(!desktop.view().icon().isNull());
+        const QIcon icon = desktop.view().icon();
+        QList<int> widths;
+        for (const QSize &size : icon.availableSizes()) {
+            widths.append(size.width());
+            const QImage picture = icon.pixmap(size, 1.0).toImage();
+            QCOMPARE(picture.pixelColor(size.width() / 4, size.height() / 2), QColor(Qt::red));
+        }
+        QCOMPARE(widths, (QList<int>{16, 32, 48, 64, 128}));
     }
 };
 
