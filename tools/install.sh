@@ -8,7 +8,7 @@
 libraries=(qt6-base-dev qt6-declarative-dev qt6-svg-dev libcurl4-openssl-dev libicu-dev
     libglib2.0-dev libssl-dev zlib1g-dev)
 service_libraries=(libboost-dev libsqlite3-dev libsodium-dev)
-qml_modules=(qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window)
+qml_modules=(qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick)
 tools=(g++ cmake ninja-build pkg-config qt6-declarative-dev-tools)
 build_packages=("${tools[@]}" "${libraries[@]}" "${service_libraries[@]}")
 fonts=(fonts-inter fonts-noto-color-emoji)
