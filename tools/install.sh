@@ -22,7 +22,7 @@ wayland_packages=(qt6-wayland)
 display_packages=(xvfb xauth blackbox x11vnc)
 emulator_packages=(crossbuild-essential-arm64 dpkg-dev qemu-user-static)
 
-# Installed services do not get the lock of apt.
+# Services that a package starts must not inherit our lock.
 as_root() { "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive "$@" {apt}<&- </dev/null; }
 
 # install_packages PACKAGES ARCHITECTURE: dpkg is told of the architecture first, if one is named.

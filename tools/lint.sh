@@ -84,7 +84,7 @@ rules() {
     forbid '\.(h|cpp)$' '(?<![\w<:.>])(bool|u?char|u?int|uInt|long|float|double|qreal|qu?int\d+|u?int\d+_t|(qsizetype|s?size_t|time_t|socklen_t))\((?!\))' 'Numbers are cast by static_cast'
     forbid '\.(h|cpp)$' 'template ?<(.*[, ])?class ' 'A parameter of a template is a typename'
     forbid '\.(h|cpp)$' 'operator=\(const \w+ ?&\) = delete' 'Copies are ruled out by Q_DISABLE_COPY_MOVE'
-    report 'Longer than 300 lines' "$(matching '\.(h|cpp|qml)$' | xargs -d '\n' awk 'FNR == 301 { print FILENAME }')"
+    report 'Longer than 300 lines' "$(matching '\.(h|cpp|qml|sh|cmake)$|^dev$' | xargs -d '\n' awk 'FNR == 301 { print FILENAME }')"
     included_once 'gio/' 'GIO'
     included_once 'unicode/' 'ICU'
     included_once 'boost/beast' 'Boost.Beast'

@@ -64,6 +64,7 @@ verb_package() {
             arch=${2-}
             shift
             ;;
+        -DWZT_PACKAGE_VERSION=*) fail "The version is that of the commit: $1" ;;
         -DWZT_*=*) constants+=("$1") ;;
         *) fail "Neither --arch ARCH nor -DWZT_CONSTANT=VALUE: $1" ;;
         esac

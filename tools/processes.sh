@@ -17,8 +17,8 @@ running() { jobs -rp | grep -qx "$1"; }
 # start PROGRAM...: out of reach of Ctrl-C, without our lock, and ended even when this script is killed.
 start() { setsid setpriv --pdeathsig TERM "$@" {lock}>&- & }
 
-# The same without a display, and with nothing of this user's settings, session or proxies. TERM is no crash
-# whose stack Qt Test should have printed by a debugger.
+# The same without a display, and with nothing of this user's settings, session or proxies. Without
+# QTEST_DISABLE_STACK_DUMP Qt Test answers TERM with a stack trace by a debugger.
 start_apart() {
     start env -i PATH="$PATH" HOME="$scratch" XDG_RUNTIME_DIR="$scratch/runtime" LC_ALL=C.UTF-8 TZ=Europe/Berlin \
         QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software QTEST_DISABLE_STACK_DUMP=1 "$@"

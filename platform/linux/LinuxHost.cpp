@@ -68,11 +68,20 @@ void LinuxHost::observeAppearance(std::function<void(const DesktopAppearance &)>
         m_palette = std::make_unique<DesktopPalette>([this] { reportAppearance(); });
         m_settings =
             std::make_unique<DesktopSettings>(m_bus->connection(), [this] { reportAppearance(); });
-        // Its geometry in points changes with the pixel ratio.
-        if (const QScreen *screen = QGuiApplication::primaryScreen()) {
-            QObject::connect(screen, &QScreen::geometryChanged, m_palette.get(),
-                             [this] { reportAppearance(); });
-        }
+        QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, m_palette.get(),
+                         [this] { followScreen(); });
+        return followScreen();
+    }
+    reportAppearance();
+}
+
+// The geometry of a screen in points changes with its pixel ratio.
+void LinuxHost::followScreen()
+{
+    QObject::disconnect(m_screenChanges);
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        m_screenChanges = QObject::connect(screen, &QScreen::geometryChanged, m_palette.get(),
+                                           [this] { reportAppearance(); });
     }
     reportAppearance();
 }

@@ -4,6 +4,7 @@
 
 #include "platform/uikit/base/Host.h"
 
+#include <QMetaObject>
 #include <QStringList>
 
 #include <chrono>
@@ -23,8 +24,8 @@ public:
     /// The total time that a start waits for the desktop.
     static constexpr std::chrono::milliseconds startTimeout = std::chrono::seconds(1);
 
-    /// Disables a session bus that does not answer, which would delay the plugins of the
-    /// application object, and the start of one where none is running. Call it before that object
+    /// Disables a session bus that does not answer: it would delay the plugins of the application
+    /// object. Where none is running, keeps libraries from starting one. Call it before that object
     /// is made. Returns the rest of `startTimeout`.
     [[nodiscard]] static std::chrono::milliseconds prepare();
 
@@ -51,6 +52,7 @@ public:
     void releaseSingleInstance();
 
 private:
+    void followScreen();
     void reportAppearance();
 
     QString m_applicationId;
@@ -58,6 +60,7 @@ private:
     std::unique_ptr<SessionBus> m_bus;
     std::unique_ptr<DesktopSettings> m_settings;
     std::unique_ptr<DesktopPalette> m_palette;
+    QMetaObject::Connection m_screenChanges;
     std::unique_ptr<SingleInstance> m_instance;
     std::function<void(const DesktopAppearance &)> m_appearanceChanged;
     DesktopAppearance m_reportedAppearance;

@@ -5,12 +5,12 @@
 class QDBusConnection;
 class QString;
 
-/// Links to other applications from inside a sandbox, through the desktop portal. Interface: the
+/// Links to other applications from inside a Flatpak, through the desktop portal. Interface: the
 /// desktop portal's documentation, org.freedesktop.portal.OpenURI. Main thread only.
 namespace PortalLinks {
 
-/// Whether links without a handler go to the portal: inside a sandbox, where no handler of the
-/// desktop is seen, and by the environment. The rule is GIO's.
+/// Whether links without a handler go to the portal: inside a Flatpak, where no handler of the
+/// desktop is seen, or if GTK_USE_PORTAL begins with 1. The rule is GIO's.
 [[nodiscard]] bool areUsed();
 
 /// Whether an application of the desktop handles the scheme of `url`; false for a text without a

@@ -9,9 +9,9 @@
 /// objects. Without a bus it is a closed connection, whose calls fail at once and silently.
 class SessionBus {
 public:
-    /// False if there is a session bus that does not answer until `deadline`. Disables that one for
-    /// this process, or the start of a new one where there is none. Call it first, before the
-    /// application object is made, whose plugins would wait much longer.
+    /// False if there is a session bus that does not answer until `deadline`; it is disabled for
+    /// this process then. Where there is none, none is started later. Call it before the
+    /// application object is made: its plugins would wait much longer.
     static bool probe(QDeadlineTimer deadline);
 
     /// Whether this process uses no bus: none is running, or it did not answer.

@@ -12,8 +12,8 @@ namespace TextScale {
 /// geometry of the screen. 1.0 stands for nothing.
 [[nodiscard]] double remaining(double textScale);
 
-/// The same on a Qt platform whose screen has `ratio` pixels to a point, without the factor that is
-/// set for this process alone.
+/// The same for the Qt platform `platform`, whose screen has `ratio` pixels to a point, leaving
+/// QT_SCALE_FACTOR out.
 [[nodiscard]] double remaining(double textScale, QStringView platform, double ratio);
 
 } // namespace TextScale

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The WZT Companion authors
 // SPDX-License-Identifier: MIT
+#include "harness/TestProcess.h"
 #include "harness/TestRunner.h"
 #include "platform/linux/LinuxHost.h"
 #include "platform/linux/TextScale.h"
 #include "tests/linux/FakeService.h"
+#include "tests/linux/OtherProcess.h"
 
 #include <QDBusMetaType>
 #include <QDBusVariant>
@@ -129,6 +131,26 @@ private Q_SLOTS:
         };
         for (const auto &[scale, platform, ratio, left] : rows) {
             QCOMPARE(TextScale::remaining(scale, platform, ratio), left);
+        }
+    }
+
+    // Qt makes the pixel ratio of QT_FONT_DPI as of Xft.dpi.
+    void textIsScaledOnceUnderX()
+    {
+        const Portal portal(SettingGroups{
+            {desktop, {{u"text-scaling-factor"_s, 1.25}, {u"enable-animations"_s, false}}}});
+        TestProcess display;
+        const QString hidden = u"-displayfd 1 -nolisten tcp -screen 0 800x600x24"_s;
+        const QByteArray number = display.startAndRead(u"Xvfb"_s, hidden.split(u' '));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(number));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+        const std::tuple<const char *, const char *, QByteArray> rows[] = {
+            {"96", "1", "1.25\n"}, {"120", "1", "1\n"}, {"120", "2", "1\n"}};
+        for (const auto &[dpi, factor, told] : rows) {
+            environment.insert(u"QT_FONT_DPI"_s, QLatin1StringView(dpi));
+            environment.insert(u"QT_SCALE_FACTOR"_s, QLatin1StringView(factor));
+            QCOMPARE(runOtherProcess({u"--scale"_s}, environment), told);
         }
     }
 

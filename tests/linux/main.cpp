@@ -32,6 +32,19 @@ int openLink(const QString &url)
     return std::puts(host.canOpenURL(url) ? "handled" : "unhandled") < 0 ? 1 : 0;
 }
 
+// Prints the text scale that is told once the desktop's settings are known.
+int printTextScale(const QGuiApplication &application)
+{
+    LinuxHost host(u"example.wzt.Test"_s);
+    host.observeAppearance([](const DesktopAppearance &appearance) {
+        if (appearance.reduceMotion) {
+            std::printf("%g\n", appearance.textScale);
+            QCoreApplication::quit();
+        }
+    });
+    return application.exec();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -40,6 +53,11 @@ int main(int argc, char **argv)
         const auto remainingTime = LinuxHost::prepare();
         const QGuiApplication application(argc, argv);
         return startApplication(QCoreApplication::arguments().sliced(2), remainingTime);
+    }
+    if (argc == 2 && qstrcmp(argv[1], "--scale") == 0) {
+        (void)LinuxHost::prepare();
+        const QGuiApplication application(argc, argv);
+        return printTextScale(application);
     }
     if (argc == 3 && qstrcmp(argv[1], "--open") == 0) {
         (void)LinuxHost::prepare();

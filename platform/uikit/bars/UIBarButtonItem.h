@@ -29,6 +29,7 @@ public:
     {
         m_systemItem = item;
     }
+    /// The style decides nothing: there is one drawing.
     template <typename Target, typename Method>
     UIBarButtonItem(const QString &title, UIBarButtonItemStyle, Target *target, Method action)
         : m_title(title),

@@ -15,6 +15,7 @@ class UIActivityIndicatorView : public UIView {
 public:
     enum class Style { Gray = 2 };
 
+    /// The style decides nothing: there is one drawing.
     explicit UIActivityIndicatorView(Style = Style::Gray) {}
 
     /// True unless set: while stopped the spinner is not shown at all.

@@ -203,13 +203,11 @@ void TableKeyboard::keyPressEvent(QKeyEvent *event)
     }
     switch (event->key()) {
     case Qt::Key_Up:
-        return moveByLine(-1);
     case Qt::Key_Down:
-        return moveByLine(1);
+        return moveByLine(event->key() == Qt::Key_Up ? -1 : 1);
     case Qt::Key_PageUp:
-        return moveByPage(-1);
     case Qt::Key_PageDown:
-        return moveByPage(1);
+        return moveByPage(event->key() == Qt::Key_PageUp ? -1 : 1);
     case Qt::Key_Home:
         moveToEnd(-1);
         return m_list.showBeginning();

@@ -26,6 +26,7 @@ class UITableView : public UIView {
     Q_PROPERTY(UIRefreshControl *refreshControl READ refreshControl NOTIFY changed FINAL)
 
 public:
+    /// The style decides nothing: there is one drawing.
     explicit UITableView(UITableViewStyle style);
     ~UITableView() override;
 
