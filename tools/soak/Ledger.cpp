@@ -78,6 +78,11 @@ void Ledger::end(End end, bool isDamaged)
     m_crashes += end == End::Crashed ? 1 : 0;
 }
 
+bool Ledger::hasTriedAll() const
+{
+    return m_changes > 0 && !m_told.isEmpty() && m_requests > 0 && m_objects.values.size() > 1;
+}
+
 bool Ledger::print(const QStringList &stored) const
 {
     const auto total = [](const Counts &counts) {

@@ -25,6 +25,9 @@ public:
     /// `isDamaged`: its start has found a file that could not be read.
     void end(End end, bool isDamaged);
 
+    /// Whether each row of the table has something to show.
+    [[nodiscard]] bool hasTriedAll() const;
+
     /// Prints the table, when the service has reports of these titles. Returns whether all is as
     /// it should be.
     [[nodiscard]] bool print(const QStringList &stored) const;

@@ -72,7 +72,8 @@ public:
         m_service->addIssues(sandbox::demoIssues());
     }
 
-    /// Half of the seconds for those that are killed; for 0, some lives and steps.
+    /// Half of the seconds for those that are killed; for 0, some lives and steps, and as many more
+    /// as it takes to try everything.
     bool run(int seconds)
     {
         QElapsedTimer time;
@@ -85,7 +86,7 @@ public:
         }
         live(Ledger::End::InOrder, 0, [&, steps = 0](const QByteArray &line) mutable {
             steps += line == "step" ? 1 : 0;
-            return seconds ? isTime(1000) : steps == stepsOfAShortRun;
+            return seconds ? isTime(1000) : steps >= stepsOfAShortRun && m_ledger.hasTriedAll();
         });
         startService();
         std::printf("full disks are         %s\n",
