@@ -35,6 +35,12 @@ QByteArray knownAddress()
     return !folder.isEmpty() && isOwnSocket(path) ? "unix:path=" + path : QByteArray();
 }
 
+QDBusConnection connectToSession()
+{
+    const QString name = u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+}
+
 } // namespace
 
 bool SessionBus::isDisabled()
@@ -54,12 +60,7 @@ bool SessionBus::probe(QDeadlineTimer deadline)
     return alive;
 }
 
-SessionBus::SessionBus()
-    : m_connection(QDBusConnection::connectToBus(
-        QDBusConnection::SessionBus,
-        u"wzt-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces)))
-{
-}
+SessionBus::SessionBus() : m_connection(connectToSession()) {}
 
 SessionBus::~SessionBus()
 {
